@@ -1,0 +1,46 @@
+// Text as the whole program handles it: UTF-16, so that a position in a string is a position in a text box.
+#pragma once
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <string_view>
+
+using Texte = std::u16string;
+using VueTexte = std::u16string_view;
+using Chemin = std::filesystem::path;
+
+inline constexpr VueTexte FinDeLigne = u"\r\n";
+inline constexpr char16_t Masque = 31; // stands for a letter that is still hidden
+
+// Blanks (U+0020) off both ends; tabs and line ends stay.
+Texte Rogner(VueTexte texte);
+Texte RognerAGauche(VueTexte texte);
+
+// One character for one: ligatures and capitals outside Latin-1, Latin Extended-A stay as they are.
+char16_t Minuscule(char16_t caractère);
+char16_t Majuscule(char16_t caractère);
+Texte Minuscules(VueTexte texte);
+Texte Majuscules(VueTexte texte);
+
+// Ill-formed sequences become U+FFFD.
+Texte DepuisUtf8(std::string_view octets);
+std::string EnUtf8(VueTexte texte);
+
+Chemin EnChemin(VueTexte texte);
+Texte DepuisChemin(const Chemin& chemin);
+// Folder, separator, name; no second separator behind a folder that ends in one.
+Texte Joindre(VueTexte dossier, VueTexte nom);
+
+// The leading number of a text, blanks skipped, point as decimal separator; 0 when there is none.
+double Valeur(VueTexte texte);
+// A whole text that is a number, comma or point as decimal separator, blanks around it allowed.
+std::optional<double> LireNombre(VueTexte texte);
+Texte EnTexte(long long nombre);
+// Seven significant digits, no trailing zero: the shape of a single-precision score.
+Texte EnTexte(float nombre, char16_t séparateurDécimal);
+
+// True when the character stands in the set; the rules test words by sets held in strings.
+inline bool Contient(VueTexte ensemble, char16_t caractère)
+{
+    return ensemble.find(caractère) != VueTexte::npos;
+}

@@ -1,0 +1,88 @@
+// A formatted text: UTF-16 characters, a format for each character, a format for each paragraph.
+#pragma once
+#include "core/Couleur.h"
+#include "core/Texte.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <functional>
+#include <vector>
+
+// Character format. Size in points; 12 and "Comic Sans MS" are what a new text starts with.
+struct Format {
+    Texte Police = u"Comic Sans MS";
+    double Taille = 12;
+    Couleur Teinte = CouleurAuto;
+    bool Gras = false;
+    bool Italique = false;
+    bool Souligné = false;
+    bool Barré = false;
+
+    friend bool operator==(const Format&, const Format&) = default;
+};
+
+enum class Alignement : std::uint8_t { Gauche, Droite, Centre, Justifié };
+
+// Paragraph format. Indents in twips; the first line's is relative to the left one.
+struct FormatParagraphe {
+    Alignement Alignement_ = Alignement::Gauche;
+    int RetraitGauche = 0;
+    int RetraitDroit = 0;
+    int RetraitPremièreLigne = 0;
+
+    friend bool operator==(const FormatParagraphe&, const FormatParagraphe&) = default;
+};
+
+// The characters [Début, Fin) share one format.
+struct Tranche {
+    std::size_t Début;
+    std::size_t Fin;
+    const Format* Format_;
+};
+struct TrancheParagraphes {
+    std::size_t Début;
+    std::size_t Fin;
+    const FormatParagraphe* Format_;
+};
+
+// Paragraphs end in CR LF, and both characters count as positions. Positions past the end are cut to the end.
+// Invariant: neighbouring runs differ, and the runs cover the text without a gap.
+// A paragraph's format is that of all its characters, its line end included; the last paragraph, even an empty
+// one, has a format of its own.
+class TexteRiche {
+public:
+    TexteRiche() = default;
+    explicit TexteRiche(Texte texte, Format format = {});
+
+    [[nodiscard]] const Texte& Caractères() const { return texte_; }
+    [[nodiscard]] std::size_t Longueur() const { return texte_.size(); }
+
+    // Of the character at that position; at the end of the text, of the last character (of a new text: the
+    // format that the next character typed will take).
+    [[nodiscard]] const Format& FormatEn(std::size_t position) const;
+    [[nodiscard]] const FormatParagraphe& ParagrapheEn(std::size_t position) const;
+    // Calls back for each run that meets [début, fin), cut to it, in text order.
+    void PourChaqueTranche(std::size_t début, std::size_t fin, const std::function<void(const Tranche&)>& visite) const;
+    void PourChaqueParagraphe(std::size_t début, std::size_t fin,
+                              const std::function<void(const TrancheParagraphes&)>& visite) const;
+
+    // Replaces [début, début + longueur). The new characters take `format`, or, without one, the format of the
+    // first replaced character; of an empty range, that of the character before it, or after it at the start.
+    void Remplacer(std::size_t début, std::size_t longueur, VueTexte nouveau, const Format* format = nullptr);
+    // Changes the format of every character of the range through `retouche`, once for each run.
+    void Formater(std::size_t début, std::size_t longueur, const std::function<void(Format&)>& retouche);
+    // Changes the format of every paragraph that the range touches; an empty range touches its paragraph.
+    void FormaterParagraphes(std::size_t début, std::size_t longueur,
+                             const std::function<void(FormatParagraphe&)>& retouche);
+    // Adds at the end: what readers build texts with; amortised constant cost for each character.
+    void Ajouter(VueTexte nouveau, const Format& format, const FormatParagraphe& paragraphe);
+
+    friend bool operator==(const TexteRiche&, const TexteRiche&);
+
+private:
+    Texte texte_;
+    // to be completed by the implementation: interned formats and run-length lists
+};
+
+// The struck-through runs in text order, a run that ends the text included.
+std::vector<Texte> MotsMarqués(const TexteRiche& texte);
