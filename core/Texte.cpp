@@ -20,7 +20,7 @@ bool EstChiffre(char16_t c)
 }
 
 // The longest leading number: sign, digits, one point or, when allowed, one comma.
-std::string NombreEnTête(VueTexte texte, bool virgule, std::size_t& lus)
+std::string NombreEnTête(VueTexte texte, bool virgule, std::size_t &lus)
 {
     std::string nombre;
     std::size_t i = 0;
@@ -46,7 +46,7 @@ std::string NombreEnTête(VueTexte texte, bool virgule, std::size_t& lus)
     return chiffre ? nombre : std::string{};
 }
 
-double Convertir(const std::string& nombre)
+double Convertir(const std::string &nombre)
 {
     double valeur = 0;
     std::from_chars(nombre.data(), nombre.data() + nombre.size(), valeur);
@@ -120,7 +120,11 @@ Texte DepuisUtf8(std::string_view octets)
     texte.reserve(octets.size());
     for (std::size_t i = 0; i < octets.size();) {
         const auto premier = static_cast<unsigned char>(octets[i]);
-        const int suite = premier < 0x80 ? 0 : premier >> 5 == 6 ? 1 : premier >> 4 == 14 ? 2 : premier >> 3 == 30 ? 3 : -1;
+        const int suite = premier < 0x80       ? 0
+                          : premier >> 5 == 6  ? 1
+                          : premier >> 4 == 14 ? 2
+                          : premier >> 3 == 30 ? 3
+                                               : -1;
         if (suite <= 0) {
             texte += suite == 0 ? static_cast<char16_t>(premier) : Remplacement;
             ++i;
@@ -153,7 +157,8 @@ std::string EnUtf8(VueTexte texte)
     for (std::size_t i = 0; i < texte.size(); ++i) {
         char32_t code = texte[i];
         if (code >= 0xD800 && code <= 0xDFFF) {
-            const bool paire = code < 0xDC00 && i + 1 < texte.size() && texte[i + 1] >= 0xDC00 && texte[i + 1] <= 0xDFFF;
+            const bool paire =
+                code < 0xDC00 && i + 1 < texte.size() && texte[i + 1] >= 0xDC00 && texte[i + 1] <= 0xDFFF;
             code = paire ? 0x10000 + ((code - 0xD800) << 10U) + (texte[++i] - 0xDC00U) : Remplacement;
         }
         if (code < 0x80) {
@@ -174,10 +179,10 @@ Chemin EnChemin(VueTexte texte)
     return {std::u8string(octets.begin(), octets.end())};
 }
 
-Texte DepuisChemin(const Chemin& chemin)
+Texte DepuisChemin(const Chemin &chemin)
 {
     const auto octets = chemin.u8string();
-    return DepuisUtf8({reinterpret_cast<const char*>(octets.data()), octets.size()});
+    return DepuisUtf8({reinterpret_cast<const char *>(octets.data()), octets.size()});
 }
 
 Texte Joindre(VueTexte dossier, VueTexte nom)

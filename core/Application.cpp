@@ -1,0 +1,20 @@
+#include "core/Application.h"
+
+#include "core/Ecran.h"
+
+void Application::Avertir(Texte message, Texte titre, Icône symbole)
+{
+    plateforme.AfficherBoîte({std::move(message), std::move(titre), Boutons::Ok, symbole});
+}
+
+bool Application::Demander(Texte question, Texte titre)
+{
+    return plateforme.AfficherBoîte({std::move(question), std::move(titre), Boutons::OuiNon, Icône::Question}) ==
+           Réponse::Oui;
+}
+
+std::size_t Tirer(Plateforme &plateforme, std::size_t n)
+{
+    plateforme.AmorcerHasard();
+    return static_cast<std::size_t>(static_cast<double>(n) * plateforme.Hasard());
+}

@@ -1,0 +1,105 @@
+// What stands where on a screen: a tree of rows, columns, grids and stacks of elements.
+// The drawing side turns it into the toolkit's own layouts.
+#pragma once
+#include <initializer_list>
+#include <type_traits>
+#include <vector>
+
+class Elément;
+template <class T>
+class Tableau;
+
+enum class Disposition {
+    Vide,       // nothing
+    Elément,    // one element
+    Ligne,      // children side by side
+    Colonne,    // children one under the other
+    Grille,     // children in rows of `colonnes`
+    Pile,       // children one upon the other, all as large as the place
+    Ressort,    // takes the room that is left
+    Centré,     // its child, as small as it is, in the middle of the place
+    Cadre,      // a frame element and what it holds
+    Couverture, // a frame element that covers the whole screen while it is visible, and what it holds
+    Libre,      // children at their own Left, Top, Width, Height, in twips
+    Toile,      // children at their own places in a drawing of largeur x hauteur, scaled to the place
+};
+
+struct Arrangement {
+    Disposition genre = Disposition::Vide;
+    Elément *élément = nullptr; // of Elément, Cadre and Couverture
+    std::vector<Arrangement> enfants;
+    int colonnes = 0;
+    int largeur = 0; // of a Toile, in its own units; else minimum in twips, 0: as the toolkit likes
+    int hauteur = 0;
+    int étirement = 0; // share of the room that is left; 0: only what it needs
+
+    Arrangement() = default;
+    Arrangement(Elément &un) : genre(Disposition::Elément), élément(&un) {} // NOLINT(google-explicit-constructor)
+    Arrangement(Disposition g, std::initializer_list<Arrangement> e) : genre(g), enfants(e) {}
+    Arrangement(Disposition g, std::vector<Arrangement> e) : genre(g), enfants(std::move(e)) {}
+};
+
+struct Ligne : Arrangement {
+    Ligne(std::initializer_list<Arrangement> e) : Arrangement(Disposition::Ligne, e) {}
+    template <class T>
+    explicit Ligne(Tableau<T> &éléments);
+};
+struct Colonne : Arrangement {
+    Colonne(std::initializer_list<Arrangement> e) : Arrangement(Disposition::Colonne, e) {}
+    template <class T>
+    explicit Colonne(Tableau<T> &éléments);
+};
+struct Grille : Arrangement {
+    Grille(int colonnes_, std::initializer_list<Arrangement> e) : Arrangement(Disposition::Grille, e)
+    {
+        colonnes = colonnes_;
+    }
+    template <class T>
+    Grille(int colonnes_, Tableau<T> &éléments);
+};
+struct Pile : Arrangement {
+    Pile(std::initializer_list<Arrangement> e) : Arrangement(Disposition::Pile, e) {}
+};
+struct Ressort : Arrangement {
+    Ressort() : Arrangement(Disposition::Ressort, std::vector<Arrangement>{}) { étirement = 1; }
+};
+struct Centré : Arrangement {
+    Centré(Arrangement un) : Arrangement(Disposition::Centré, {std::move(un)}) {} // NOLINT(google-explicit-constructor)
+};
+struct Cadre : Arrangement {
+    Cadre(Elément &cadre, Arrangement contenu) : Arrangement(Disposition::Cadre, {std::move(contenu)})
+    {
+        élément = &cadre;
+    }
+};
+struct Couverture : Arrangement {
+    Couverture(Elément &cadre, Arrangement contenu) : Arrangement(Disposition::Couverture, {std::move(contenu)})
+    {
+        élément = &cadre;
+    }
+};
+struct Libre : Arrangement {
+    Libre(std::initializer_list<Arrangement> e) : Arrangement(Disposition::Libre, e) {}
+};
+struct Toile : Arrangement {
+    Toile(int largeur_, int hauteur_, std::vector<Arrangement> e) : Arrangement(Disposition::Toile, std::move(e))
+    {
+        largeur = largeur_;
+        hauteur = hauteur_;
+        étirement = 1;
+    }
+};
+
+// The same place, taking its share of the room that is left.
+inline Arrangement Extensible(Arrangement un, int part = 1)
+{
+    un.étirement = part;
+    return un;
+}
+// The same place, never smaller than this (twips).
+inline Arrangement AuMoins(int largeur, int hauteur, Arrangement un)
+{
+    un.largeur = largeur;
+    un.hauteur = hauteur;
+    return un;
+}

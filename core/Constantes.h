@@ -1,0 +1,36 @@
+// The public state of the whole program: created empty at the start, alive until the end.
+#pragma once
+#include "core/Texte.h"
+
+#include <cstdint>
+
+struct Constantes {
+    Texte CheminAppli;         // the program's own folder, no trailing separator
+    Texte CheminRéseau;        // the folder named in Chemin.txt, empty if none
+    Texte CheminBilans;        // where the pupils' files lie
+    Texte NomElève;            // the signed-in pupil, stem of the .bil file
+    Texte CheminTexteElève;    // folder of the pupil's text, with its trailing separator
+    Texte NomFichierQuestions; // full path of the current questionnaire
+    bool QuestionnaireExiste = false;
+    double TempsDébut = 0; // seconds since midnight when the reading started
+    double SourisX = 0;    // where a drag of the questions began, twips inside their frame
+    double SourisY = 0;
+    std::uint8_t GroupeCourbes = 0; // 1 to 5
+    bool CodeValide = false;
+
+    Texte NomFichierTexte;   // full path of the text in the editor
+    Texte TitreFichierTexte; // its file title, no extension
+    Texte CheminTextes;      // where the editor's file dialogs start
+    bool TexteModifié = false;
+    bool ModeRechercher = false;
+    std::int16_t PositionRecherche = 0;
+
+    Texte LettresEtSignes;
+    Texte LettresEtChiffres;
+    Texte LettresSeules;
+
+    std::uint8_t NoteSérie = 0;        // index of the last word of the series
+    long PositionPoursuite = 0;        // place of the character being revealed, from 0
+    std::int16_t VitessePoursuite = 0; // ms between two ordinary letters
+    bool CorrectionEnCours = false;    // a double click has just been answered
+};

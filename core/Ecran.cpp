@@ -1,0 +1,122 @@
+#include "core/Ecran.h"
+
+#include <algorithm>
+
+Ecran::Ecran(Application &application, std::string_view nom, Texte légende)
+    : Nom(nom), Caption(*this, std::move(légende)), application_(application), état(application.état)
+{
+}
+
+Ecran::~Ecran() = default;
+
+void Ecran::Changer()
+{
+    if (Observateur)
+        Observateur();
+}
+
+void Ecran::Afficher()
+{
+    Charger();
+    if (chargé_)
+        application_.plateforme.AfficherModal(*this);
+}
+
+void Ecran::Charger()
+{
+    chargé_ = true;
+    arrangement_ = Disposer();
+    couvertures_.clear();
+    Ranger(arrangement_, nullptr);
+    Load();
+}
+
+void Ecran::Ranger(const Arrangement &place, const Elément *conteneur)
+{
+    if (place.élément != nullptr)
+        place.élément->RangerDans(conteneur);
+    if (place.genre == Disposition::Couverture)
+        couvertures_.push_back(place.élément);
+    const auto *intérieur = place.élément != nullptr ? place.élément : conteneur;
+    for (const auto &enfant : place.enfants)
+        Ranger(enfant, intérieur);
+}
+
+void Ecran::Activer()
+{
+    activé_ = true;
+    if (chargé_)
+        Activate();
+}
+
+void Ecran::Dimensionner(int largeur, int hauteur)
+{
+    Width.Noter(largeur);
+    Height.Noter(hauteur);
+    if (chargé_)
+        Resize();
+}
+
+void Ecran::FermerParCroix()
+{
+    if (chargé_)
+        QueryUnload();
+}
+
+bool Ecran::Taper(Touche touche)
+{
+    if (chargé_)
+        KeyPress(touche);
+    return touche.Avalée;
+}
+
+void Ecran::Décharger()
+{
+    if (!chargé_)
+        return;
+    chargé_ = false; // first: nothing that Unload sets off may come back here
+    Unload();
+    for (auto *minuterie : minuteries_)
+        minuterie->Enabled = false;
+    application_.plateforme.EcranFermé(*this);
+}
+
+void Ecran::PrendreFocus(Elément &élément)
+{
+    focus_ = &élément;
+    Changer();
+}
+
+void Ecran::Avertir(Texte message, Texte titre)
+{
+    application_.Avertir(std::move(message), std::move(titre));
+}
+
+bool Ecran::Ouvrir(std::string_view nom)
+{
+    const auto rangée = application_.écrans.find(nom);
+    if (rangée == application_.écrans.end())
+        return false;
+    rangée->second(*this)->Afficher();
+    return true;
+}
+
+void Ecran::AjouterNomElève()
+{
+    Caption = Caption() + u" / " + état.NomElève;
+}
+
+bool Ecran::Attendre(std::chrono::milliseconds durée)
+{
+    return application_.plateforme.Attendre(*this, durée);
+}
+
+bool Ecran::AttendreArrêt(Timer &minuterie)
+{
+    return application_.plateforme.AttendreArrêt(minuterie);
+}
+
+void Ecran::Repeindre()
+{
+    application_.plateforme.Repeindre(*this);
+}

@@ -1,0 +1,117 @@
+// A screen: elements, their arrangement, and the handlers of their events.
+#pragma once
+#include "core/Application.h"
+#include "core/Arrangement.h"
+#include "core/Elements.h"
+#include "core/RichTextBox.h"
+
+#include <chrono>
+
+// An entry of the menu bar, with what opens below it. A separator has no option.
+struct Menu {
+    MenuOption *option = nullptr;
+    std::vector<Menu> sous{};
+};
+
+class Ecran : public Observable {
+public:
+    Ecran(Application &application, std::string_view nom, Texte légende);
+    Ecran(const Ecran &) = delete;
+    Ecran &operator=(const Ecran &) = delete;
+    virtual ~Ecran();
+
+    const std::string Nom; // "frmPendu"
+    Propriété<Texte> Caption;
+    Propriété<Couleur> BackColor{*this, CouleurAuto};
+    Propriété<int> Width{*this, 0}; // inner size in twips, once shown
+    Propriété<int> Height{*this, 0};
+    bool PetiteFenêtre = false; // as large as its contents, not as the display
+
+    // Filled rectangles and lines behind the elements, in a scale of their own: see Dessin.
+    Propriété<Dessin> Fond{*this, Dessin{}};
+
+    std::function<void()> Observateur;
+
+    // Loads the screen, shows it above the others and comes back when it is closed.
+    void Afficher();
+    // The load alone. A screen may unload itself during its load.
+    void Charger();
+    // The screen has come to the front, at its first showing or after one above it was closed.
+    void Activer();
+    // Its inner size has changed (twips).
+    void Dimensionner(int largeur, int hauteur);
+    // The user closes it by its close box.
+    void FermerParCroix();
+    // A key before the focused element sees it. True: swallowed.
+    bool Taper(Touche touche);
+    void Décharger();
+    [[nodiscard]] bool EstChargé() const { return chargé_; }
+    [[nodiscard]] bool EstActif() const { return chargé_ && activé_; }
+
+    [[nodiscard]] Application &ApplicationDe() const { return application_; }
+    [[nodiscard]] const Arrangement &Disposition_() const { return arrangement_; }
+    [[nodiscard]] virtual std::vector<Menu> Menus() { return {}; }
+    [[nodiscard]] const std::vector<Elément *> &Eléments() const { return éléments_; }
+    [[nodiscard]] const std::vector<Timer *> &Minuteries() const { return minuteries_; }
+    // The frames that hide all the rest while they are visible.
+    [[nodiscard]] const std::vector<const Elément *> &Couvertures() const { return couvertures_; }
+    [[nodiscard]] Elément *Focus() const { return focus_; }
+    void PrendreFocus(Elément &élément);
+
+    void Inscrire(Elément &élément) { éléments_.push_back(&élément); }
+    void Inscrire(Timer &minuterie) { minuteries_.push_back(&minuterie); }
+    void Changer() override;
+
+protected:
+    virtual void Load() {}
+    virtual void Unload() {}
+    virtual void Activate() {}
+    virtual void Resize() {}
+    virtual void KeyPress(Touche &) {}
+    // The close box; by default the screen is unloaded.
+    virtual void QueryUnload() { Décharger(); }
+    virtual Arrangement Disposer() = 0;
+
+    Application &application_;
+    Constantes &état;
+
+    // Shorthands for what handlers say all the time.
+    void Avertir(Texte message, Texte titre = u"Avertissement");
+    // Opens the screen of that name above this one. False: the table has none.
+    bool Ouvrir(std::string_view nom);
+    // Caption, " / ", the pupil's name.
+    void AjouterNomElève();
+    [[nodiscard]] bool Attendre(std::chrono::milliseconds durée);
+    [[nodiscard]] bool AttendreArrêt(Timer &minuterie);
+    void Repeindre();
+
+private:
+    void Ranger(const Arrangement &place, const Elément *conteneur);
+
+    bool chargé_ = false;
+    bool activé_ = false;
+    Elément *focus_ = nullptr;
+    std::vector<Elément *> éléments_;
+    std::vector<Timer *> minuteries_;
+    std::vector<const Elément *> couvertures_;
+    Arrangement arrangement_;
+};
+
+template <class T>
+std::vector<Arrangement> EnPlaces(Tableau<T> &éléments)
+{
+    return {éléments.begin(), éléments.end()};
+}
+template <class T>
+Ligne::Ligne(Tableau<T> &éléments) : Arrangement(Disposition::Ligne, EnPlaces(éléments))
+{
+}
+template <class T>
+Colonne::Colonne(Tableau<T> &éléments) : Arrangement(Disposition::Colonne, EnPlaces(éléments))
+{
+}
+template <class T>
+Grille::Grille(int colonnes_, Tableau<T> &éléments) : Arrangement(Disposition::Grille, EnPlaces(éléments))
+{
+    colonnes = colonnes_;
+}
