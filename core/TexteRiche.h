@@ -18,7 +18,7 @@ struct Format {
     bool Souligné = false;
     bool Barré = false;
 
-    friend bool operator==(const Format &, const Format &) = default;
+    friend bool operator==(const Format&, const Format&) = default;
 };
 
 enum class Alignement : std::uint8_t { Gauche, Droite, Centre, Justifié };
@@ -30,19 +30,19 @@ struct FormatParagraphe {
     int RetraitDroit = 0;
     int RetraitPremièreLigne = 0;
 
-    friend bool operator==(const FormatParagraphe &, const FormatParagraphe &) = default;
+    friend bool operator==(const FormatParagraphe&, const FormatParagraphe&) = default;
 };
 
 // The characters [Début, Fin) share one format.
 struct Tranche {
     std::size_t Début;
     std::size_t Fin;
-    const Format *Format_;
+    const Format* Format_;
 };
 struct TrancheParagraphes {
     std::size_t Début;
     std::size_t Fin;
-    const FormatParagraphe *Format_;
+    const FormatParagraphe* Format_;
 };
 
 // Paragraphs end in CR LF, and both characters count as positions. Positions past the end are cut to the end.
@@ -54,31 +54,30 @@ public:
     TexteRiche() = default;
     explicit TexteRiche(Texte texte, Format format = {});
 
-    [[nodiscard]] const Texte &Caractères() const { return texte_; }
+    [[nodiscard]] const Texte& Caractères() const { return texte_; }
     [[nodiscard]] std::size_t Longueur() const { return texte_.size(); }
 
     // Of the character at that position; at the end of the text, of the last character (of a new text: the
     // format that the next character typed will take).
-    [[nodiscard]] const Format &FormatEn(std::size_t position) const;
-    [[nodiscard]] const FormatParagraphe &ParagrapheEn(std::size_t position) const;
+    [[nodiscard]] const Format& FormatEn(std::size_t position) const;
+    [[nodiscard]] const FormatParagraphe& ParagrapheEn(std::size_t position) const;
     // Calls back for each run that meets [début, fin), cut to it, in text order.
-    void PourChaqueTranche(std::size_t début, std::size_t fin,
-                           const std::function<void(const Tranche &)> &visite) const;
+    void PourChaqueTranche(std::size_t début, std::size_t fin, const std::function<void(const Tranche&)>& visite) const;
     void PourChaqueParagraphe(std::size_t début, std::size_t fin,
-                              const std::function<void(const TrancheParagraphes &)> &visite) const;
+                              const std::function<void(const TrancheParagraphes&)>& visite) const;
 
     // Replaces [début, début + longueur). The new characters take `format`, or, without one, the format of the
     // first replaced character; of an empty range, that of the character before it, or after it at the start.
-    void Remplacer(std::size_t début, std::size_t longueur, VueTexte nouveau, const Format *format = nullptr);
+    void Remplacer(std::size_t début, std::size_t longueur, VueTexte nouveau, const Format* format = nullptr);
     // Changes the format of every character of the range through `retouche`, once for each run.
-    void Formater(std::size_t début, std::size_t longueur, const std::function<void(Format &)> &retouche);
+    void Formater(std::size_t début, std::size_t longueur, const std::function<void(Format&)>& retouche);
     // Changes the format of every paragraph that the range touches; an empty range touches its paragraph.
     void FormaterParagraphes(std::size_t début, std::size_t longueur,
-                             const std::function<void(FormatParagraphe &)> &retouche);
+                             const std::function<void(FormatParagraphe&)>& retouche);
     // Adds at the end: what readers build texts with; amortised constant cost for each character.
-    void Ajouter(VueTexte nouveau, const Format &format, const FormatParagraphe &paragraphe);
+    void Ajouter(VueTexte nouveau, const Format& format, const FormatParagraphe& paragraphe);
 
-    friend bool operator==(const TexteRiche &, const TexteRiche &);
+    friend bool operator==(const TexteRiche&, const TexteRiche&);
 
 private:
     Texte texte_;
@@ -89,4 +88,4 @@ private:
 Texte NormaliserLignes(VueTexte texte);
 
 // The struck-through runs in text order, a run that ends the text included.
-std::vector<Texte> MotsMarqués(const TexteRiche &texte);
+std::vector<Texte> MotsMarqués(const TexteRiche& texte);
