@@ -14,13 +14,13 @@ class Ecran;
 class Application {
 public:
     // Makes the screen; the opener is the screen that asks for it.
-    using Fabrique = std::function<std::unique_ptr<Ecran>(Ecran &ouvreur)>;
+    using Fabrique = std::function<std::unique_ptr<Ecran>(Ecran& ouvreur)>;
 
-    explicit Application(Plateforme &p) : plateforme(p) {}
-    Application(const Application &) = delete;
-    Application &operator=(const Application &) = delete;
+    explicit Application(Plateforme& p) : plateforme(p) {}
+    Application(const Application&) = delete;
+    Application& operator=(const Application&) = delete;
 
-    Plateforme &plateforme;
+    Plateforme& plateforme;
     Constantes état;
     std::map<std::string, Fabrique, std::less<>> écrans; // filled by the unit that knows them all
 

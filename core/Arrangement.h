@@ -26,7 +26,7 @@ enum class Disposition {
 
 struct Arrangement {
     Disposition genre = Disposition::Vide;
-    Elément *élément = nullptr; // of Elément, Cadre and Couverture
+    Elément* élément = nullptr; // of Elément, Cadre and Couverture
     std::vector<Arrangement> enfants;
     int colonnes = 0;
     int largeur = 0; // of a Toile, in its own units; else minimum in twips, 0: as the toolkit likes
@@ -34,7 +34,7 @@ struct Arrangement {
     int étirement = 0; // share of the room that is left; 0: only what it needs
 
     Arrangement() = default;
-    Arrangement(Elément &un) : genre(Disposition::Elément), élément(&un) {} // NOLINT(google-explicit-constructor)
+    Arrangement(Elément& un) : genre(Disposition::Elément), élément(&un) {} // NOLINT(google-explicit-constructor)
     Arrangement(Disposition g, std::initializer_list<Arrangement> e) : genre(g), enfants(e) {}
     Arrangement(Disposition g, std::vector<Arrangement> e) : genre(g), enfants(std::move(e)) {}
 };
@@ -42,12 +42,12 @@ struct Arrangement {
 struct Ligne : Arrangement {
     Ligne(std::initializer_list<Arrangement> e) : Arrangement(Disposition::Ligne, e) {}
     template <class T>
-    explicit Ligne(Tableau<T> &éléments);
+    explicit Ligne(Tableau<T>& éléments);
 };
 struct Colonne : Arrangement {
     Colonne(std::initializer_list<Arrangement> e) : Arrangement(Disposition::Colonne, e) {}
     template <class T>
-    explicit Colonne(Tableau<T> &éléments);
+    explicit Colonne(Tableau<T>& éléments);
 };
 struct Grille : Arrangement {
     Grille(int colonnes_, std::initializer_list<Arrangement> e) : Arrangement(Disposition::Grille, e)
@@ -55,7 +55,7 @@ struct Grille : Arrangement {
         colonnes = colonnes_;
     }
     template <class T>
-    Grille(int colonnes_, Tableau<T> &éléments);
+    Grille(int colonnes_, Tableau<T>& éléments);
 };
 struct Pile : Arrangement {
     Pile(std::initializer_list<Arrangement> e) : Arrangement(Disposition::Pile, e) {}
@@ -67,13 +67,13 @@ struct Centré : Arrangement {
     Centré(Arrangement un) : Arrangement(Disposition::Centré, {std::move(un)}) {} // NOLINT(google-explicit-constructor)
 };
 struct Cadre : Arrangement {
-    Cadre(Elément &cadre, Arrangement contenu) : Arrangement(Disposition::Cadre, {std::move(contenu)})
+    Cadre(Elément& cadre, Arrangement contenu) : Arrangement(Disposition::Cadre, {std::move(contenu)})
     {
         élément = &cadre;
     }
 };
 struct Couverture : Arrangement {
-    Couverture(Elément &cadre, Arrangement contenu) : Arrangement(Disposition::Couverture, {std::move(contenu)})
+    Couverture(Elément& cadre, Arrangement contenu) : Arrangement(Disposition::Couverture, {std::move(contenu)})
     {
         élément = &cadre;
     }

@@ -7,7 +7,7 @@
 struct Point {
     double x = 0;
     double y = 0;
-    friend bool operator==(const Point &, const Point &) = default;
+    friend bool operator==(const Point&, const Point&) = default;
 };
 
 enum class GenreForme { Ellipse, Polygone, Tracé, Courbe };
@@ -20,12 +20,12 @@ struct Forme {
     Couleur trait = Noir;       // CouleurAuto: no outline
     double épaisseur = 1;       // in units of the drawing
     Couleur fond = CouleurAuto; // CouleurAuto: not filled
-    friend bool operator==(const Forme &, const Forme &) = default;
+    friend bool operator==(const Forme&, const Forme&) = default;
 };
 
 struct Dessin {
     double largeur = 0;
     double hauteur = 0;
     std::vector<Forme> formes;
-    friend bool operator==(const Dessin &, const Dessin &) = default;
+    friend bool operator==(const Dessin&, const Dessin&) = default;
 };

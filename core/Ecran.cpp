@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-Ecran::Ecran(Application &application, std::string_view nom, Texte légende)
+Ecran::Ecran(Application& application, std::string_view nom, Texte légende)
     : Nom(nom), Caption(*this, std::move(légende)), application_(application), état(application.état)
 {
 }
@@ -31,14 +31,14 @@ void Ecran::Charger()
     Load();
 }
 
-void Ecran::Ranger(const Arrangement &place, const Elément *conteneur)
+void Ecran::Ranger(const Arrangement& place, const Elément* conteneur)
 {
     if (place.élément != nullptr)
         place.élément->RangerDans(conteneur);
     if (place.genre == Disposition::Couverture)
         couvertures_.push_back(place.élément);
-    const auto *intérieur = place.élément != nullptr ? place.élément : conteneur;
-    for (const auto &enfant : place.enfants)
+    const auto* intérieur = place.élément != nullptr ? place.élément : conteneur;
+    for (const auto& enfant : place.enfants)
         Ranger(enfant, intérieur);
 }
 
@@ -76,12 +76,12 @@ void Ecran::Décharger()
         return;
     chargé_ = false; // first: nothing that Unload sets off may come back here
     Unload();
-    for (auto *minuterie : minuteries_)
+    for (auto* minuterie : minuteries_)
         minuterie->Enabled = false;
     application_.plateforme.EcranFermé(*this);
 }
 
-void Ecran::PrendreFocus(Elément &élément)
+void Ecran::PrendreFocus(Elément& élément)
 {
     focus_ = &élément;
     Changer();
@@ -92,12 +92,18 @@ void Ecran::Avertir(Texte message, Texte titre)
     application_.Avertir(std::move(message), std::move(titre));
 }
 
+void Ecran::Ouvrir(Ecran& autre)
+{
+    autre.Afficher();
+    Activer();
+}
+
 bool Ecran::Ouvrir(std::string_view nom)
 {
     const auto rangée = application_.écrans.find(nom);
     if (rangée == application_.écrans.end())
         return false;
-    rangée->second(*this)->Afficher();
+    Ouvrir(*rangée->second(*this));
     return true;
 }
 
@@ -106,12 +112,24 @@ void Ecran::AjouterNomElève()
     Caption = Caption() + u" / " + état.NomElève;
 }
 
+void Ecran::AjusterBoîte(RichTextBox& boîte, int marge)
+{
+    static constexpr int Minimum = 1000;
+    if (Width <= Minimum || Height <= Minimum) {
+        Width = Minimum;
+        Height = Minimum;
+        return;
+    }
+    boîte.Width = Width - 150;
+    boîte.Height = std::max(Height - marge, 0);
+}
+
 bool Ecran::Attendre(std::chrono::milliseconds durée)
 {
     return application_.plateforme.Attendre(*this, durée);
 }
 
-bool Ecran::AttendreArrêt(Timer &minuterie)
+bool Ecran::AttendreArrêt(Timer& minuterie)
 {
     return application_.plateforme.AttendreArrêt(minuterie);
 }

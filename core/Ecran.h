@@ -9,15 +9,15 @@
 
 // An entry of the menu bar, with what opens below it. A separator has no option.
 struct Menu {
-    MenuOption *option = nullptr;
+    MenuOption* option = nullptr;
     std::vector<Menu> sous{};
 };
 
 class Ecran : public Observable {
 public:
-    Ecran(Application &application, std::string_view nom, Texte légende);
-    Ecran(const Ecran &) = delete;
-    Ecran &operator=(const Ecran &) = delete;
+    Ecran(Application& application, std::string_view nom, Texte légende);
+    Ecran(const Ecran&) = delete;
+    Ecran& operator=(const Ecran&) = delete;
     virtual ~Ecran();
 
     const std::string Nom; // "frmPendu"
@@ -48,18 +48,18 @@ public:
     [[nodiscard]] bool EstChargé() const { return chargé_; }
     [[nodiscard]] bool EstActif() const { return chargé_ && activé_; }
 
-    [[nodiscard]] Application &ApplicationDe() const { return application_; }
-    [[nodiscard]] const Arrangement &Disposition_() const { return arrangement_; }
+    [[nodiscard]] Application& ApplicationDe() const { return application_; }
+    [[nodiscard]] const Arrangement& Disposition_() const { return arrangement_; }
     [[nodiscard]] virtual std::vector<Menu> Menus() { return {}; }
-    [[nodiscard]] const std::vector<Elément *> &Eléments() const { return éléments_; }
-    [[nodiscard]] const std::vector<Timer *> &Minuteries() const { return minuteries_; }
+    [[nodiscard]] const std::vector<Elément*>& Eléments() const { return éléments_; }
+    [[nodiscard]] const std::vector<Timer*>& Minuteries() const { return minuteries_; }
     // The frames that hide all the rest while they are visible.
-    [[nodiscard]] const std::vector<const Elément *> &Couvertures() const { return couvertures_; }
-    [[nodiscard]] Elément *Focus() const { return focus_; }
-    void PrendreFocus(Elément &élément);
+    [[nodiscard]] const std::vector<const Elément*>& Couvertures() const { return couvertures_; }
+    [[nodiscard]] Elément* Focus() const { return focus_; }
+    void PrendreFocus(Elément& élément);
 
-    void Inscrire(Elément &élément) { éléments_.push_back(&élément); }
-    void Inscrire(Timer &minuterie) { minuteries_.push_back(&minuterie); }
+    void Inscrire(Elément& élément) { éléments_.push_back(&élément); }
+    void Inscrire(Timer& minuterie) { minuteries_.push_back(&minuterie); }
     void Changer() override;
 
 protected:
@@ -67,51 +67,56 @@ protected:
     virtual void Unload() {}
     virtual void Activate() {}
     virtual void Resize() {}
-    virtual void KeyPress(Touche &) {}
+    virtual void KeyPress(Touche&) {}
     // The close box; by default the screen is unloaded.
     virtual void QueryUnload() { Décharger(); }
     virtual Arrangement Disposer() = 0;
 
-    Application &application_;
-    Constantes &état;
+    Application& application_;
+    Constantes& état;
 
     // Shorthands for what handlers say all the time.
     void Avertir(Texte message, Texte titre = u"Avertissement");
-    // Opens the screen of that name above this one. False: the table has none.
+    // Shows a screen above this one, which is activated again afterwards.
+    void Ouvrir(Ecran& autre);
+    // The same with the screen of that name. False: the table has none.
     bool Ouvrir(std::string_view nom);
     // Caption, " / ", the pupil's name.
     void AjouterNomElève();
+    // The rule by which a text fills its screen: 150 twips less in width, `marge` less in height; a screen of
+    // less than 1000 twips either way is set to 1000 by 1000.
+    void AjusterBoîte(RichTextBox& boîte, int marge = 1100);
     [[nodiscard]] bool Attendre(std::chrono::milliseconds durée);
-    [[nodiscard]] bool AttendreArrêt(Timer &minuterie);
+    [[nodiscard]] bool AttendreArrêt(Timer& minuterie);
     void Repeindre();
 
 private:
-    void Ranger(const Arrangement &place, const Elément *conteneur);
+    void Ranger(const Arrangement& place, const Elément* conteneur);
 
     bool chargé_ = false;
     bool activé_ = false;
-    Elément *focus_ = nullptr;
-    std::vector<Elément *> éléments_;
-    std::vector<Timer *> minuteries_;
-    std::vector<const Elément *> couvertures_;
+    Elément* focus_ = nullptr;
+    std::vector<Elément*> éléments_;
+    std::vector<Timer*> minuteries_;
+    std::vector<const Elément*> couvertures_;
     Arrangement arrangement_;
 };
 
 template <class T>
-std::vector<Arrangement> EnPlaces(Tableau<T> &éléments)
+std::vector<Arrangement> EnPlaces(Tableau<T>& éléments)
 {
     return {éléments.begin(), éléments.end()};
 }
 template <class T>
-Ligne::Ligne(Tableau<T> &éléments) : Arrangement(Disposition::Ligne, EnPlaces(éléments))
+Ligne::Ligne(Tableau<T>& éléments) : Arrangement(Disposition::Ligne, EnPlaces(éléments))
 {
 }
 template <class T>
-Colonne::Colonne(Tableau<T> &éléments) : Arrangement(Disposition::Colonne, EnPlaces(éléments))
+Colonne::Colonne(Tableau<T>& éléments) : Arrangement(Disposition::Colonne, EnPlaces(éléments))
 {
 }
 template <class T>
-Grille::Grille(int colonnes_, Tableau<T> &éléments) : Arrangement(Disposition::Grille, EnPlaces(éléments))
+Grille::Grille(int colonnes_, Tableau<T>& éléments) : Arrangement(Disposition::Grille, EnPlaces(éléments))
 {
     colonnes = colonnes_;
 }

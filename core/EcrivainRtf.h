@@ -5,4 +5,4 @@
 #include <string>
 
 // Pure ASCII: characters outside Windows-1252 go as \uN, those of its upper half as \'hh.
-std::string EcrireRtf(const TexteRiche &texte);
+std::string EcrireRtf(const TexteRiche& texte);

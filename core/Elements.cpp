@@ -9,7 +9,7 @@
 
 // ---- Elément -------------------------------------------------------------------------------------------------
 
-Elément::Elément(Ecran &écran, std::string_view nom, EtatInitial initial)
+Elément::Elément(Ecran& écran, std::string_view nom, EtatInitial initial)
     : Nom(nom),
       Visible(*this, initial.Visible),
       Enabled(*this, initial.Enabled),
@@ -28,16 +28,16 @@ bool Elément::EstAtteignable() const
 {
     if (!écran_.EstChargé())
         return false;
-    const Elément *couverture = nullptr; // the one that this element lies in
-    for (const auto *un = this; un != nullptr; un = un->conteneur_) {
+    const Elément* couverture = nullptr; // the one that this element lies in
+    for (const auto* un = this; un != nullptr; un = un->conteneur_) {
         if (!un->Visible)
             return false;
-        const auto &toutes = écran_.Couvertures();
+        const auto& toutes = écran_.Couvertures();
         if (std::find(toutes.begin(), toutes.end(), un) != toutes.end())
             couverture = un;
     }
     return std::all_of(écran_.Couvertures().begin(), écran_.Couvertures().end(),
-                       [&](const Elément *autre) { return autre == couverture || !autre->Visible; });
+                       [&](const Elément* autre) { return autre == couverture || !autre->Visible; });
 }
 
 void Elément::SetFocus()
@@ -60,14 +60,7 @@ void Elément::Changer()
 
 namespace {
 
-EtatInitial Légende(Texte légende)
-{
-    EtatInitial initial;
-    initial.Caption = std::move(légende);
-    return initial;
-}
-
-void Appeler(const std::function<void()> &événement)
+void Appeler(const std::function<void()>& événement)
 {
     if (événement)
         événement();
@@ -75,12 +68,8 @@ void Appeler(const std::function<void()> &événement)
 
 } // namespace
 
-Légendé::Légendé(Ecran &écran, std::string_view nom, EtatInitial initial)
+Légendé::Légendé(Ecran& écran, std::string_view nom, EtatInitial initial)
     : Elément(écran, nom, initial), Caption(*this, initial.Caption)
-{
-}
-
-Légendé::Légendé(Ecran &écran, std::string_view nom, Texte légende) : Légendé(écran, nom, Légende(std::move(légende)))
 {
 }
 
@@ -90,12 +79,10 @@ void Légendé::Cliquer()
         Appeler(Click);
 }
 
-Label::Label(Ecran &écran, std::string_view nom, EtatInitial initial)
+Label::Label(Ecran& écran, std::string_view nom, EtatInitial initial)
     : Légendé(écran, nom, initial), Bordure(*this, initial.Bordure), Centré(initial.Centré)
 {
 }
-
-Label::Label(Ecran &écran, std::string_view nom, Texte légende) : Label(écran, nom, Légende(std::move(légende))) {}
 
 void CheckBox::Cliquer()
 {
@@ -105,14 +92,14 @@ void CheckBox::Cliquer()
     Appeler(Click);
 }
 
-void Incrémenter(Label &compteur, int pas)
+void Incrémenter(Label& compteur, int pas)
 {
     compteur.Caption = EnTexte(static_cast<long long>(Valeur(compteur.Caption)) + pas);
 }
 
 // ---- Text box ------------------------------------------------------------------------------------------------
 
-TextBox::TextBox(Ecran &écran, std::string_view nom, EtatInitial initial)
+TextBox::TextBox(Ecran& écran, std::string_view nom, EtatInitial initial)
     : Elément(écran, nom, initial),
       Text(*this, initial.Caption),
       MaxLength(*this, initial.MaxLength),
@@ -122,8 +109,6 @@ TextBox::TextBox(Ecran &écran, std::string_view nom, EtatInitial initial)
       Centré(initial.Centré)
 {
 }
-
-TextBox::TextBox(Ecran &écran, std::string_view nom, Texte texte) : TextBox(écran, nom, Légende(std::move(texte))) {}
 
 Texte TextBox::SelText() const
 {
@@ -184,7 +169,7 @@ bool TextBox::Taper(Touche touche)
 
 // ---- Lists ---------------------------------------------------------------------------------------------------
 
-Liste::Liste(Ecran &écran, std::string_view nom, EtatInitial initial)
+Liste::Liste(Ecran& écran, std::string_view nom, EtatInitial initial)
     : Elément(écran, nom, initial), Sorted(initial.Sorted)
 {
 }
@@ -243,7 +228,7 @@ void Liste::Choisir(int index)
     Appeler(Click);
 }
 
-ComboBox::ComboBox(Ecran &écran, std::string_view nom, EtatInitial initial)
+ComboBox::ComboBox(Ecran& écran, std::string_view nom, EtatInitial initial)
     : Liste(écran, nom, initial), Text(*this, initial.Caption), Saisie(initial.Saisie)
 {
 }
@@ -293,7 +278,7 @@ namespace {
 
 // The entries of a folder that pass the test, in the order of a dictionary. Nothing when it can't be read.
 template <class Test>
-std::optional<std::vector<Texte>> Lister(const Texte &dossier, Test retenu)
+std::optional<std::vector<Texte>> Lister(const Texte& dossier, Test retenu)
 {
     std::error_code erreur;
     std::filesystem::directory_iterator entrée{EnChemin(dossier), erreur};
@@ -313,17 +298,17 @@ std::optional<std::vector<Texte>> Lister(const Texte &dossier, Test retenu)
 
 } // namespace
 
-FileListBox::FileListBox(Ecran &écran, std::string_view nom, Texte motif)
+FileListBox::FileListBox(Ecran& écran, std::string_view nom, Texte motif)
     : Elément(écran, nom), Pattern(std::move(motif))
 {
     Visible.Noter(false);
 }
 
-bool FileListBox::Path(const Texte &dossier)
+bool FileListBox::Path(const Texte& dossier)
 {
     dossier_ = dossier;
     const auto suffixe = Minuscules(VueTexte{Pattern}.substr(1));
-    auto noms = Lister(dossier, [&](const std::filesystem::directory_entry &entrée, const Texte &nom) {
+    auto noms = Lister(dossier, [&](const std::filesystem::directory_entry& entrée, const Texte& nom) {
         std::error_code erreur;
         return nom.size() > suffixe.size() && Minuscules(nom).ends_with(suffixe) && !entrée.is_directory(erreur);
     });
@@ -334,11 +319,15 @@ bool FileListBox::Path(const Texte &dossier)
 
 void FileListBox::Refresh()
 {
-    if (!Path(Texte{dossier_}))
-        noms_.clear();
+    Refresh(Texte{dossier_});
 }
 
-DriveListBox::DriveListBox(Ecran &écran, std::string_view nom, EtatInitial initial)
+void FileListBox::Refresh(const Texte& dossier)
+{
+    static_cast<void>(Path(dossier)); // an unreadable folder has an empty list
+}
+
+DriveListBox::DriveListBox(Ecran& écran, std::string_view nom, EtatInitial initial)
     : Elément(écran, nom, std::move(initial))
 {
     Refresh();
@@ -347,14 +336,14 @@ DriveListBox::DriveListBox(Ecran &écran, std::string_view nom, EtatInitial init
 void DriveListBox::Refresh()
 {
     lecteurs_ = {u"/"};
-    if (const char *maison = std::getenv("HOME"); maison != nullptr && *maison != '\0')
+    if (const char* maison = std::getenv("HOME"); maison != nullptr && *maison != '\0')
         lecteurs_.push_back(DepuisUtf8(maison));
-    const auto dossiers = [](const std::filesystem::directory_entry &entrée, const Texte &) {
+    const auto dossiers = [](const std::filesystem::directory_entry& entrée, const Texte&) {
         std::error_code erreur;
         return entrée.is_directory(erreur);
     };
-    for (const auto *racine : {u"/media", u"/mnt", u"/run/media"}) {
-        for (const auto &nom : Lister(racine, dossiers).value_or(std::vector<Texte>{}))
+    for (const auto* racine : {u"/media", u"/mnt", u"/run/media"}) {
+        for (const auto& nom : Lister(racine, dossiers).value_or(std::vector<Texte>{}))
             lecteurs_.push_back(Joindre(racine, nom));
     }
     Changer();
@@ -368,14 +357,14 @@ void DriveListBox::Choisir(int index)
     Appeler(Change);
 }
 
-DirListBox::DirListBox(Ecran &écran, std::string_view nom, EtatInitial initial)
+DirListBox::DirListBox(Ecran& écran, std::string_view nom, EtatInitial initial)
     : Elément(écran, nom, std::move(initial))
 {
 }
 
-bool DirListBox::Path(const Texte &dossier)
+bool DirListBox::Path(const Texte& dossier)
 {
-    auto noms = Lister(dossier, [](const std::filesystem::directory_entry &entrée, const Texte &nom) {
+    auto noms = Lister(dossier, [](const std::filesystem::directory_entry& entrée, const Texte& nom) {
         std::error_code erreur;
         return !nom.starts_with(u'.') && entrée.is_directory(erreur);
     });
@@ -399,7 +388,7 @@ void DirListBox::Ouvrir(int index)
 
 // ---- Scroll bar, timer, shapes ---------------------------------------------------------------------------------
 
-ScrollBar::ScrollBar(Ecran &écran, std::string_view nom, EtatInitial initial) : Elément(écran, nom, std::move(initial))
+ScrollBar::ScrollBar(Ecran& écran, std::string_view nom, EtatInitial initial) : Elément(écran, nom, std::move(initial))
 {
 }
 
@@ -412,7 +401,7 @@ void ScrollBar::Déplacer(int valeur)
     Appeler(Change);
 }
 
-Timer::Timer(Ecran &écran, std::string_view nom, int intervalle, bool enMarche)
+Timer::Timer(Ecran& écran, std::string_view nom, int intervalle, bool enMarche)
     : Nom(nom), Interval(*this, intervalle), Enabled(*this, enMarche), écran_(écran)
 {
     écran.Inscrire(*this);
@@ -425,14 +414,14 @@ void Timer::Changer()
     écran_.ApplicationDe().plateforme.RéglerMinuterie(*this);
 }
 
-Rectangle::Rectangle(Ecran &écran, std::string_view nom, EtatInitial initial)
+Rectangle::Rectangle(Ecran& écran, std::string_view nom, EtatInitial initial)
     : Elément(écran, nom, initial), FillColor(*this, initial.BackColor), BorderColor(*this, initial.ForeColor)
 {
 }
 
-Line::Line(Ecran &écran, std::string_view nom, EtatInitial initial) : Elément(écran, nom, std::move(initial)) {}
+Line::Line(Ecran& écran, std::string_view nom, EtatInitial initial) : Elément(écran, nom, std::move(initial)) {}
 
-Line::Line(Ecran &écran, std::string_view nom, Trait trait, bool visible) : Elément(écran, nom)
+Line::Line(Ecran& écran, std::string_view nom, Trait trait, bool visible) : Elément(écran, nom)
 {
     X1.Noter(trait.X1);
     Y1.Noter(trait.Y1);
@@ -445,7 +434,7 @@ Line::Line(Ecran &écran, std::string_view nom, Trait trait, bool visible) : El�
 
 // ---- Grid ----------------------------------------------------------------------------------------------------
 
-Grid::Grid(Ecran &écran, std::string_view nom, int lignes, int colonnes)
+Grid::Grid(Ecran& écran, std::string_view nom, int lignes, int colonnes)
     : Elément(écran, nom),
       colonnes_(colonnes),
       cellules_(static_cast<std::size_t>(lignes), std::vector<Texte>(static_cast<std::size_t>(colonnes)))
@@ -462,12 +451,12 @@ void Grid::Rows(int lignes)
 void Grid::Cols(int colonnes)
 {
     colonnes_ = colonnes;
-    for (auto &ligne : cellules_)
+    for (auto& ligne : cellules_)
         ligne.resize(static_cast<std::size_t>(colonnes));
     Changer();
 }
 
-const Texte &Grid::TextMatrix(int ligne, int colonne) const
+const Texte& Grid::TextMatrix(int ligne, int colonne) const
 {
     return cellules_.at(static_cast<std::size_t>(ligne)).at(static_cast<std::size_t>(colonne));
 }
@@ -492,14 +481,14 @@ void Grid::RemoveRow(int ligne)
 
 // ---- Toolbar -------------------------------------------------------------------------------------------------
 
-Toolbar::Toolbar(Ecran &écran, std::string_view nom, std::vector<Bouton> boutons)
+Toolbar::Toolbar(Ecran& écran, std::string_view nom, std::vector<Bouton> boutons)
     : Elément(écran, nom), boutons_(std::move(boutons))
 {
 }
 
 void Toolbar::Montrer(std::string_view clé, Etat état)
 {
-    const auto bouton = std::find_if(boutons_.begin(), boutons_.end(), [&](const Bouton &b) { return b.Clé == clé; });
+    const auto bouton = std::find_if(boutons_.begin(), boutons_.end(), [&](const Bouton& b) { return b.Clé == clé; });
     assert(bouton != boutons_.end());
     if (bouton->Etat_ == état)
         return;

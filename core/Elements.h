@@ -5,6 +5,7 @@
 #include "core/Propriete.h"
 #include "core/Texte.h"
 
+#include <concepts>
 #include <deque>
 #include <functional>
 #include <initializer_list>
@@ -36,6 +37,10 @@ struct EtatInitial {
     char16_t PasswordChar = 0;
 };
 
+// A caption alone, where nothing else differs from the ordinary.
+template <class T>
+concept Légende = std::convertible_to<T, Texte>;
+
 // A key as its handler sees it: the character typed, or 0, and the key's code.
 struct Touche {
     static constexpr int RetourArrière = 8;
@@ -58,9 +63,9 @@ struct Touche {
 
 class Elément : public Observable {
 public:
-    Elément(Ecran &écran, std::string_view nom, EtatInitial initial = {});
-    Elément(const Elément &) = delete;
-    Elément &operator=(const Elément &) = delete;
+    Elément(Ecran& écran, std::string_view nom, EtatInitial initial = {});
+    Elément(const Elément&) = delete;
+    Elément& operator=(const Elément&) = delete;
     virtual ~Elément() = default;
 
     const std::string Nom; // with the index when in an array: "lblMot(3)"
@@ -79,7 +84,7 @@ public:
 
     std::function<void()> Observateur; // set by who draws the element
 
-    [[nodiscard]] Ecran &EcranDe() const { return écran_; }
+    [[nodiscard]] Ecran& EcranDe() const { return écran_; }
     // Visible, in visible frames, and under no frame that covers the screen.
     [[nodiscard]] bool EstAtteignable() const;
     void SetFocus();
@@ -87,19 +92,22 @@ public:
     void Refresh();
 
     void Changer() override;
-    [[nodiscard]] const Elément *Conteneur() const { return conteneur_; }
-    void RangerDans(const Elément *conteneur) { conteneur_ = conteneur; }
+    [[nodiscard]] const Elément* Conteneur() const { return conteneur_; }
+    void RangerDans(const Elément* conteneur) { conteneur_ = conteneur; }
 
 private:
-    Ecran &écran_;
-    const Elément *conteneur_ = nullptr; // the frame that holds it
+    Ecran& écran_;
+    const Elément* conteneur_ = nullptr; // the frame that holds it
 };
 
 // What most elements add: a caption and a click.
 class Légendé : public Elément {
 public:
-    Légendé(Ecran &écran, std::string_view nom, EtatInitial initial = {});
-    Légendé(Ecran &écran, std::string_view nom, Texte légende);
+    Légendé(Ecran& écran, std::string_view nom, EtatInitial initial = {});
+    Légendé(Ecran& écran, std::string_view nom, const Légende auto& légende)
+        : Légendé(écran, nom, EtatInitial{.Caption = légende})
+    {
+    }
 
     Propriété<Texte> Caption;
     std::function<void()> Click;
@@ -112,8 +120,11 @@ enum class Pointeur { Normal, Sablier };
 
 class Label final : public Légendé {
 public:
-    Label(Ecran &écran, std::string_view nom, EtatInitial initial = {});
-    Label(Ecran &écran, std::string_view nom, Texte légende);
+    Label(Ecran& écran, std::string_view nom, EtatInitial initial = {});
+    Label(Ecran& écran, std::string_view nom, const Légende auto& légende)
+        : Label(écran, nom, EtatInitial{.Caption = légende})
+    {
+    }
 
     Propriété<bool> Bordure;
     Propriété<bool> AutoSize{*this, false}; // as wide as its caption
@@ -133,7 +144,7 @@ public:
     // Set for a frame that can be dragged. The mouse moves over it, button down, at (x, y) twips inside it...
     std::function<void(double x, double y)> MouseMove;
     // ...and drops it at (x, y) twips inside the target; no target: the screen itself.
-    std::function<void(const Elément *cible, double x, double y)> DragDrop;
+    std::function<void(const Elément* cible, double x, double y)> DragDrop;
 };
 
 class CheckBox final : public Légendé {
@@ -155,8 +166,11 @@ public:
 
 class TextBox final : public Elément {
 public:
-    TextBox(Ecran &écran, std::string_view nom, EtatInitial initial = {});
-    TextBox(Ecran &écran, std::string_view nom, Texte texte);
+    TextBox(Ecran& écran, std::string_view nom, EtatInitial initial = {});
+    TextBox(Ecran& écran, std::string_view nom, const Légende auto& texte)
+        : TextBox(écran, nom, EtatInitial{.Caption = texte})
+    {
+    }
 
     Propriété<Texte> Text;
     Propriété<std::size_t> SelStart{*this, 0};
@@ -172,7 +186,7 @@ public:
     std::function<void()> DblClick;
     std::function<void()> Change; // the user has changed the text
     std::function<void()> Enter;  // the Enter key
-    std::function<void(Touche &)> KeyPress;
+    std::function<void(Touche&)> KeyPress;
 
     [[nodiscard]] Texte SelText() const;
     void SelText(VueTexte nouveau); // replaces the selection; the caret goes behind
@@ -188,17 +202,17 @@ public:
 // A list of texts. A sorted one keeps its items in the order of a French dictionary.
 class Liste : public Elément {
 public:
-    Liste(Ecran &écran, std::string_view nom, EtatInitial initial = {});
+    Liste(Ecran& écran, std::string_view nom, EtatInitial initial = {});
 
     Propriété<int> ListIndex{*this, -1};
     const bool Sorted;
     std::function<void()> Click; // the user has chosen an item
     std::function<void()> DblClick;
-    std::function<void(Touche &)> KeyPress;
+    std::function<void(Touche&)> KeyPress;
 
     [[nodiscard]] int ListCount() const { return static_cast<int>(éléments_.size()); }
-    [[nodiscard]] const Texte &List(int index) const { return éléments_.at(static_cast<std::size_t>(index)); }
-    [[nodiscard]] const std::vector<Texte> &Eléments() const { return éléments_; }
+    [[nodiscard]] const Texte& List(int index) const { return éléments_.at(static_cast<std::size_t>(index)); }
+    [[nodiscard]] const std::vector<Texte>& Eléments() const { return éléments_; }
     // First item equal to the text, exactly; -1: none.
     [[nodiscard]] int Chercher(VueTexte texte) const;
     void AddItem(Texte texte);
@@ -221,7 +235,7 @@ public:
 
 class ComboBox final : public Liste {
 public:
-    ComboBox(Ecran &écran, std::string_view nom, EtatInitial initial = {});
+    ComboBox(Ecran& écran, std::string_view nom, EtatInitial initial = {});
 
     Propriété<Texte> Text; // what the field shows
     const bool Saisie;
@@ -238,15 +252,17 @@ public:
 // The files of a folder that match a pattern "*.ext", in the order of their names.
 class FileListBox final : public Elément {
 public:
-    FileListBox(Ecran &écran, std::string_view nom, Texte motif);
+    FileListBox(Ecran& écran, std::string_view nom, Texte motif);
 
     const Texte Pattern;
 
     // Takes a folder and lists it. False when it can't be read; the list is empty then.
-    [[nodiscard]] bool Path(const Texte &dossier);
+    [[nodiscard]] bool Path(const Texte& dossier);
+    // Lists the folder again, or another one, whether it can be read or not.
     void Refresh();
+    void Refresh(const Texte& dossier);
     [[nodiscard]] int ListCount() const { return static_cast<int>(noms_.size()); }
-    [[nodiscard]] const Texte &List(int index) const { return noms_.at(static_cast<std::size_t>(index)); }
+    [[nodiscard]] const Texte& List(int index) const { return noms_.at(static_cast<std::size_t>(index)); }
 
 private:
     Texte dossier_;
@@ -256,12 +272,12 @@ private:
 // The roots that a folder can be chosen under: "/", the home folder, what is mounted.
 class DriveListBox final : public Elément {
 public:
-    DriveListBox(Ecran &écran, std::string_view nom, EtatInitial initial = {});
+    DriveListBox(Ecran& écran, std::string_view nom, EtatInitial initial = {});
 
     Propriété<Texte> Drive{*this, Texte{}};
     std::function<void()> Change;
 
-    [[nodiscard]] const std::vector<Texte> &Lecteurs() const { return lecteurs_; }
+    [[nodiscard]] const std::vector<Texte>& Lecteurs() const { return lecteurs_; }
     void Refresh();
     void Choisir(int index); // by the user
 
@@ -272,14 +288,14 @@ private:
 // A folder and the folders in it.
 class DirListBox final : public Elément {
 public:
-    DirListBox(Ecran &écran, std::string_view nom, EtatInitial initial = {});
+    DirListBox(Ecran& écran, std::string_view nom, EtatInitial initial = {});
 
     std::function<void()> Change;
 
-    [[nodiscard]] const Texte &Path() const { return dossier_; }
+    [[nodiscard]] const Texte& Path() const { return dossier_; }
     // False when the folder can't be read; nothing changes then.
-    [[nodiscard]] bool Path(const Texte &dossier);
-    [[nodiscard]] const std::vector<Texte> &SousDossiers() const { return noms_; }
+    [[nodiscard]] bool Path(const Texte& dossier);
+    [[nodiscard]] const std::vector<Texte>& SousDossiers() const { return noms_; }
     void Ouvrir(int index); // by the user; -1: the folder above
 
 private:
@@ -289,7 +305,7 @@ private:
 
 class ScrollBar final : public Elément {
 public:
-    ScrollBar(Ecran &écran, std::string_view nom, EtatInitial initial = {});
+    ScrollBar(Ecran& écran, std::string_view nom, EtatInitial initial = {});
 
     Propriété<int> Value{*this, 0};
     Propriété<int> Min{*this, 0};
@@ -301,19 +317,19 @@ public:
 
 class Timer final : public Observable {
 public:
-    Timer(Ecran &écran, std::string_view nom, int intervalle, bool enMarche = false);
+    Timer(Ecran& écran, std::string_view nom, int intervalle, bool enMarche = false);
 
     const std::string Nom;
     Propriété<int> Interval; // ms; 0 stops it
     Propriété<bool> Enabled;
     std::function<void()> Tick;
 
-    [[nodiscard]] Ecran &EcranDe() const { return écran_; }
+    [[nodiscard]] Ecran& EcranDe() const { return écran_; }
     [[nodiscard]] bool EnMarche() const { return Enabled && Interval > 0; }
     void Changer() override;
 
 private:
-    Ecran &écran_;
+    Ecran& écran_;
 };
 
 class Image final : public Légendé {
@@ -325,7 +341,7 @@ public:
 
 class Rectangle final : public Elément {
 public:
-    Rectangle(Ecran &écran, std::string_view nom, EtatInitial initial = {});
+    Rectangle(Ecran& écran, std::string_view nom, EtatInitial initial = {});
 
     Propriété<Couleur> FillColor;
     Propriété<Couleur> BorderColor;
@@ -341,8 +357,8 @@ public:
         Couleur Teinte = Noir;
         int Epaisseur = 1;
     };
-    Line(Ecran &écran, std::string_view nom, EtatInitial initial = {});
-    Line(Ecran &écran, std::string_view nom, Trait trait, bool visible = true);
+    Line(Ecran& écran, std::string_view nom, EtatInitial initial = {});
+    Line(Ecran& écran, std::string_view nom, Trait trait, bool visible = true);
 
     Propriété<int> X1{*this, 0};
     Propriété<int> Y1{*this, 0};
@@ -355,7 +371,7 @@ public:
 // A table of texts; rows and columns from 0.
 class Grid final : public Elément {
 public:
-    Grid(Ecran &écran, std::string_view nom, int lignes, int colonnes);
+    Grid(Ecran& écran, std::string_view nom, int lignes, int colonnes);
 
     Propriété<int> Row{*this, 0};
     Propriété<int> Col{*this, 0};
@@ -365,7 +381,7 @@ public:
     [[nodiscard]] int Cols() const { return colonnes_; }
     void Rows(int lignes);
     void Cols(int colonnes);
-    [[nodiscard]] const Texte &TextMatrix(int ligne, int colonne) const;
+    [[nodiscard]] const Texte& TextMatrix(int ligne, int colonne) const;
     void TextMatrix(int ligne, int colonne, Texte texte);
     void AddRow();
     void RemoveRow(int ligne);
@@ -385,11 +401,11 @@ public:
         Etat Etat_ = Etat::Relâché;
         bool Basculant = false; // shows a state
     };
-    Toolbar(Ecran &écran, std::string_view nom, std::vector<Bouton> boutons);
+    Toolbar(Ecran& écran, std::string_view nom, std::vector<Bouton> boutons);
 
     std::function<void(std::string_view clé)> ButtonClick;
 
-    [[nodiscard]] const std::vector<Bouton> &Boutons() const { return boutons_; }
+    [[nodiscard]] const std::vector<Bouton>& Boutons() const { return boutons_; }
     void Montrer(std::string_view clé, Etat état);
     void Cliquer(std::string_view clé);
 
@@ -401,32 +417,32 @@ private:
 template <class T>
 class Tableau {
 public:
-    Tableau(Ecran &écran, std::string_view nom, int nombre, const EtatInitial &initial = {})
+    Tableau(Ecran& écran, std::string_view nom, int nombre, const EtatInitial& initial = {})
     {
         for (int i = 0; i < nombre; ++i)
             éléments_.emplace_back(écran, NomIndexé(nom, i), initial);
     }
-    Tableau(Ecran &écran, std::string_view nom, std::initializer_list<Texte> légendes, EtatInitial initial = {})
+    Tableau(Ecran& écran, std::string_view nom, std::initializer_list<Texte> légendes, EtatInitial initial = {})
     {
-        for (const auto &légende : légendes) {
+        for (const auto& légende : légendes) {
             initial.Caption = légende;
             éléments_.emplace_back(écran, NomIndexé(nom, Nombre()), initial);
         }
     }
-    Tableau(Ecran &écran, std::string_view nom, std::initializer_list<EtatInitial> états)
+    Tableau(Ecran& écran, std::string_view nom, std::initializer_list<EtatInitial> états)
     {
-        for (const auto &état : états)
+        for (const auto& état : états)
             éléments_.emplace_back(écran, NomIndexé(nom, Nombre()), état);
     }
 
-    T &operator()(int i) { return éléments_.at(static_cast<std::size_t>(i)); }
-    const T &operator()(int i) const { return éléments_.at(static_cast<std::size_t>(i)); }
+    T& operator()(int i) { return éléments_.at(static_cast<std::size_t>(i)); }
+    const T& operator()(int i) const { return éléments_.at(static_cast<std::size_t>(i)); }
     [[nodiscard]] int Nombre() const { return static_cast<int>(éléments_.size()); }
     [[nodiscard]] int UBound() const { return Nombre() - 1; }
     auto begin() { return éléments_.begin(); }
     auto end() { return éléments_.end(); }
 
-    void Click(const std::function<void(int)> &clic)
+    void Click(const std::function<void(int)>& clic)
     {
         for (int i = 0; i < Nombre(); ++i)
             (*this)(i).Click = [clic, i] {
@@ -443,4 +459,4 @@ private:
 };
 
 // A counter kept in a caption: its value plus `pas`, with no blanks.
-void Incrémenter(Label &compteur, int pas = 1);
+void Incrémenter(Label& compteur, int pas = 1);

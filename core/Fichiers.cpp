@@ -14,11 +14,11 @@
 namespace {
 
 struct Fermeture {
-    void operator()(std::FILE *fichier) const { std::fclose(fichier); }
+    void operator()(std::FILE* fichier) const { std::fclose(fichier); }
 };
 using Flux = std::unique_ptr<std::FILE, Fermeture>;
 
-bool PousserSurLeDisque(std::FILE *fichier)
+bool PousserSurLeDisque(std::FILE* fichier)
 {
 #if __has_include(<unistd.h>)
     return ::fsync(::fileno(fichier)) == 0;
@@ -37,7 +37,7 @@ std::optional<char> OctetDe(char16_t caractère)
 {
     if (caractère < 0x80 || (caractère >= 0xA0 && caractère <= 0xFF))
         return static_cast<char>(caractère);
-    const auto *place = std::find(Haut.begin(), Haut.end(), caractère);
+    const auto* place = std::find(Haut.begin(), Haut.end(), caractère);
     if (place == Haut.end())
         return std::nullopt;
     return static_cast<char>(0x80 + (place - Haut.begin()));
@@ -45,7 +45,7 @@ std::optional<char> OctetDe(char16_t caractère)
 
 } // namespace
 
-std::optional<std::string> LireFichier(const Chemin &fichier)
+std::optional<std::string> LireFichier(const Chemin& fichier)
 {
     std::error_code erreur;
     if (std::filesystem::is_directory(fichier, erreur))
@@ -64,7 +64,7 @@ std::optional<std::string> LireFichier(const Chemin &fichier)
     return contenu;
 }
 
-std::optional<EchecFichier> RéécrireFichier(const Chemin &fichier, std::string_view contenu)
+std::optional<EchecFichier> RéécrireFichier(const Chemin& fichier, std::string_view contenu)
 {
     std::error_code ignorée; // a missing file is no error
     std::filesystem::remove(fichier, ignorée);

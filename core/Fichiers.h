@@ -12,10 +12,10 @@ enum class EchecFichier {
 };
 
 // Nothing when the file can't be opened or read.
-std::optional<std::string> LireFichier(const Chemin &fichier);
+std::optional<std::string> LireFichier(const Chemin& fichier);
 
 // Deletes the file, then writes it anew in one piece, flushed to the disk.
-std::optional<EchecFichier> RéécrireFichier(const Chemin &fichier, std::string_view contenu);
+std::optional<EchecFichier> RéécrireFichier(const Chemin& fichier, std::string_view contenu);
 
 // Windows-1252 after the WHATWG index; the five unassigned bytes map to the same code.
 Texte DepuisWindows1252(std::string_view octets);

@@ -20,7 +20,7 @@ enum class Réponse { Ok, Annuler, Oui, Non };
 enum class Icône { Information, Question, Critique };
 
 struct Boîte {
-    Texte Message;
+    Texte Message{};
     Texte Titre = u"Avertissement";
     Boutons Choix = Boutons::Ok;
     Icône Symbole = Icône::Information;
@@ -28,18 +28,18 @@ struct Boîte {
 
 // Filter as "Textes RTF|*.rtf|Tous fichiers|*.*".
 struct DialogueFichier {
-    Texte Titre;
-    Texte Filtre;
-    Texte Dossier;
-    Texte NomFichier;
-    Texte Extension; // added to a name typed without one; empty: nothing is added
+    Texte Titre{};
+    Texte Filtre{};
+    Texte Dossier{};
+    Texte NomFichier{};
+    Texte Extension{}; // added to a name typed without one; empty: nothing is added
 };
 
 struct ChoixPolice {
     Texte Nom;         // empty: mixed, leave it
     double Taille = 0; // points; 0: mixed, leave it
-    std::optional<bool> Gras;
-    std::optional<bool> Italique;
+    std::optional<bool> Gras{};
+    std::optional<bool> Italique{};
 };
 
 class Plateforme {
@@ -53,43 +53,43 @@ public:
 
     // Files. Reading goes through the standard library; writing is here so that failures can be played.
     virtual Chemin DossierProgramme() = 0;
-    virtual std::optional<EchecFichier> Réécrire(const Chemin &fichier, std::string_view contenu) = 0;
+    virtual std::optional<EchecFichier> Réécrire(const Chemin& fichier, std::string_view contenu) = 0;
     virtual char16_t SéparateurDécimal() = 0;
 
     // Boxes and dialogs. A dialog that is cancelled gives nothing.
-    virtual Réponse AfficherBoîte(const Boîte &boîte) = 0;
-    virtual std::optional<Texte> DemanderFichierAOuvrir(const DialogueFichier &dialogue) = 0;
-    virtual std::optional<Texte> DemanderFichierAEnregistrer(const DialogueFichier &dialogue) = 0;
+    virtual Réponse AfficherBoîte(const Boîte& boîte) = 0;
+    virtual std::optional<Texte> DemanderFichierAOuvrir(const DialogueFichier& dialogue) = 0;
+    virtual std::optional<Texte> DemanderFichierAEnregistrer(const DialogueFichier& dialogue) = 0;
     virtual std::optional<Couleur> DemanderCouleur(Couleur départ) = 0;
-    virtual std::optional<ChoixPolice> DemanderPolice(const ChoixPolice &départ) = 0;
+    virtual std::optional<ChoixPolice> DemanderPolice(const ChoixPolice& départ) = 0;
     // Shows the print dialog and prints; `sélection` is offered when it isn't empty. False: cancelled.
-    virtual bool Imprimer(const TexteRiche &texte, const TexteRiche &sélection) = 0;
+    virtual bool Imprimer(const TexteRiche& texte, const TexteRiche& sélection) = 0;
 
     virtual Texte LirePressePapiers() = 0;
-    virtual void EcrirePressePapiers(const Texte &texte) = 0;
+    virtual void EcrirePressePapiers(const Texte& texte) = 0;
 
     // Hands over the font names, in the machine's order, when they are known; the first picture doesn't wait.
     virtual void DemanderPolices(std::function<void(std::vector<Texte>)> reçues) = 0;
     // Width in twips of a text in the program's own font, of a size in points (0: the usual one).
-    virtual double LargeurTexte(const Texte &texte, double taille) = 0;
+    virtual double LargeurTexte(const Texte& texte, double taille) = 0;
 
-    // Shows a loaded screen and comes back when it is closed.
-    virtual void AfficherModal(Ecran &écran) = 0;
+    // Shows a loaded screen, gives it its size and activates it once, and comes back when it is closed.
+    virtual void AfficherModal(Ecran& écran) = 0;
     // The screen is unloaded: nothing of it is to be shown, ticked or waited for any more.
-    virtual void EcranFermé(Ecran &écran) = 0;
+    virtual void EcranFermé(Ecran& écran) = 0;
     // Ends the program, closing all screens.
     virtual void Terminer() = 0;
 
     // Paints now what has changed, before coming back.
-    virtual void Repeindre(Ecran &écran) = 0;
+    virtual void Repeindre(Ecran& écran) = 0;
     // Lets the time pass while nothing else happens: input is dropped, the window stays alive. False: the
     // screen was closed meanwhile, and the handler must end without touching it.
-    [[nodiscard]] virtual bool Attendre(Ecran &écran, std::chrono::milliseconds durée) = 0;
+    [[nodiscard]] virtual bool Attendre(Ecran& écran, std::chrono::milliseconds durée) = 0;
     // Lets events pass until the timer has switched itself off. False: as above.
-    [[nodiscard]] virtual bool AttendreArrêt(Timer &minuterie) = 0;
+    [[nodiscard]] virtual bool AttendreArrêt(Timer& minuterie) = 0;
     // The timer's interval or state has changed.
-    virtual void RéglerMinuterie(Timer &minuterie) = 0;
+    virtual void RéglerMinuterie(Timer& minuterie) = 0;
 };
 
 // The whole part of a draw in [0, 1) times n, after seeding: 0 to n - 1.
-std::size_t Tirer(Plateforme &plateforme, std::size_t n);
+std::size_t Tirer(Plateforme& plateforme, std::size_t n);

@@ -8,7 +8,7 @@
 
 namespace {
 
-void Appeler(const std::function<void()> &événement)
+void Appeler(const std::function<void()>& événement)
 {
     if (événement)
         événement();
@@ -16,12 +16,12 @@ void Appeler(const std::function<void()> &événement)
 
 } // namespace
 
-RichTextBox::RichTextBox(Ecran &écran, std::string_view nom, EtatInitial initial)
+RichTextBox::RichTextBox(Ecran& écran, std::string_view nom, EtatInitial initial)
     : Elément(écran, nom, std::move(initial))
 {
 }
 
-void RichTextBox::Signaler(const Edition &édition)
+void RichTextBox::Signaler(const Edition& édition)
 {
     if (EditionFaite)
         EditionFaite(édition);
@@ -49,7 +49,7 @@ void RichTextBox::Text(VueTexte texte)
     TextRTF(TexteRiche{NormaliserLignes(texte), format});
 }
 
-bool RichTextBox::LoadFile(const Chemin &fichier, bool texteSimple)
+bool RichTextBox::LoadFile(const Chemin& fichier, bool texteSimple)
 {
     const auto octets = LireFichier(fichier);
     if (!octets)
@@ -111,16 +111,16 @@ void RichTextBox::Remplacer(std::size_t début, std::size_t longueur, VueTexte n
     Signaler({début, longueur, nouveau.size()});
 }
 
-void RichTextBox::ToutFormater(const std::function<void(Format &)> &retouche)
+void RichTextBox::ToutFormater(const std::function<void(Format&)>& retouche)
 {
     texte_.Formater(0, Longueur(), retouche);
     Signaler({0, Longueur(), Longueur()});
 }
 
-void RichTextBox::FormaterSélection(const std::function<void(Format &)> &retouche)
+void RichTextBox::FormaterSélection(const std::function<void(Format&)>& retouche)
 {
     if (longueur_ == 0) {
-        ParcourirFormats([&](const Format &format) {
+        ParcourirFormats([&](const Format& format) {
             Format nouveau = format;
             retouche(nouveau);
             formatEnAttente_ = std::move(nouveau);
@@ -132,18 +132,18 @@ void RichTextBox::FormaterSélection(const std::function<void(Format &)> &retouc
     Signaler({début_, longueur_, longueur_});
 }
 
-void RichTextBox::FormaterParagraphes(const std::function<void(FormatParagraphe &)> &retouche)
+void RichTextBox::FormaterParagraphes(const std::function<void(FormatParagraphe&)>& retouche)
 {
     texte_.FormaterParagraphes(début_, longueur_, retouche);
     Signaler({0, Longueur(), Longueur()});
 }
 
-void RichTextBox::ParcourirFormats(const std::function<bool(const Format &)> &visite) const
+void RichTextBox::ParcourirFormats(const std::function<bool(const Format&)>& visite) const
 {
     if (longueur_ > 0) {
         bool suite = true;
         texte_.PourChaqueTranche(début_, début_ + longueur_,
-                                 [&](const Tranche &tranche) { suite = suite && visite(*tranche.Format_); });
+                                 [&](const Tranche& tranche) { suite = suite && visite(*tranche.Format_); });
         return;
     }
     if (formatEnAttente_) {
@@ -155,7 +155,7 @@ void RichTextBox::ParcourirFormats(const std::function<bool(const Format &)> &vi
     visite(texte_.FormatEn(débutDeLigne ? début_ : début_ - 1));
 }
 
-void RichTextBox::ParcourirParagraphes(const std::function<bool(const FormatParagraphe &)> &visite) const
+void RichTextBox::ParcourirParagraphes(const std::function<bool(const FormatParagraphe&)>& visite) const
 {
     if (longueur_ == 0) {
         visite(texte_.ParagrapheEn(début_));
@@ -163,7 +163,7 @@ void RichTextBox::ParcourirParagraphes(const std::function<bool(const FormatPara
     }
     bool suite = true;
     texte_.PourChaqueParagraphe(début_, début_ + longueur_,
-                                [&](const TrancheParagraphes &tranche) { suite = suite && visite(*tranche.Format_); });
+                                [&](const TrancheParagraphes& tranche) { suite = suite && visite(*tranche.Format_); });
 }
 
 void RichTextBox::Cliquer(std::size_t position)
@@ -188,14 +188,14 @@ bool RichTextBox::Taper(Touche touche)
     return !touche.Avalée;
 }
 
-void RichTextBox::Editer(std::size_t début, std::size_t retirés, const TexteRiche &ajouté)
+void RichTextBox::Editer(std::size_t début, std::size_t retirés, const TexteRiche& ajouté)
 {
     if (Locked)
         return;
     texte_.Remplacer(début, retirés, ajouté.Caractères());
     std::size_t place = début;
-    ajouté.PourChaqueTranche(0, ajouté.Longueur(), [&](const Tranche &tranche) {
-        texte_.Formater(place, tranche.Fin - tranche.Début, [&](Format &format) { format = *tranche.Format_; });
+    ajouté.PourChaqueTranche(0, ajouté.Longueur(), [&](const Tranche& tranche) {
+        texte_.Formater(place, tranche.Fin - tranche.Début, [&](Format& format) { format = *tranche.Format_; });
         place += tranche.Fin - tranche.Début;
     });
     début_ = std::min(début + ajouté.Longueur(), Longueur());

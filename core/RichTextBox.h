@@ -10,34 +10,34 @@ class RichTextBox;
 template <class T, T Format::*Champ>
 class FormatSélection {
 public:
-    explicit FormatSélection(RichTextBox &boîte) : boîte_(boîte) {}
-    FormatSélection(const FormatSélection &) = delete;
+    explicit FormatSélection(RichTextBox& boîte) : boîte_(boîte) {}
+    FormatSélection(const FormatSélection&) = delete;
 
     operator std::optional<T>() const { return (*this)(); }
     std::optional<T> operator()() const;
-    FormatSélection &operator=(T valeur);
+    FormatSélection& operator=(T valeur);
 
 private:
-    RichTextBox &boîte_;
+    RichTextBox& boîte_;
 };
 
 template <class T, T FormatParagraphe::*Champ>
 class FormatSélectionParagraphe {
 public:
-    explicit FormatSélectionParagraphe(RichTextBox &boîte) : boîte_(boîte) {}
-    FormatSélectionParagraphe(const FormatSélectionParagraphe &) = delete;
+    explicit FormatSélectionParagraphe(RichTextBox& boîte) : boîte_(boîte) {}
+    FormatSélectionParagraphe(const FormatSélectionParagraphe&) = delete;
 
     operator std::optional<T>() const { return (*this)(); }
     std::optional<T> operator()() const;
-    FormatSélectionParagraphe &operator=(T valeur);
+    FormatSélectionParagraphe& operator=(T valeur);
 
 private:
-    RichTextBox &boîte_;
+    RichTextBox& boîte_;
 };
 
 class RichTextBox final : public Elément {
 public:
-    RichTextBox(Ecran &écran, std::string_view nom, EtatInitial initial = {});
+    RichTextBox(Ecran& écran, std::string_view nom, EtatInitial initial = {});
 
     // Who draws the box hears of each edit: `retirés` characters at `début` gave way to `ajoutés`; with the same
     // count on both sides, characters or formats changed in place.
@@ -46,26 +46,26 @@ public:
         std::size_t Retirés;
         std::size_t Ajoutés;
     };
-    std::function<void(const Edition &)> EditionFaite;
+    std::function<void(const Edition&)> EditionFaite;
 
     std::function<void()> Click;
     std::function<void()> DblClick;
-    std::function<void(Touche &)> KeyPress;
+    std::function<void(Touche&)> KeyPress;
     std::function<void()> Change;    // text or format has changed
     std::function<void()> SelChange; // the selection has moved
 
     Propriété<bool> Locked{*this, false}; // the user can't change the text
 
     // The formatted text, copied whole from box to box.
-    [[nodiscard]] const TexteRiche &TextRTF() const { return texte_; }
+    [[nodiscard]] const TexteRiche& TextRTF() const { return texte_; }
     void TextRTF(TexteRiche texte);
-    [[nodiscard]] const Texte &Text() const { return texte_.Caractères(); }
+    [[nodiscard]] const Texte& Text() const { return texte_.Caractères(); }
     // Plain text in the box's own format; any line end becomes CR LF.
     void Text(VueTexte texte);
     [[nodiscard]] std::size_t Longueur() const { return texte_.Longueur(); }
 
     // False when the file can't be read: RTF as rich text; anything else as plain text when `texteSimple` says so.
-    [[nodiscard]] bool LoadFile(const Chemin &fichier, bool texteSimple = false);
+    [[nodiscard]] bool LoadFile(const Chemin& fichier, bool texteSimple = false);
 
     // Cut to the text; a new start empties the selection.
     [[nodiscard]] std::size_t SelStart() const { return début_; }
@@ -94,19 +94,19 @@ public:
     FormatSélectionParagraphe<int, &FormatParagraphe::RetraitDroit> SelRightIndent{*this};
 
     // Takes a format off the whole text, or puts it on, wherever the selection is.
-    void ToutFormater(const std::function<void(Format &)> &retouche);
+    void ToutFormater(const std::function<void(Format&)>& retouche);
     // Replaces [début, début + longueur) whatever the selection is; the selection goes to the start, empty, of
     // what follows. Formats as told by TexteRiche::Remplacer.
     void Remplacer(std::size_t début, std::size_t longueur, VueTexte nouveau);
-    void FormaterSélection(const std::function<void(Format &)> &retouche);
-    void FormaterParagraphes(const std::function<void(FormatParagraphe &)> &retouche);
+    void FormaterSélection(const std::function<void(Format&)>& retouche);
+    void FormaterParagraphes(const std::function<void(FormatParagraphe&)>& retouche);
 
     // What the user does.
     void Cliquer(std::size_t position); // the character under the pointer
     void DoubleCliquer(std::size_t position);
     bool Taper(Touche touche); // false: the key was thrown away
     // The user's own editing, by whatever means the toolkit offers.
-    void Editer(std::size_t début, std::size_t retirés, const TexteRiche &ajouté);
+    void Editer(std::size_t début, std::size_t retirés, const TexteRiche& ajouté);
 
 private:
     template <class T, T Format::*>
@@ -114,10 +114,10 @@ private:
     template <class T, T FormatParagraphe::*>
     friend class FormatSélectionParagraphe;
 
-    void Signaler(const Edition &édition);
+    void Signaler(const Edition& édition);
     // Runs over the formats of the selection, or the caret's, until the callback says no.
-    void ParcourirFormats(const std::function<bool(const Format &)> &visite) const;
-    void ParcourirParagraphes(const std::function<bool(const FormatParagraphe &)> &visite) const;
+    void ParcourirFormats(const std::function<bool(const Format&)>& visite) const;
+    void ParcourirParagraphes(const std::function<bool(const FormatParagraphe&)>& visite) const;
 
     TexteRiche texte_;
     std::size_t début_ = 0;
@@ -130,7 +130,7 @@ std::optional<T> FormatSélection<T, Champ>::operator()() const
 {
     std::optional<T> commun;
     bool mixte = false;
-    boîte_.ParcourirFormats([&](const Format &format) {
+    boîte_.ParcourirFormats([&](const Format& format) {
         if (commun && *commun != format.*Champ)
             mixte = true;
         commun = format.*Champ;
@@ -140,9 +140,9 @@ std::optional<T> FormatSélection<T, Champ>::operator()() const
 }
 
 template <class T, T Format::*Champ>
-FormatSélection<T, Champ> &FormatSélection<T, Champ>::operator=(T valeur)
+FormatSélection<T, Champ>& FormatSélection<T, Champ>::operator=(T valeur)
 {
-    boîte_.FormaterSélection([&](Format &format) { format.*Champ = valeur; });
+    boîte_.FormaterSélection([&](Format& format) { format.*Champ = valeur; });
     return *this;
 }
 
@@ -151,7 +151,7 @@ std::optional<T> FormatSélectionParagraphe<T, Champ>::operator()() const
 {
     std::optional<T> commun;
     bool mixte = false;
-    boîte_.ParcourirParagraphes([&](const FormatParagraphe &format) {
+    boîte_.ParcourirParagraphes([&](const FormatParagraphe& format) {
         if (commun && *commun != format.*Champ)
             mixte = true;
         commun = format.*Champ;
@@ -161,8 +161,8 @@ std::optional<T> FormatSélectionParagraphe<T, Champ>::operator()() const
 }
 
 template <class T, T FormatParagraphe::*Champ>
-FormatSélectionParagraphe<T, Champ> &FormatSélectionParagraphe<T, Champ>::operator=(T valeur)
+FormatSélectionParagraphe<T, Champ>& FormatSélectionParagraphe<T, Champ>::operator=(T valeur)
 {
-    boîte_.FormaterParagraphes([&](FormatParagraphe &format) { format.*Champ = valeur; });
+    boîte_.FormaterParagraphes([&](FormatParagraphe& format) { format.*Champ = valeur; });
     return *this;
 }

@@ -20,7 +20,7 @@ bool EstChiffre(char16_t c)
 }
 
 // The longest leading number: sign, digits, one point or, when allowed, one comma.
-std::string NombreEnTête(VueTexte texte, bool virgule, std::size_t &lus)
+std::string NombreEnTête(VueTexte texte, bool virgule, std::size_t& lus)
 {
     std::string nombre;
     std::size_t i = 0;
@@ -46,7 +46,7 @@ std::string NombreEnTête(VueTexte texte, bool virgule, std::size_t &lus)
     return chiffre ? nombre : std::string{};
 }
 
-double Convertir(const std::string &nombre)
+double Convertir(const std::string& nombre)
 {
     double valeur = 0;
     std::from_chars(nombre.data(), nombre.data() + nombre.size(), valeur);
@@ -179,10 +179,10 @@ Chemin EnChemin(VueTexte texte)
     return {std::u8string(octets.begin(), octets.end())};
 }
 
-Texte DepuisChemin(const Chemin &chemin)
+Texte DepuisChemin(const Chemin& chemin)
 {
     const auto octets = chemin.u8string();
-    return DepuisUtf8({reinterpret_cast<const char *>(octets.data()), octets.size()});
+    return DepuisUtf8({reinterpret_cast<const char*>(octets.data()), octets.size()});
 }
 
 Texte Joindre(VueTexte dossier, VueTexte nom)

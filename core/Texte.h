@@ -27,7 +27,7 @@ Texte DepuisUtf8(std::string_view octets);
 std::string EnUtf8(VueTexte texte);
 
 Chemin EnChemin(VueTexte texte);
-Texte DepuisChemin(const Chemin &chemin);
+Texte DepuisChemin(const Chemin& chemin);
 // Folder, separator, name; no second separator behind a folder that ends in one.
 Texte Joindre(VueTexte dossier, VueTexte nom);
 

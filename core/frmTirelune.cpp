@@ -1,0 +1,171 @@
+#include "core/frmTirelune.h"
+
+#include "core/FichierChamps.h"
+
+namespace {
+
+constexpr std::size_t LongueurCode = 6;
+constexpr int LignesBlanches = 7; // the editor shows its fonts seven at a time
+
+} // namespace
+
+EtatInitial frmTirelune::CodeCaché(bool visible)
+{
+    return {.Visible = visible,
+            .ToolTipText = u" 6 caractères maximum ",
+            .PourFichier = true,
+            .MaxLength = LongueurCode,
+            .PasswordChar = u'*'};
+}
+
+frmTirelune::frmTirelune(Application& application)
+    : Ecran(application, "frmTirelune", u"Tirelune"),
+      Label2(*this, "Label2",
+             {u"     Tirelune nécessite un affichage de 800x600, avec 65 000 couleurs (24 bits) ou plus pour un "
+              u"meilleur confort.                    Pour gagner de la place, faites disparaître la barre des tâches "
+              u"du système : clic droit sur la barre, Propriétés, option Masquer automatiquement.",
+              u"Une banque de textes régulièrement mise à jour est disponible sur le site suivant :",
+              u"tirelune.example/textes", u"Pour nous écrire : bonjour@tirelune.example"})
+{
+    mnuElève.Click = [this] {
+        Ouvrir("frmExercices");
+    };
+    mnuEnseignant.Click = [this] {
+        mnuEnseignant_Click();
+    };
+    mnuQuitter.Click = [this] {
+        application_.plateforme.Terminer();
+    };
+    cmdCode.Click = [this] {
+        cmdCode_Click();
+    };
+    txtCodeEnseignant.Enter = [this] {
+        cmdCode_Click();
+    };
+    txtVérificationCode.Enter = [this] {
+        cmdCode_Click();
+    };
+    cmdAnnuler.Click = [this] {
+        cmdAnnuler_Click();
+    };
+}
+
+std::vector<Menu> frmTirelune::Menus()
+{
+    return {{&mnuEnseignant}, {&mnuElève}, {&mnuQuitter}};
+}
+
+Arrangement frmTirelune::Disposer()
+{
+    return Colonne{
+        Ressort{},
+        Centré{Cadre{frameCodeEnseignant,
+                     Colonne{
+                         lblCodeEnseignant,
+                         Ligne{txtCodeEnseignant, Label1},
+                         lblVérificationCode,
+                         txtVérificationCode,
+                         lblCodeRappel,
+                         Ligne{Ressort{}, cmdCode, cmdAnnuler},
+                     }}},
+        Ressort{},
+        Centré{Cadre{Frame1, Colonne(Label2)}},
+    };
+}
+
+void frmTirelune::Load()
+{
+    application_.plateforme.DemanderPolices([this](std::vector<Texte> polices) { ListerPolices(std::move(polices)); });
+}
+
+void frmTirelune::ListerPolices(std::vector<Texte> polices)
+{
+    cmbPassagePolices.Clear();
+    cmbPassagePolices.AddItems(std::move(polices));
+    cmbPolices.Clear();
+    cmbPolices.AddItems(cmbPassagePolices.Eléments());
+    cmbPolices.AddItems(std::vector<Texte>(LignesBlanches));
+}
+
+void frmTirelune::Activate()
+{
+    état.CheminAppli = DepuisChemin(application_.plateforme.DossierProgramme());
+    PeindreFond();
+    const auto champs = LireChamps(EnChemin(Joindre(état.CheminAppli, u"Chemin.txt")));
+    if (!champs || champs->empty())
+        return;
+    état.CheminRéseau = champs->front();
+    état.CheminBilans = état.CheminRéseau.empty() ? état.CheminAppli : état.CheminRéseau;
+}
+
+void frmTirelune::PeindreFond()
+{
+    static constexpr int Bandes = 256;
+    Dessin dégradé{1, Bandes, {}};
+    for (unsigned i = 0; i < Bandes; ++i) {
+        const double y = i;
+        dégradé.formes.push_back({.genre = GenreForme::Polygone,
+                                  .points = {{0, y}, {1, y}, {1, y + 1}, {0, y + 1}},
+                                  .trait = CouleurAuto,
+                                  .fond = Couleur::Rvb(0, i, 255)});
+    }
+    Fond = std::move(dégradé);
+}
+
+void frmTirelune::mnuEnseignant_Click()
+{
+    txtCodeEnseignant.Text = Texte{};
+    txtVérificationCode.Text = Texte{};
+    frameCodeEnseignant.Visible = true;
+    txtCodeEnseignant.SetFocus();
+}
+
+void frmTirelune::cmdCode_Click()
+{
+    const auto fichier = Joindre(état.CheminAppli, u"CodeEnseignant.txt");
+    const auto champs = LireChamps(EnChemin(fichier));
+    if (!champs) {
+        DéfinirCode(fichier);
+        return;
+    }
+    CacherCode();
+    if ((champs->empty() ? Texte{} : champs->back()) == txtCodeEnseignant.Text())
+        Ouvrir("frmEnseignant");
+}
+
+void frmTirelune::DéfinirCode(const Texte& fichier)
+{
+    lblVérificationCode.Visible = true;
+    txtVérificationCode.Visible = true;
+    lblCodeRappel.Visible = true;
+    txtVérificationCode.SetFocus();
+    if (txtVérificationCode.Text != txtCodeEnseignant.Text)
+        return;
+    const auto contenu = ComposerChamps({txtCodeEnseignant.Text});
+    if (const auto échec = application_.plateforme.Réécrire(EnChemin(fichier), *contenu)) {
+        Avertir(MessageEchec(*échec, fichier));
+        return;
+    }
+    CacherCode();
+    Ouvrir("frmEnseignant");
+}
+
+void frmTirelune::CacherCode()
+{
+    lblVérificationCode.Visible = false;
+    txtVérificationCode.Visible = false;
+    lblCodeRappel.Visible = false;
+    frameCodeEnseignant.Visible = false;
+}
+
+void frmTirelune::cmdAnnuler_Click()
+{
+    CacherCode();
+    txtCodeEnseignant.Text = Texte{};
+    txtVérificationCode.Text = Texte{};
+}
+
+void frmTirelune::QueryUnload()
+{
+    application_.plateforme.Terminer();
+}

@@ -1,0 +1,144 @@
+#include "followup/EnregistrerNotes.h"
+
+#include "core/FichierChamps.h"
+#include "followup/frmExercices.h"
+
+#include <algorithm>
+#include <cassert>
+
+std::optional<float> LireNote(const Texte& cellule)
+{
+    const auto nombre = LireNombre(cellule);
+    return nombre ? std::optional{static_cast<float>(*nombre)} : std::nullopt;
+}
+
+Couleur CouleurDeNote(float note)
+{
+    if (note < 3)
+        return Rouge;
+    if (note < 5)
+        return Orange;
+    if (note < 7)
+        return Jaune;
+    if (note < 9)
+        return Vert;
+    return Cyan;
+}
+
+Texte NoteCourte(VueTexte note)
+{
+    Texte courte{note.substr(0, 4)};
+    std::replace(courte.begin(), courte.end(), u',', u'.');
+    return courte;
+}
+
+Texte FichierBilan(VueTexte dossier, VueTexte nomElève)
+{
+    return Joindre(dossier, Texte{nomElève} + u".bil");
+}
+
+bool RéessayerRéseau(Application& application)
+{
+    return application.plateforme.AfficherBoîte({.Message =
+                                                     u"Le répertoire des fichiers \"Elèves\" n'est pas accessible.\n\n"
+                                                     u"Veuillez vérifier votre connexion avant de continuer !\n",
+                                                 .Titre = u"CONNEXION RESEAU DEFECTUEUSE",
+                                                 .Choix = Boutons::OkAnnuler}) == Réponse::Ok;
+}
+
+std::optional<float> MoyenneColonne(const frmExercices& choix, int colonne)
+{
+    float somme = 0;
+    int nombre = 0;
+    for (int rangée = 1; rangée < choix.fgRésultats.Rows(); ++rangée) {
+        if (const auto note = LireNote(choix.fgRésultats.TextMatrix(rangée, colonne))) {
+            somme += *note;
+            ++nombre;
+        }
+    }
+    return nombre == 0 ? std::nullopt : std::optional{somme / static_cast<float>(nombre)};
+}
+
+int RangéeDuTexte(frmExercices& choix, const Texte& titre)
+{
+    auto& grille = choix.fgRésultats;
+    for (int rangée = 1; rangée < grille.Rows(); ++rangée) {
+        if (grille.TextMatrix(rangée, ColonneTitre) == titre)
+            return rangée;
+    }
+    grille.AddRow();
+    grille.TextMatrix(grille.Rows() - 1, ColonneTitre, titre);
+    return grille.Rows() - 1;
+}
+
+void EnregistrerNote(frmExercices& choix, float note)
+{
+    const int exercice = static_cast<int>(Valeur(choix.lblIndex.Caption));
+    const int colonne = exercice + PremièreColonneNote;
+    const auto séparateur = choix.ApplicationDe().plateforme.SéparateurDécimal();
+    const auto texte = EnTexte(note, séparateur);
+    choix.fgRésultats.TextMatrix(RangéeDuTexte(choix, Rogner(choix.lblTexte.Caption)), colonne, texte);
+
+    const auto moyenne = MoyenneColonne(choix, colonne);
+    assert(moyenne); // the score just written is one
+    const auto texteMoyenne = EnTexte(*moyenne, séparateur);
+    choix.fgRésultats.TextMatrix(0, colonne, texteMoyenne);
+
+    choix.lblExo(exercice).BackColor = CouleurDeNote(note);
+    choix.lblExo(exercice).ToolTipText = NoteCourte(texte);
+    choix.lblMoyenne(exercice).BackColor = CouleurDeNote(*moyenne);
+    choix.lblMoyenne(exercice).Caption = NoteCourte(texteMoyenne);
+}
+
+namespace {
+
+// All records, row 0 left out. Titles that a field can't hold never get into the grid.
+std::string ComposerBilan(const Grid& grille)
+{
+    std::vector<Texte> champs;
+    champs.reserve(static_cast<std::size_t>(grille.Rows()) * (NombreColonnes + 1));
+    for (int rangée = 1; rangée < grille.Rows(); ++rangée) {
+        champs.emplace_back(Marqueur);
+        for (int colonne = 0; colonne < NombreColonnes; ++colonne)
+            champs.push_back(Rogner(grille.TextMatrix(rangée, colonne)));
+    }
+    const auto octets = ComposerChamps(champs);
+    assert(octets);
+    return *octets;
+}
+
+// The file could not be opened: asks where to go on. False: nowhere.
+bool ChangerDeDossier(frmExercices& choix)
+{
+    auto& application = choix.ApplicationDe();
+    auto& état = application.état;
+    if (RéessayerRéseau(application))
+        return true;
+    if (état.CheminBilans == état.CheminAppli)
+        return false;
+    état.CheminBilans = état.CheminAppli;
+    return true;
+}
+
+} // namespace
+
+bool SauverBilan(frmExercices& choix)
+{
+    auto& application = choix.ApplicationDe();
+    auto& état = application.état;
+    état.CheminBilans = état.CheminRéseau.empty() ? état.CheminAppli : état.CheminRéseau;
+    const auto contenu = ComposerBilan(choix.fgRésultats);
+    choix.BilanEnregistré = false;
+    for (;;) {
+        const auto fichier = FichierBilan(état.CheminBilans, état.NomElève);
+        const auto échec = application.plateforme.Réécrire(EnChemin(fichier), contenu);
+        if (!échec) {
+            choix.BilanEnregistré = true;
+            return true;
+        }
+        if (échec == EchecFichier::Ecriture || !ChangerDeDossier(choix)) {
+            application.Avertir(MessageEchec(*échec, fichier));
+            return false;
+        }
+    }
+}

@@ -1,0 +1,58 @@
+// The 27 exercises: the order in which labels, grid columns and curves count them.
+#pragma once
+#include "core/Texte.h"
+
+#include <array>
+#include <string_view>
+
+inline constexpr int NombreExercices = 27;
+
+struct Exercice {
+    VueTexte libellé;
+    std::string_view écran;
+};
+
+inline constexpr std::array<Exercice, NombreExercices> Exercices{{
+    {u"Questionnaire (1)", "frmQuestionnaire1"},
+    {u"Questionnaire (2)", "frmQuestionnaire1"},
+    {u"Texte masqué", "frmTexteMasqué"},
+    {u"Closures", "frmClosures"},
+    {u"Texte à trous", "frmTrous"},
+    {u"Dictionnaire", "frmDico"},
+    {u"Synonymes", "frmSynonymes"},
+    {u"Contraires", "frmContraires"},
+    {u"Masculin / Féminin", "frmGenre"},
+    {u"Thèmes (1)", "frmThèmes"},
+    {u"Thèmes (2)", "frmThèmes2"},
+    {u"Photographier", "frmPhotographier"},
+    {u"Mémoriser la série", "frmSérie"},
+    {u"Mot tronqué", "frmTronqué"},
+    {u"Poursuite", "frmPoursuite"},
+    {u"Trouve-moi", "frmTrouveMoi"},
+    {u"L'absent", "frmAbsent"},
+    {u"Mots en désordre", "frmMotsEnDésordre"},
+    {u"Mots inversés", "frmMotsInversés"},
+    {u"Lignes en désordre", "frmLignesEnDésordre"},
+    {u"Phrases en désordre", "frmPhrasesEnDésordre"},
+    {u"Le pendu", "frmPendu"},
+    {u"Mot coupé", "frmMotsCoupés"},
+    {u"Ecrire un mot", "frmEcrireMot"},
+    {u"Je corrige", "frmJeCorrige"},
+    {u"Ecrire une phrase", "frmEcrirePhrase"},
+    {u"Ordre alphabétique", "frmAlphabet"},
+}};
+
+// A group stands together on the chooser and on the curves.
+struct Groupe {
+    VueTexte titre;
+    int premier; // index of its first exercise
+    int nombre;
+};
+
+inline constexpr std::array<Groupe, 5> Groupes{{
+    {u"Comprendre le texte", 0, 4},
+    {u"Vocabulaire", 4, 7},
+    {u"Mémoire / Rapidité / Discrimination", 11, 6},
+    {u"Ordre (cohérence)", 17, 4},
+    {u"Orthographe", 21, 6},
+}};

@@ -1,0 +1,412 @@
+#include "followup/frmExercices.h"
+
+#include "core/FichierChamps.h"
+#include "core/Fonctions.h"
+#include "followup/EnregistrerNotes.h"
+
+#include <algorithm>
+
+namespace {
+
+constexpr std::size_t CaractèresMinimum = 250;
+constexpr int IndexQuestionnaire1 = 0;
+constexpr int IndexQuestionnaire2 = 1;
+constexpr VueTexte AFaire = u" A faire ";
+constexpr VueTexte SansQuestionnaire = u"Je ne trouve pas de questionnaire associé au texte !";
+
+// A small picture of curves on their axes.
+Dessin Courbes()
+{
+    const auto tracé = [](std::vector<Point> points, Couleur teinte, double épaisseur) {
+        return Forme{.genre = GenreForme::Tracé, .points = std::move(points), .trait = teinte, .épaisseur = épaisseur};
+    };
+    return {32,
+            24,
+            {tracé({{4, 2}, {4, 20}, {30, 20}}, Noir, 2), tracé({{4, 17}, {11, 12}, {18, 14}, {28, 5}}, Rouge, 2.5),
+             tracé({{4, 9}, {11, 15}, {18, 8}, {28, 12}}, Bleu, 2.5)}};
+}
+
+EtatInitial EtatDuGroupe(int groupe)
+{
+    static constexpr std::array<Couleur, Groupes.size()> Fonds{Couleur::Rvb(255, 232, 204), Couleur::Rvb(221, 240, 206),
+                                                               Couleur::Rvb(215, 232, 250), Couleur::Rvb(247, 221, 235),
+                                                               Couleur::Rvb(255, 245, 190)};
+    const auto i = static_cast<std::size_t>(groupe);
+    return {.Caption = Texte{Groupes[i].titre},
+            .ToolTipText = u" Cliquer sur le cadre de couleur pour voir la progression. ",
+            .BackColor = Fonds[i],
+            .Gras = true};
+}
+
+} // namespace
+
+frmExercices::frmExercices(Application& application)
+    : Ecran(application, "frmExercices", u"Choix des exercices"),
+      frmCompréhension(*this, "frmCompréhension", EtatDuGroupe(0)),
+      frmVocabulaire(*this, "frmVocabulaire", EtatDuGroupe(1)),
+      frmVitesse(*this, "frmVitesse", EtatDuGroupe(2)),
+      frmOrdre(*this, "frmOrdre", EtatDuGroupe(3)),
+      frmOrthographe(*this, "frmOrthographe", EtatDuGroupe(4)),
+      lblExo(*this, "lblExo", NombreExercices, {.ToolTipText = Texte{AFaire}, .BackColor = Blanc, .ForeColor = Noir}),
+      lblMoyenne(*this, "lblMoyenne", NombreExercices,
+                 {.ToolTipText = u" Moyenne sur 10 pour tous les textes étudiés. ",
+                  .BackColor = Blanc,
+                  .ForeColor = Noir,
+                  .Centré = true,
+                  .Bordure = true}),
+      imgCourbes(*this, "imgCourbes", static_cast<int>(Groupes.size()),
+                 {.ToolTipText = u" Cliquer ici pour voir les courbes de progression. "}),
+      lblConsigne(*this, "lblConsigne",
+                  u"            AVERTISSEMENT                    Afficher les résultats ne charge pas le texte en "
+                  u"mémoire.                       Pour cela, vous devez cliquer sur le bouton \"Charger un fichier "
+                  u"texte\"."),
+      fgRésultats(*this, "fgRésultats", 1, NombreColonnes)
+{
+    for (int i = 0; i < NombreExercices; ++i)
+        lblExo(i).Caption = Texte{Exercices[static_cast<std::size_t>(i)].libellé};
+    cmdOk.Click = [this] {
+        cmdOk_Click();
+    };
+    cmdCharger.Click = [this] {
+        cmdCharger_Click();
+    };
+    cmbTextes.Click = [this] {
+        cmbTextes_Click();
+    };
+    lblExo.Click([this](int i) { lblExo_Click(i); });
+    for (int groupe = 0; groupe < imgCourbes.Nombre(); ++groupe) {
+        CadreDe(groupe).Click = [this, groupe] {
+            Progression_Click(groupe);
+        };
+        imgCourbes(groupe).Picture = Courbes();
+    }
+    imgCourbes.Click([this](int i) { Progression_Click(i); });
+    cmdCode.Click = [this] {
+        Ouvrir("frmCodeCouleur");
+    };
+    cmdQuitter.Click = [this] {
+        Décharger();
+    };
+}
+
+Frame& frmExercices::CadreDe(int groupe)
+{
+    const std::array<Frame*, Groupes.size()> cadres{&frmCompréhension, &frmVocabulaire, &frmVitesse, &frmOrdre,
+                                                    &frmOrthographe};
+    return *cadres.at(static_cast<std::size_t>(groupe));
+}
+
+Arrangement frmExercices::DisposerGroupe(int groupe)
+{
+    const auto& [titre, premier, nombre] = Groupes.at(static_cast<std::size_t>(groupe));
+    std::vector<Arrangement> rangées;
+    for (int i = premier; i < premier + nombre; ++i)
+        rangées.emplace_back(Ligne{Extensible(lblExo(i)), AuMoins(600, 0, lblMoyenne(i))});
+    rangées.emplace_back(Ligne{Ressort{}, AuMoins(600, 420, imgCourbes(groupe))});
+    return Cadre{CadreDe(groupe), Arrangement(Disposition::Colonne, std::move(rangées))};
+}
+
+Arrangement frmExercices::Disposer()
+{
+    return Pile{
+        Colonne{
+            Ligne{cmdCharger, Extensible(lblTexte), cmdCode, cmdQuitter},
+            Extensible(Ligne{
+                Extensible(Colonne{DisposerGroupe(0), DisposerGroupe(1), Ressort{}}),
+                Extensible(Colonne{DisposerGroupe(2), DisposerGroupe(3), Ressort{}}),
+                Extensible(Colonne{DisposerGroupe(4), Label2,
+                                   Ligne{Extensible(lblVitesse), Extensible(lblVitesseMoyenne)}, Label1, cmbTextes,
+                                   lblConsigne, Ressort{}}),
+            }),
+        },
+        Couverture{frameElève, Colonne{lblPrénom, AuMoins(5000, 0, cmbNoms), Centré{cmdOk}}},
+    };
+}
+
+void frmExercices::Load()
+{
+    while (!listeBil.Path(état.CheminBilans)) {
+        if (!RéessayerRéseau(application_)) {
+            état.CheminBilans = état.CheminAppli;
+            listeBil.Refresh(état.CheminBilans); // whatever it holds
+            break;
+        }
+    }
+    ListerElèves();
+    frameElève.Visible = true;
+}
+
+void frmExercices::Unload()
+{
+    if (!BilanEnregistré) // a save has failed since: the grid goes now, so try once more
+        SauverBilan(*this);
+}
+
+void frmExercices::Resize()
+{
+    frameElève.Left = 0;
+    frameElève.Top = 0;
+    frameElève.Width = Width;
+    frameElève.Height = Height;
+}
+
+void frmExercices::ListerElèves()
+{
+    cmbNoms.Clear();
+    if (listeBil.ListCount() == 0) {
+        Avertir(u"Il n'y a aucun fichier élève enregistré !");
+        return;
+    }
+    static constexpr std::size_t LongueurExtension = 4;
+    std::vector<Texte> noms;
+    for (int i = 0; i < listeBil.ListCount(); ++i)
+        noms.push_back(listeBil.List(i).substr(0, listeBil.List(i).size() - LongueurExtension));
+    cmbNoms.AddItems(std::move(noms));
+    cmbNoms.Montrer(0);
+}
+
+void frmExercices::cmdOk_Click()
+{
+    état.NomElève = cmbNoms.Text;
+    AjouterNomElève();
+    ChargerBilan();
+    frameElève.Visible = false;
+}
+
+// ---- The pupil's results ---------------------------------------------------------------------------------------
+
+void frmExercices::ChargerBilan()
+{
+    const auto fichier = FichierBilan(état.CheminBilans, état.NomElève);
+    if (const auto champs = LireChamps(EnChemin(fichier), Valeurs::SurUneLigne))
+        RangerChamps(*champs);
+    else if (std::error_code erreur; std::filesystem::exists(EnChemin(fichier), erreur))
+        Avertir(u"Impossible de lire le fichier\n" + fichier);
+    CalculerMoyennes();
+    PeindreMoyennes();
+    if (cmbTextes.ListCount() == 0)
+        return;
+    cmbTextes.Montrer(cmbTextes.ListCount() - 1);
+    PeindreTexte(fgRésultats.Rows() - 1);
+}
+
+void frmExercices::RangerChamps(const std::vector<Texte>& champs)
+{
+    const auto textes = static_cast<int>(std::count(champs.begin(), champs.end(), Marqueur));
+    fgRésultats.Rows(textes + 1);
+    std::vector<Texte> titres;
+    bool abîmé = false;
+    int rangée = 0;
+    int colonne = 0;
+    for (const auto& champ : champs) {
+        if (champ == Marqueur) {
+            ++rangée;
+            colonne = 0;
+            continue;
+        }
+        if (rangée == 0 || colonne >= NombreColonnes) {
+            abîmé = true;
+            continue;
+        }
+        if (colonne == ColonneTitre)
+            titres.push_back(Rogner(champ));
+        fgRésultats.TextMatrix(rangée, colonne, AvecSéparateur(Rogner(champ), colonne));
+        ++colonne;
+    }
+    cmbTextes.AddItems(std::move(titres));
+    if (abîmé)
+        GarderCopie();
+}
+
+// A score may come from a machine with another decimal separator; this machine's own is what gets written.
+Texte frmExercices::AvecSéparateur(Texte champ, int colonne) const
+{
+    if (colonne >= PremièreColonneNote && LireNote(champ)) {
+        const auto séparateur = application_.plateforme.SéparateurDécimal();
+        std::replace_if(
+            champ.begin(), champ.end(), [](char16_t c) { return c == u'.' || c == u','; }, séparateur);
+    }
+    return champ;
+}
+
+// Some of the file has no place in the grid: the next save would lose it, so the file stays under another name.
+void frmExercices::GarderCopie()
+{
+    const auto fichier = FichierBilan(état.CheminBilans, état.NomElève);
+    Texte copie;
+    std::error_code erreur;
+    for (int numéro = 1; copie.empty() || std::filesystem::exists(EnChemin(copie), erreur); ++numéro)
+        copie = fichier + u".abîmé" + EnTexte(static_cast<long long>(numéro));
+    const bool copié = std::filesystem::copy_file(EnChemin(fichier), EnChemin(copie), erreur);
+    Avertir(u"Le fichier des résultats\n" + fichier + u"\nest abîmé. Ce qui est lisible a été lu.\n\n" +
+            (copié ? u"Le fichier tel qu'il était est gardé sous le nom\n" + copie
+                   : Texte{u"Il n'a pas pu être copié : prévenez votre enseignant avant de continuer."}));
+}
+
+void frmExercices::CalculerMoyennes()
+{
+    const auto séparateur = application_.plateforme.SéparateurDécimal();
+    for (int colonne = ColonneVitesse; colonne < NombreColonnes; ++colonne) {
+        const auto moyenne = MoyenneColonne(*this, colonne);
+        if (!moyenne)
+            continue;
+        if (colonne == ColonneVitesse) {
+            fgRésultats.TextMatrix(0, colonne, EnTexte(static_cast<long long>(*moyenne)));
+            lblVitesseMoyenne.Caption = fgRésultats.TextMatrix(0, colonne);
+        } else {
+            fgRésultats.TextMatrix(0, colonne, EnTexte(*moyenne, séparateur));
+        }
+    }
+}
+
+void frmExercices::PeindreMoyennes()
+{
+    for (int i = 0; i < NombreExercices; ++i) {
+        const auto& texte = fgRésultats.TextMatrix(0, i + PremièreColonneNote);
+        const auto moyenne = LireNote(texte);
+        lblMoyenne(i).BackColor = moyenne ? CouleurDeNote(*moyenne) : Blanc;
+        lblMoyenne(i).Caption = moyenne ? NoteCourte(texte) : Texte{};
+    }
+}
+
+void frmExercices::PeindreTexte(int rangée)
+{
+    if (const auto& vitesse = fgRésultats.TextMatrix(rangée, ColonneVitesse); !vitesse.empty())
+        lblVitesse.Caption = vitesse;
+    for (int i = 0; i < NombreExercices; ++i) {
+        const auto& texte = fgRésultats.TextMatrix(rangée, i + PremièreColonneNote);
+        const auto note = LireNote(texte);
+        lblExo(i).BackColor = note ? CouleurDeNote(*note) : Blanc;
+        lblExo(i).ToolTipText = note ? NoteCourte(texte) : Texte{AFaire};
+    }
+}
+
+void frmExercices::EffacerCouleurs()
+{
+    for (auto& exercice : lblExo) {
+        exercice.BackColor = Blanc;
+        exercice.ToolTipText = Texte{AFaire};
+    }
+}
+
+std::optional<int> frmExercices::ChercherTexte(const Texte& titre) const
+{
+    for (int rangée = 1; rangée < fgRésultats.Rows(); ++rangée) {
+        if (Rogner(fgRésultats.TextMatrix(rangée, ColonneTitre)) == titre)
+            return rangée;
+    }
+    return std::nullopt;
+}
+
+void frmExercices::cmbTextes_Click()
+{
+    if (cmbTextes.Text().empty())
+        return;
+    if (const auto rangée = ChercherTexte(Rogner(cmbTextes.Text)))
+        PeindreTexte(*rangée);
+    else
+        EffacerCouleurs();
+}
+
+// ---- The text --------------------------------------------------------------------------------------------------
+
+namespace {
+
+// The folder of a file, with its separator: the title is blanked out where it stands first, with the character
+// behind it, and the blanks are trimmed. A title that stands in the path earlier is blanked there.
+Texte DossierDuTexte(Texte fichier, const Texte& titre)
+{
+    const auto place = fichier.find(titre);
+    const auto longueur = std::min(titre.size() + 1, fichier.size() - place);
+    return Rogner(fichier.replace(place, longueur, longueur, u' '));
+}
+
+} // namespace
+
+void frmExercices::cmdCharger_Click()
+{
+    const auto choisi = application_.plateforme.DemanderFichierAOuvrir(
+        {.Titre = u"Ouvrir un fichier texte",
+         .Filtre = u"Textes RTF|*.rtf",
+         .Dossier = état.CheminTexteElève.empty() ? état.CheminAppli : état.CheminTexteElève,
+         .NomFichier = u"*.rtf"});
+    if (!choisi)
+        return;
+    const auto titreFichier = DepuisChemin(EnChemin(*choisi).filename());
+    const auto titre = titreFichier.substr(0, titreFichier.find(u'.'));
+    if (Rogner(titre).empty() || titre == Marqueur || !TientDansUnChamp(titre)) {
+        Avertir(u"Le nom de ce fichier ne peut pas servir de titre. Demande à ton enseignant de le renommer.");
+        return;
+    }
+    if (!rtfTexte.LoadFile(EnChemin(*choisi))) {
+        Avertir(u"Impossible de lire ce format de fichier !", u"Erreur lors de l'ouverture");
+        return;
+    }
+    état.CheminTexteElève = DossierDuTexte(*choisi, titreFichier);
+    lblTexte.Caption = u" " + titre + u" ";
+    lblTexte.Visible = true;
+    lblVitesse.Caption = Texte{};
+    MontrerRésultats(Rogner(titre));
+    ChargerVocabulaire();
+}
+
+void frmExercices::MontrerRésultats(const Texte& titre)
+{
+    if (cmbTextes.Chercher(titre) < 0)
+        cmbTextes.AddItem(titre);
+    cmbTextes.Montrer(cmbTextes.Chercher(titre));
+    if (const auto rangée = ChercherTexte(titre))
+        PeindreTexte(*rangée);
+    else
+        EffacerCouleurs();
+}
+
+void frmExercices::ChargerVocabulaire()
+{
+    cmbVocabulaire.Clear();
+    cmbVocabulaire.AddItems(MotsMarqués(rtfTexte.TextRTF()));
+}
+
+// ---- The exercises ---------------------------------------------------------------------------------------------
+
+void frmExercices::lblExo_Click(int i)
+{
+    if (Rogner(lblTexte.Caption).empty()) {
+        Avertir(u"Vous devez d'abord ouvrir un fichier texte !");
+        return;
+    }
+    if (Rogner(rtfTexte.Text()).size() < CaractèresMinimum) {
+        Avertir(u"Le texte est trop court !");
+        return;
+    }
+    lblExo(i).Bordure = true;
+    lblExo(i).MousePointer = Pointeur::Sablier;
+    lblIndex.Caption = EnTexte(static_cast<long long>(i));
+    OuvrirExercice(i);
+    lblExo(i).MousePointer = Pointeur::Normal;
+    lblExo(i).Bordure = false;
+}
+
+void frmExercices::OuvrirExercice(int i)
+{
+    if (i > IndexQuestionnaire1 && lblVitesse.Caption().empty()) {
+        Avertir(u"Tu dois faire l'exercice - QUESTIONNAIRE 1 - avant tous les autres.");
+        return;
+    }
+    if (i == IndexQuestionnaire2) {
+        VérifQuestions(état, lblTexte.Caption);
+        if (!état.QuestionnaireExiste) {
+            Avertir(Texte{SansQuestionnaire});
+            return;
+        }
+    }
+    const auto& [libellé, écran] = Exercices.at(static_cast<std::size_t>(i));
+    if (!Ouvrir(écran))
+        Avertir(u"L'exercice « " + Texte{libellé} + u" » n'est pas encore là.");
+}
+
+void frmExercices::Progression_Click(int groupe)
+{
+    état.GroupeCourbes = static_cast<std::uint8_t>(groupe + 1);
+    Ouvrir("frmProgression");
+}

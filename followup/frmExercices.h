@@ -1,0 +1,73 @@
+// The pupil's home: sign-in by name, the text, the 27 exercises in the colours of their scores.
+// It stays loaded under every exercise, which find the text and the vocabulary here and put their scores here.
+#pragma once
+#include "core/Ecran.h"
+#include "followup/Exercices.h"
+
+class frmExercices final : public Ecran {
+public:
+    explicit frmExercices(Application& application);
+
+    Label lblTexte{*this, "lblTexte", {.Visible = false, .ToolTipText = u" Texte chargé ", .Gras = true}};
+    Button cmdCharger{*this, "cmdCharger", u"C&harger un fichier texte"};
+
+    Frame frmCompréhension, frmVocabulaire, frmVitesse, frmOrdre, frmOrthographe;
+    Tableau<Label> lblExo;
+    Tableau<Label> lblMoyenne;
+    Tableau<Image> imgCourbes;
+
+    Label Label1{*this, "Label1", u" Afficher les résultats (textes déjà étudiés) :"};
+    ComboBox cmbTextes{
+        *this, "cmbTextes", {.ToolTipText = u" Affiche les résultats dans l'ordre des textes étudiés. "}};
+    Label lblConsigne;
+    Label Label2{*this, "Label2", u" Vitesse de lecture (signes par minute) "};
+    Label lblVitesse{*this, "lblVitesse", {.ToolTipText = u" Texte en cours ", .Centré = true, .Bordure = true}};
+    Label lblVitesseMoyenne{*this, "lblVitesseMoyenne", {.ToolTipText = u" Moyenne ", .Centré = true, .Bordure = true}};
+    Button cmdCode{*this, "cmdCode", u"&Code des Couleurs"};
+    Button cmdQuitter{*this, "cmdQuitter", u"&Quitter"};
+
+    Frame frameElève{*this, "frameElève", u"Elève"};
+    Label lblPrénom{*this, "lblPrénom", {.Caption = u"Choisis ton nom :", .FontSize = 18}};
+    ComboBox cmbNoms{*this, "cmbNoms", {.FontSize = 18}};
+    Button cmdOk{*this, "cmdOk", {.Caption = u"&Ok", .FontSize = 18}};
+
+    // Out of sight: what the exercises work on.
+    FileListBox listeBil{*this, "listeBil", u"*.bil"};
+    Grid fgRésultats;
+    RichTextBox rtfTexte{*this, "rtfTexte", {.Visible = false}};
+    ComboBox cmbVocabulaire{*this, "cmbVocabulaire", {.Visible = false, .Sorted = true}};
+    Label lblIndex{*this, "lblIndex", {.Visible = false}};
+
+    bool BilanEnregistré = true; // the grid is on the disk
+
+    // Shows in lblExo how the text of a grid row has been worked on.
+    void PeindreTexte(int rangée);
+
+private:
+    void Load() override;
+    void Unload() override;
+    void Resize() override;
+    Arrangement Disposer() override;
+
+    void cmdOk_Click();
+    void cmdCharger_Click();
+    void cmbTextes_Click();
+    void lblExo_Click(int i);
+    void Progression_Click(int groupe);
+
+    void ListerElèves();
+    void ChargerBilan();
+    void RangerChamps(const std::vector<Texte>& champs);
+    [[nodiscard]] Texte AvecSéparateur(Texte champ, int colonne) const;
+    void GarderCopie();
+    void CalculerMoyennes();
+    void PeindreMoyennes();
+    void MontrerRésultats(const Texte& titre);
+    void ChargerVocabulaire();
+    void EffacerCouleurs();
+    void OuvrirExercice(int i);
+    // Row of a title, compared trimmed; nothing when the text was never worked on.
+    [[nodiscard]] std::optional<int> ChercherTexte(const Texte& titre) const;
+    [[nodiscard]] Frame& CadreDe(int groupe);
+    [[nodiscard]] Arrangement DisposerGroupe(int groupe);
+};
