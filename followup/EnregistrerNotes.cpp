@@ -25,6 +25,11 @@ Couleur CouleurDeNote(float note)
     return Cyan;
 }
 
+float NoteSurDix(const Label& gagnés, const Label& possibles)
+{
+    return static_cast<float>(Valeur(gagnés.Caption) / Valeur(possibles.Caption) * 10);
+}
+
 Texte NoteCourte(VueTexte note)
 {
     Texte courte{note.substr(0, 4)};

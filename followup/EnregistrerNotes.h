@@ -8,6 +8,7 @@
 class Application;
 class Ecran;
 class frmExercices;
+class Label;
 
 // The grid's columns: title, speed, one for each exercise, and one that nobody writes.
 inline constexpr int ColonneTitre = 0;
@@ -33,6 +34,9 @@ std::optional<float> LireNote(const Texte& cellule);
 std::optional<float> MoyenneColonne(const frmExercices& choix, int colonne);
 
 Couleur CouleurDeNote(float note);
+
+// Points gained of points possible, on ten, not rounded.
+float NoteSurDix(const Label& gagnés, const Label& possibles);
 
 // First four characters of a score's text, with a point as decimal separator: cut, not rounded.
 Texte NoteCourte(VueTexte note);

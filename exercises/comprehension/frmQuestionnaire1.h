@@ -1,0 +1,75 @@
+// Questionnaires: (1) times the reading of the text, then asks with the text out of sight; (2) asks with the text in
+// view, in a frame that the pupil can drag away.
+#pragma once
+#include "core/Ecran.h"
+#include "followup/frmExercices.h"
+
+class frmQuestionnaire1 final : public Ecran {
+public:
+    explicit frmQuestionnaire1(frmExercices& choix);
+
+    Frame frameConsigne{*this, "frameConsigne"};
+    TextBox Text1{*this,
+                  "Text1",
+                  {.Caption = u"Lis bien le texte qui va s'afficher : tu devras ensuite répondre à des questions sans "
+                              u"pouvoir le relire.\r\n",
+                   .FontSize = 18,
+                   .MultiLine = true}};
+    Button cmdCommencer{*this, "cmdCommencer", {.Caption = u"Afficher le texte", .FontSize = 16}};
+
+    RichTextBox rtfTexte{*this, "rtfTexte", {.Visible = false}};
+    Button cmdOk{
+        *this, "cmdOk", {.Caption = u"Clique ici quand tu as lu tout le texte", .Visible = false, .FontSize = 16}};
+    Label lblConseil{*this,
+                     "lblConseil",
+                     {.Caption = u"Clique sur le cadre gris du questionnaire pour le déplacer.", .Visible = false}};
+    Button cmdInitialise{*this, "cmdInitialise", {.Caption = u"Questions disparues ! Clique ici.", .Visible = false}};
+
+    Frame frameQuestions{
+        *this, "frameQuestions", {.Caption = u"   Questionnaire", .Visible = false, .BackColor = GrisClair}};
+    Label Label1{*this, "Label1", {.Caption = u"Question N° ", .Gras = true}};
+    Label lblNuméro{*this, "lblNuméro", {.Caption = u"1", .Gras = true}};
+    Tableau<Label> lblPoints{*this,
+                             "lblPoints",
+                             {EtatInitial{.Caption = u"0", .BackColor = Jaune, .ForeColor = Rouge, .Gras = true},
+                              EtatInitial{.Caption = u"0", .BackColor = Jaune, .ForeColor = Rouge, .Gras = true},
+                              EtatInitial{.Caption = u" / ", .BackColor = Jaune, .ForeColor = Bleu, .Gras = true}}};
+    TextBox txtQuestion{*this, "txtQuestion", {.Gras = true, .MultiLine = true}};
+    Tableau<CheckBox> chkRéponse{*this, "chkRéponse", 5};
+    Tableau<TextBox> txtChoix{
+        *this,
+        "txtChoix",
+        {u"C'est vrai.", u"C'est faux.", u"Le texte ne le dit pas.", u"", u""},
+    };
+    Label lblOuiNon{*this, "lblOuiNon", {.Visible = false, .FontSize = 16, .Gras = true, .Centré = true}};
+    Button cmdVérifier{*this, "cmdVérifier", u"&Vérifier"};
+    Button cmdQuitter{*this, "cmdQuitter", u"&Quitter"};
+
+    Grid fgQuestions{*this, "fgQuestions", 12, 11};
+
+private:
+    void Load() override;
+    void Resize() override;
+    Arrangement Disposer() override;
+
+    void cmdCommencer_Click();
+    void cmdOk_Click();
+    void cmdVérifier_Click();
+    void cmdQuitter_Click();
+    void txtChoix_Click(int i);
+    void frameQuestions_MouseMove(double x, double y);
+    void frameQuestions_DragDrop(const Elément* cible, double x, double y);
+
+    [[nodiscard]] bool TexteEnVue() const; // Questionnaire (2)
+    void CommencerTexteEnVue();
+    void PlacerQuestions();
+    void EnregistrerVitesse(double secondes);
+    void MontrerQuestionsSansTexte();
+    void ChargerQuestions();
+    void AfficherQuestion(int rangée);
+    void CorrigerQuestion();
+    [[nodiscard]] bool RéponseJuste(int rangée) const;
+    [[nodiscard]] bool EstDernièreQuestion() const;
+
+    frmExercices& choix_;
+};
