@@ -34,6 +34,7 @@ PROGRAMME = os.environ.get("TIRELUNE_PROGRAMME", os.path.join(SOURCES, "build", 
 CAPTURES = os.path.join(SOURCES, "build", "seance")
 DELAI = 20.0  # seconds, for anything that is to happen
 PAS = 0.03    # between two looks
+SANS_TOUCHE = "âêîôûäëïöüÿñæœÀÂÉÈÊËÎÏÔÛÙÜÇÆŒ«»’…–—\u00a0"
 
 
 class Absent(Exception):
@@ -89,11 +90,31 @@ class Ecran:
         self.numero = ":" + ligne_de(lire, "Xvfb")
         os.close(lire)
         self.environnement = dict(os.environ, DISPLAY=self.numero)
-        # A French keyboard: the accented letters of the program's world are on its keys.
-        subprocess.run(["setxkbmap", "fr", "oss"], env=self.environnement, check=True, stderr=subprocess.DEVNULL)
+        self._poser_clavier()
         if gestionnaire:
             self.gestionnaire = demarrer(["openbox"], env=self.environnement, stdout=subprocess.DEVNULL,
                                          stderr=subprocess.DEVNULL)
+            # A window shown before it is there would be placed and given the keyboard late.
+            fin = time.monotonic() + DELAI
+            while subprocess.run(["xdotool", "get_num_desktops"], env=self.environnement, stdout=subprocess.DEVNULL,
+                                 stderr=subprocess.DEVNULL).returncode != 0:
+                if time.monotonic() > fin:
+                    raise Absent("the window manager did not start")
+                time.sleep(PAS)
+
+    def _poser_clavier(self):
+        """A French keyboard, with keys of their own for the letters that it has none for.
+
+        A letter that stands on no key would be typed by changing the keyboard on the way, which the program may
+        see too late.
+        """
+        clavier = subprocess.run(["setxkbmap", "fr", "-print"], env=self.environnement, check=True,
+                                 stdout=subprocess.PIPE, stderr=subprocess.DEVNULL).stdout.decode()
+        touches = "".join(f"key <I{code}> {{ [ U{ord(lettre):04X} ] }}; "
+                          for code, lettre in zip(range(208, 256), SANS_TOUCHE))
+        clavier = re.sub(r'(xkb_symbols\s*\{.*?)\};', lambda m: m[1] + touches + "};", clavier)
+        subprocess.run(["xkbcomp", "-w0", "-", self.numero], env=self.environnement, check=True,
+                       input=clavier.encode(), stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
 
     def fermer(self):
         arreter(self.gestionnaire)
@@ -118,7 +139,7 @@ class Element:
     def noms(self):
         """A drop-down list's name is its value: the toolkit leaves its own name only in the description."""
         if self.role == "combo box":
-            return self.nom, self.accessible.get_description()
+            return (self.nom, *self.accessible.get_description().split()[:1])
         return (self.nom,)
 
     def etat(self, nom):
@@ -215,6 +236,7 @@ class Pilote:
             self.programme = demarrer([os.path.join(self.racine, "tirelune")], cwd=self.maison,
                                       env=environnement, stdout=journal, stderr=journal)
         self.application = self.jusqu_a(self._trouver_application, "the program shows itself to assistive tools")
+        self.jusqu_a(lambda: any(f.etat("ACTIVE") for f in self.fenetres()), "the program has the keyboard")
 
     def _trouver_application(self):
         if self.programme.poll() is not None:
