@@ -15,7 +15,7 @@ paquets() {
             ;;
         fuzz) echo clang libclang-rt-dev ;;
         traitements-de-texte) echo python3 libreoffice-writer-nogui abiword ;;
-        mesure) echo python3 python3-xlib xvfb ;;
+        mesure) echo python3 python3-xlib xvfb x11-xkb-utils libbenchmark-dev ;;
         *)
             echo "installer : usage inconnu / unknown purpose: $1" >&2
             return 1
