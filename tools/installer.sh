@@ -15,7 +15,8 @@ paquets() {
             ;;
         fuzz) echo clang libclang-rt-dev ;;
         traitements-de-texte) echo python3 libreoffice-writer-nogui abiword ;;
-        mesure) echo python3 python3-xlib xvfb x11-xkb-utils libbenchmark-dev ;;
+        bancs) echo libbenchmark-dev libxtst-dev ;;
+        mesure) echo python3 python3-xlib xvfb x11-xkb-utils unrtf catdoc ;;
         *)
             echo "installer : usage inconnu / unknown purpose: $1" >&2
             return 1
