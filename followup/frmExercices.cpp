@@ -125,6 +125,8 @@ Arrangement frmExercices::Disposer()
 
 void frmExercices::Load()
 {
+    if (état.CheminBilans.empty()) // no Chemin.txt, and nothing saved yet
+        état.CheminBilans = état.CheminAppli;
     while (!listeBil.Path(état.CheminBilans)) {
         if (!RéessayerRéseau(application_)) {
             état.CheminBilans = état.CheminAppli;
