@@ -2,7 +2,10 @@
 
 #include "core/Application.h"
 #include "core/Ecran.h"
+#include "exercises/comprehension/frmClosures.h"
 #include "exercises/comprehension/frmQuestionnaire1.h"
+#include "exercises/comprehension/frmTexteMasqué.h"
+#include "exercises/vocabulary/frmTrous.h"
 #include "followup/frmExercices.h"
 
 namespace {
@@ -26,7 +29,10 @@ std::unique_ptr<Ecran> SurLeChoix(Ecran& ouvreur)
 void RemplirTable(Application& application)
 {
     application.écrans = {
+        {"frmClosures", SurLeChoix<frmClosures>},
         {"frmExercices", Seul<frmExercices>},
         {"frmQuestionnaire1", SurLeChoix<frmQuestionnaire1>},
+        {"frmTexteMasqué", SurLeChoix<frmTexteMasqué>},
+        {"frmTrous", SurLeChoix<frmTrous>},
     };
 }
