@@ -3,6 +3,10 @@
 #include "core/Application.h"
 #include "core/Ecran.h"
 #include "exercises/comprehension/frmQuestionnaire1.h"
+#include "exercises/memory/frmPhotographier.h"
+#include "exercises/memory/frmPoursuite.h"
+#include "exercises/memory/frmSérie.h"
+#include "exercises/spelling/frmPendu.h"
 #include "followup/frmExercices.h"
 
 namespace {
@@ -27,6 +31,10 @@ void RemplirTable(Application& application)
 {
     application.écrans = {
         {"frmExercices", Seul<frmExercices>},
+        {"frmPendu", SurLeChoix<frmPendu>},
+        {"frmPhotographier", SurLeChoix<frmPhotographier>},
+        {"frmPoursuite", SurLeChoix<frmPoursuite>},
         {"frmQuestionnaire1", SurLeChoix<frmQuestionnaire1>},
+        {"frmSérie", SurLeChoix<frmSérie>},
     };
 }
