@@ -2,11 +2,14 @@
 
 #include "core/Application.h"
 #include "core/Ecran.h"
+#include "exercises/comprehension/frmClosures.h"
 #include "exercises/comprehension/frmQuestionnaire1.h"
+#include "exercises/comprehension/frmTexteMasqué.h"
 #include "exercises/memory/frmPhotographier.h"
 #include "exercises/memory/frmPoursuite.h"
 #include "exercises/memory/frmSérie.h"
 #include "exercises/spelling/frmPendu.h"
+#include "exercises/vocabulary/frmTrous.h"
 #include "followup/frmExercices.h"
 
 namespace {
@@ -30,11 +33,10 @@ std::unique_ptr<Ecran> SurLeChoix(Ecran& ouvreur)
 void RemplirTable(Application& application)
 {
     application.écrans = {
-        {"frmExercices", Seul<frmExercices>},
-        {"frmPendu", SurLeChoix<frmPendu>},
-        {"frmPhotographier", SurLeChoix<frmPhotographier>},
-        {"frmPoursuite", SurLeChoix<frmPoursuite>},
-        {"frmQuestionnaire1", SurLeChoix<frmQuestionnaire1>},
-        {"frmSérie", SurLeChoix<frmSérie>},
+        {"frmClosures", SurLeChoix<frmClosures>},   {"frmExercices", Seul<frmExercices>},
+        {"frmPendu", SurLeChoix<frmPendu>},         {"frmPhotographier", SurLeChoix<frmPhotographier>},
+        {"frmPoursuite", SurLeChoix<frmPoursuite>}, {"frmQuestionnaire1", SurLeChoix<frmQuestionnaire1>},
+        {"frmSérie", SurLeChoix<frmSérie>},         {"frmTexteMasqué", SurLeChoix<frmTexteMasqué>},
+        {"frmTrous", SurLeChoix<frmTrous>},
     };
 }
