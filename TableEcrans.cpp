@@ -5,6 +5,10 @@
 #include "exercises/comprehension/frmClosures.h"
 #include "exercises/comprehension/frmQuestionnaire1.h"
 #include "exercises/comprehension/frmTexteMasqué.h"
+#include "exercises/memory/frmPhotographier.h"
+#include "exercises/memory/frmPoursuite.h"
+#include "exercises/memory/frmSérie.h"
+#include "exercises/spelling/frmPendu.h"
 #include "exercises/vocabulary/frmTrous.h"
 #include "followup/frmExercices.h"
 
@@ -29,10 +33,10 @@ std::unique_ptr<Ecran> SurLeChoix(Ecran& ouvreur)
 void RemplirTable(Application& application)
 {
     application.écrans = {
-        {"frmClosures", SurLeChoix<frmClosures>},
-        {"frmExercices", Seul<frmExercices>},
-        {"frmQuestionnaire1", SurLeChoix<frmQuestionnaire1>},
-        {"frmTexteMasqué", SurLeChoix<frmTexteMasqué>},
+        {"frmClosures", SurLeChoix<frmClosures>},   {"frmExercices", Seul<frmExercices>},
+        {"frmPendu", SurLeChoix<frmPendu>},         {"frmPhotographier", SurLeChoix<frmPhotographier>},
+        {"frmPoursuite", SurLeChoix<frmPoursuite>}, {"frmQuestionnaire1", SurLeChoix<frmQuestionnaire1>},
+        {"frmSérie", SurLeChoix<frmSérie>},         {"frmTexteMasqué", SurLeChoix<frmTexteMasqué>},
         {"frmTrous", SurLeChoix<frmTrous>},
     };
 }
