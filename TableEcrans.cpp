@@ -3,7 +3,10 @@
 #include "core/Application.h"
 #include "core/Ecran.h"
 #include "exercises/comprehension/frmQuestionnaire1.h"
+#include "followup/frmCodeCouleur.h"
 #include "followup/frmExercices.h"
+#include "followup/frmGestionEleves.h"
+#include "followup/frmProgression.h"
 
 namespace {
 
@@ -26,7 +29,8 @@ std::unique_ptr<Ecran> SurLeChoix(Ecran& ouvreur)
 void RemplirTable(Application& application)
 {
     application.écrans = {
-        {"frmExercices", Seul<frmExercices>},
+        {"frmCodeCouleur", SurLeChoix<frmCodeCouleur>},       {"frmExercices", Seul<frmExercices>},
+        {"frmGestionEleves", Seul<frmGestionEleves>},         {"frmProgression", SurLeChoix<frmProgression>},
         {"frmQuestionnaire1", SurLeChoix<frmQuestionnaire1>},
     };
 }
