@@ -10,7 +10,10 @@
 #include "exercises/memory/frmSérie.h"
 #include "exercises/spelling/frmPendu.h"
 #include "exercises/vocabulary/frmTrous.h"
+#include "followup/frmCodeCouleur.h"
 #include "followup/frmExercices.h"
+#include "followup/frmGestionEleves.h"
+#include "followup/frmProgression.h"
 
 namespace {
 
@@ -32,11 +35,17 @@ std::unique_ptr<Ecran> SurLeChoix(Ecran& ouvreur)
 
 void RemplirTable(Application& application)
 {
-    application.écrans = {
-        {"frmClosures", SurLeChoix<frmClosures>},   {"frmExercices", Seul<frmExercices>},
-        {"frmPendu", SurLeChoix<frmPendu>},         {"frmPhotographier", SurLeChoix<frmPhotographier>},
-        {"frmPoursuite", SurLeChoix<frmPoursuite>}, {"frmQuestionnaire1", SurLeChoix<frmQuestionnaire1>},
-        {"frmSérie", SurLeChoix<frmSérie>},         {"frmTexteMasqué", SurLeChoix<frmTexteMasqué>},
-        {"frmTrous", SurLeChoix<frmTrous>},
-    };
+    auto& table = application.écrans;
+    table["frmClosures"] = SurLeChoix<frmClosures>;
+    table["frmCodeCouleur"] = SurLeChoix<frmCodeCouleur>;
+    table["frmExercices"] = Seul<frmExercices>;
+    table["frmGestionEleves"] = Seul<frmGestionEleves>;
+    table["frmPendu"] = SurLeChoix<frmPendu>;
+    table["frmPhotographier"] = SurLeChoix<frmPhotographier>;
+    table["frmPoursuite"] = SurLeChoix<frmPoursuite>;
+    table["frmProgression"] = SurLeChoix<frmProgression>;
+    table["frmQuestionnaire1"] = SurLeChoix<frmQuestionnaire1>;
+    table["frmSérie"] = SurLeChoix<frmSérie>;
+    table["frmTexteMasqué"] = SurLeChoix<frmTexteMasqué>;
+    table["frmTrous"] = SurLeChoix<frmTrous>;
 }
