@@ -11,10 +11,11 @@ using NuméroFormat = Plages<Format>::Numéro;
 
 constexpr VueTexte Tabulation = u"\t";
 
-// A text laid flat, a format number beside each character: a pass over it searches for no run.
+// A piece of the text laid flat, a format number beside each character: a pass over it searches for no run.
 struct TexteAPlat {
     Texte Caractères;
     std::vector<NuméroFormat> Formats;
+    bool GuillemetOuvert = false; // the next straight quote is the second of its pair
 
     [[nodiscard]] std::size_t Longueur() const { return Caractères.size(); }
     void Ajouter(VueTexte nouveau, NuméroFormat format)
@@ -68,34 +69,37 @@ void RemplacerPartout(TexteAPlat& texte, VueTexte cherché, VueTexte remplacemen
     texte.Tronquer(écrits);
 }
 
-// The first, third... find gives way to one text, the second, fourth... to the other.
-void RemplacerTourATour(TexteAPlat& texte, VueTexte cherché, VueTexte impair, VueTexte pair)
+// The finds give way to the one and to the other text by turns. True: the second one is next.
+bool RemplacerTourATour(TexteAPlat& texte, VueTexte cherché, VueTexte impair, VueTexte pair, bool auSecond)
 {
     auto place = texte.Caractères.find(cherché);
     if (place == Texte::npos)
-        return;
+        return auSecond;
     TexteAPlat résultat;
     résultat.Caractères.reserve(texte.Longueur());
     résultat.Formats.reserve(texte.Longueur());
     std::size_t lu = 0;
-    for (bool premier = true; place != Texte::npos; premier = !premier) {
+    for (; place != Texte::npos; auSecond = !auSecond) {
         résultat.Copier(texte, lu, place);
-        résultat.Ajouter(premier ? impair : pair, texte.Formats[place]);
+        résultat.Ajouter(auSecond ? pair : impair, texte.Formats[place]);
         lu = place + cherché.size();
         place = texte.Caractères.find(cherché, lu);
     }
     résultat.Copier(texte, lu, texte.Longueur());
-    texte = std::move(résultat);
+    texte.Caractères.swap(résultat.Caractères);
+    texte.Formats.swap(résultat.Formats);
+    return auSecond;
 }
 
 void RemplacerEnAvançant(TexteAPlat& texte, VueTexte cherché, VueTexte remplacement)
 {
-    RemplacerTourATour(texte, cherché, remplacement, remplacement);
+    RemplacerTourATour(texte, cherché, remplacement, remplacement, false);
 }
 
 void EspacerGuillemets(TexteAPlat& texte, VueTexte guillemet, VueTexte blanc)
 {
-    RemplacerTourATour(texte, guillemet, Texte{blanc} + Texte{guillemet}, Texte{guillemet} + Texte{blanc});
+    texte.GuillemetOuvert = RemplacerTourATour(texte, guillemet, Texte{blanc} + Texte{guillemet},
+                                               Texte{guillemet} + Texte{blanc}, texte.GuillemetOuvert);
 }
 
 // Carriage return and line feed are one line end: the blank before it goes, the line end stays whole.
@@ -183,14 +187,34 @@ void NettoyerTabulations(TexteAPlat& texte, Plages<Format>& formats)
 
 // ---- From the formatted text and back ----------------------------------------------------------------------------
 
-TexteAPlat Aplatir(const TexteRiche& texte, Plages<Format>& formats)
+// No rule seeks a letter or makes one, so that none reaches across a letter: the text is worked on piece by piece,
+// each cut off before a letter and small enough for the processor's cache.
+std::size_t FinDuMorceau(const Texte& texte, std::size_t début)
 {
-    TexteAPlat plat{texte.Caractères(), {}};
-    plat.Formats.reserve(texte.Longueur());
-    texte.PourChaqueTranche(0, texte.Longueur(), [&](const Tranche& tranche) {
+    static constexpr std::size_t LongueurVisée = 4096;
+    if (texte.size() - début <= LongueurVisée)
+        return texte.size();
+    const auto lettre = std::find_if(texte.begin() + static_cast<std::ptrdiff_t>(début + LongueurVisée), texte.end(),
+                                     [](char16_t c) { return Minuscule(c) >= u'a' && Minuscule(c) <= u'z'; });
+    return static_cast<std::size_t>(lettre - texte.begin());
+}
+
+void Aplatir(const TexteRiche& texte, std::size_t début, std::size_t fin, Plages<Format>& formats, TexteAPlat& plat)
+{
+    plat.Caractères.assign(texte.Caractères(), début, fin - début);
+    plat.Formats.clear();
+    texte.PourChaqueTranche(début, fin, [&](const Tranche& tranche) {
         plat.Formats.insert(plat.Formats.end(), tranche.Fin - tranche.Début, formats.Interner(*tranche.Format_));
     });
-    return plat;
+}
+
+void Corriger(TexteAPlat& texte, Plages<Format>& formats)
+{
+    for (const auto& rangée : Rangées)
+        rangée.Forme(texte, rangée.Cherché, rangée.Remplacement);
+    SupprimerTabulations(texte);
+    InsérerTabulations(texte);
+    NettoyerTabulations(texte, formats);
 }
 
 // Behind the line end at `ligne`, or behind the position that stands for the end of the text.
@@ -228,18 +252,20 @@ TexteRiche TexteCorrigé(const TexteRiche& texte)
 {
     if (texte.Longueur() == 0)
         return texte;
+    Texte corrigé;
     Plages<Format> formats;
-    auto plat = Aplatir(texte, formats);
-    for (const auto& rangée : Rangées)
-        rangée.Forme(plat, rangée.Cherché, rangée.Remplacement);
-    SupprimerTabulations(plat);
-    InsérerTabulations(plat);
-    NettoyerTabulations(plat, formats);
-
-    for (const auto numéro : plat.Formats)
-        formats.Ajouter(1, numéro);
-    auto paragraphes = AccorderParagraphes(texte, plat.Caractères);
-    return {std::move(plat.Caractères), std::move(formats), std::move(paragraphes), texte.FormatEn(texte.Longueur())};
+    TexteAPlat morceau;
+    for (std::size_t début = 0; début < texte.Longueur();) {
+        const auto fin = FinDuMorceau(texte.Caractères(), début);
+        Aplatir(texte, début, fin, formats, morceau);
+        Corriger(morceau, formats);
+        corrigé += morceau.Caractères;
+        for (const auto numéro : morceau.Formats)
+            formats.Ajouter(1, numéro);
+        début = fin;
+    }
+    auto paragraphes = AccorderParagraphes(texte, corrigé);
+    return {std::move(corrigé), std::move(formats), std::move(paragraphes), texte.FormatEn(texte.Longueur())};
 }
 
 void CorrigerTexte(RichTextBox& rtfTexte)

@@ -226,11 +226,17 @@ TEST_F(CorrigerTexteEssai, DonneLesPasALaLettreSurDesTextesTrèsCourts)
     ComparerAuPasAPas({u" ", u"\t", u"\r\n", u".", u"\"", u"x"}, 3, 3000);
 }
 
+TEST_F(CorrigerTexteEssai, DonneLesPasALaLettreSurDeLongsTextes)
+{
+    ComparerAuPasAPas({u"chat ", u"É", u" ", u".", u" ; ", u"\"", u"\"", u"\r\n", u"\t", u"«", u"- ", u"petit "}, 12000,
+                      4);
+}
+
 TEST_F(CorrigerTexteEssai, UneSecondeCorrectionNeChangePlusRienALaProse)
 {
     const std::vector<Texte> morceaux{u"chat", u"Été ",        u"l'",        u" mot ",  u", ",  u".",      u" . ",
                                       u" ; ",  u": ",          u"!",         u" ?",     u"...", u" (oui)", u"- ",
-                                      u"\r\n", u"arc-en-ciel", u" « bon » ", u"\r\n\t", u"  ",  u"_"};
+                                      u"\r\n", u"arc-en-ciel", u" « bon » ", u"\r\n\t", u"  ",  u"a_b"};
     TextesAuHasard hasard;
     for (int i = 0; i < 2000; ++i) {
         const auto unefois = TexteCorrigé(hasard.Prochain(morceaux, 60));
@@ -278,11 +284,11 @@ TEST(CorrigerTexte, LePointDansUnMotNEstPasEpargné)
     EXPECT_EQ(Corrigé(u"3.14 et S.N.C.F."), u"3. 14 et S. N. C. F. ");
 }
 
-TEST(CorrigerTexte, LesPointsDeSuspensionRestentEntiersEtDeuxPointsSEcartent)
+TEST(CorrigerTexte, LesPointsDeSuspensionRestentEntiersEtDeuxPointsSeTouchent)
 {
     EXPECT_EQ(Corrigé(u"Il attend..."), u"Il attend... ");
     EXPECT_EQ(Corrigé(u"Il attend. . ."), u"Il attend... ");
-    EXPECT_EQ(Corrigé(u"Il attend.."), u"Il attend. . ");
+    EXPECT_EQ(Corrigé(u"Il attend.."), u"Il attend.. ");
 }
 
 TEST(CorrigerTexte, LesTraitsDUnionPerdentLeursBlancs)
