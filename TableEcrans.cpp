@@ -1,7 +1,9 @@
 #include "TableEcrans.h"
 
+#include "authoring/frmEnseignant.h"
 #include "core/Application.h"
 #include "core/Ecran.h"
+#include "core/frmTirelune.h"
 #include "exercises/comprehension/frmQuestionnaire1.h"
 #include "followup/frmExercices.h"
 
@@ -12,6 +14,13 @@ template <class E>
 std::unique_ptr<Ecran> Seul(Ecran& ouvreur)
 {
     return std::make_unique<E>(ouvreur.ApplicationDe());
+}
+
+// A screen that works on the lists of the first screen.
+template <class E>
+std::unique_ptr<Ecran> SurLAccueil(Ecran& ouvreur)
+{
+    return std::make_unique<E>(dynamic_cast<frmTirelune&>(ouvreur));
 }
 
 // A screen that works on what the chooser holds.
@@ -26,6 +35,7 @@ std::unique_ptr<Ecran> SurLeChoix(Ecran& ouvreur)
 void RemplirTable(Application& application)
 {
     application.écrans = {
+        {"frmEnseignant", SurLAccueil<frmEnseignant>},
         {"frmExercices", Seul<frmExercices>},
         {"frmQuestionnaire1", SurLeChoix<frmQuestionnaire1>},
     };
