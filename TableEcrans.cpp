@@ -1,7 +1,9 @@
 #include "TableEcrans.h"
 
+#include "authoring/frmEnseignant.h"
 #include "core/Application.h"
 #include "core/Ecran.h"
+#include "core/frmTirelune.h"
 #include "exercises/comprehension/frmClosures.h"
 #include "exercises/comprehension/frmQuestionnaire1.h"
 #include "exercises/comprehension/frmTexteMasqué.h"
@@ -24,6 +26,13 @@ std::unique_ptr<Ecran> Seul(Ecran& ouvreur)
     return std::make_unique<E>(ouvreur.ApplicationDe());
 }
 
+// A screen that works on the lists of the first screen.
+template <class E>
+std::unique_ptr<Ecran> SurLAccueil(Ecran& ouvreur)
+{
+    return std::make_unique<E>(dynamic_cast<frmTirelune&>(ouvreur));
+}
+
 // A screen that works on what the chooser holds.
 template <class E>
 std::unique_ptr<Ecran> SurLeChoix(Ecran& ouvreur)
@@ -38,6 +47,7 @@ void RemplirTable(Application& application)
     auto& table = application.écrans;
     table["frmClosures"] = SurLeChoix<frmClosures>;
     table["frmCodeCouleur"] = SurLeChoix<frmCodeCouleur>;
+    table["frmEnseignant"] = SurLAccueil<frmEnseignant>;
     table["frmExercices"] = Seul<frmExercices>;
     table["frmGestionEleves"] = Seul<frmGestionEleves>;
     table["frmPendu"] = SurLeChoix<frmPendu>;
