@@ -19,7 +19,9 @@ double FinDesLacunes(VueTexte texte)
 {
     const auto dernier = texte.find_last_not_of(u' ');
     const auto longueur = dernier == VueTexte::npos ? 0 : dernier + 1;
-    for (double p = PartTrouée * static_cast<double>(longueur); p >= 0; p -= 1) {
+    const double départ = PartTrouée * static_cast<double>(longueur);
+    for (std::size_t recul = 0; static_cast<double>(recul) <= départ; ++recul) {
+        const double p = départ - static_cast<double>(recul);
         const auto place = static_cast<std::size_t>(std::nearbyint(p)); // half to even
         if (place < texte.size() && texte[place] == u' ')
             return p;

@@ -47,13 +47,15 @@ double FinPasÀPas(Texte texte)
 {
     while (texte.ends_with(u' '))
         texte.pop_back();
-    for (double p = 0.9 * static_cast<double>(texte.size()); p >= 0; p -= 1) {
+    double p = 0.9 * static_cast<double>(texte.size());
+    while (p >= 0) {
         auto rang = static_cast<std::size_t>(p);
         const double reste = p - static_cast<double>(rang);
         if (reste > 0.5 || (reste == 0.5 && rang % 2 == 1))
             ++rang;
         if (rang < texte.size() && texte[rang] == u' ')
             return p;
+        p -= 1;
     }
     return 0;
 }
