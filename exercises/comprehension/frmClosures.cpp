@@ -1,5 +1,6 @@
 #include "exercises/comprehension/frmClosures.h"
 
+#include "exercises/Conclure.h"
 #include "exercises/TexteEtBarre.h"
 #include "followup/EnregistrerNotes.h"
 
@@ -126,17 +127,13 @@ void frmClosures::Resize()
     AjusterBoîte(rtfClosures);
 }
 
-void frmClosures::rtfClosures_KeyPress(Touche& touche)
+void frmClosures::rtfClosures_KeyPress(const Touche& touche)
 {
-    if (touche.Code != Touche::Entrée)
-        return;
-    touche.Avaler();
-    SélectionnerTrait(rtfClosures);
+    if (touche.Code == Touche::Entrée)
+        SélectionnerTrait(rtfClosures);
 }
 
 void frmClosures::cmdQuitter_Click()
 {
-    EnregistrerNote(choix_, NoteSurDix(lblPoints(0), lblPoints(1)));
-    SauverBilan(choix_);
-    Décharger();
+    Conclure(*this, choix_, NoteSurDix(lblPoints(0), lblPoints(1)));
 }
