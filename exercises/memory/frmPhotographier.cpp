@@ -93,8 +93,7 @@ void frmPhotographier::cmdAfficher_Click()
     lblMot.ForeColor = Bleu;
     lblMot.Refresh(); // on the display before the time runs
     Chrono.Enabled = true;
-    if (!AttendreArrêt(Chrono))
-        return;
+    static_cast<void>(AttendreArrêt(Chrono)); // the tick does the rest, and nothing is left to do here
 }
 
 void frmPhotographier::EffacerRéponses()
