@@ -42,7 +42,7 @@ void RichTextBox::TextRTF(TexteRiche texte)
 void RichTextBox::Text(VueTexte texte)
 {
     Format format;
-    if (!Police.empty())
+    if (!Police->empty())
         format.Police = Police;
     if (FontSize > 0)
         format.Taille = FontSize;
@@ -139,6 +139,7 @@ void RichTextBox::FormaterSélection(const std::function<void(Format&)>& retouch
             formatEnAttente_ = std::move(nouveau);
             return false;
         });
+        Changer(); // who draws the box reads here what the next character takes
         return;
     }
     texte_.Formater(début_, longueur_, retouche);

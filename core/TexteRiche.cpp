@@ -18,11 +18,6 @@ std::size_t Replier(std::size_t graine)
     return graine ^ graine >> 32U;
 }
 
-bool FinitParUneLigne(VueTexte texte)
-{
-    return texte.ends_with(u'\n');
-}
-
 } // namespace
 
 std::size_t Hachage(const Format& format)
@@ -115,7 +110,8 @@ void TexteRiche::Remplacer(std::size_t début, std::size_t longueur, VueTexte no
 
     // What stood behind a deleted line end continues the first paragraph, unless it begins a line again.
     const auto suite = fin - longueur + nouveau.size();
-    if (lignes && !FinitParUneLigne(VueTexte(texte_).substr(0, suite)) && paragraphes_.En(suite) != paragraphe) {
+    const bool enTête = suite == 0 || texte_[suite - 1] == u'\n';
+    if (lignes && !enTête && paragraphes_.En(suite) != paragraphe) {
         const auto finDeLaSuite = FinDuParagraphe(suite);
         paragraphes_.Remplacer(suite, finDeLaSuite - suite, finDeLaSuite - suite, paragraphe);
     }

@@ -118,6 +118,3 @@ Texte NormaliserLignes(VueTexte texte);
 
 // The struck-through runs in text order, a run that ends the text included.
 std::vector<Texte> MotsMarqués(const TexteRiche& texte);
-
-// LF, CR, CR LF, U+2028 and U+2029 all become CR LF.
-Texte NormaliserLignes(VueTexte texte);
