@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <array>
+#include <bit>
 #include <cstdint>
 #include <cstring>
 #include <iterator>
@@ -76,6 +77,7 @@ enum class Mot : std::uint8_t {
     VersionUnicode,
     PropriétésImbriquées,
     Binaire,
+    Puce, // text of a list's bullet or number
     Sauter,
 };
 
@@ -226,7 +228,7 @@ constexpr auto Mots = std::to_array<Entrée>({
     {"latentstyles", Mot::Sauter},
     {"listoverridetable", Mot::Sauter},
     {"listtable", Mot::Sauter},
-    {"listtext", Mot::Sauter},
+    {"listtext", Mot::Puce},
     {"nextfile", Mot::Sauter},
     {"nonesttables", Mot::Sauter},
     {"nonshppict", Mot::Sauter},
@@ -235,7 +237,7 @@ constexpr auto Mots = std::to_array<Entrée>({
     {"panose", Mot::Sauter},
     {"pict", Mot::Sauter},
     {"pn", Mot::Sauter},
-    {"pntext", Mot::Sauter},
+    {"pntext", Mot::Puce},
     {"pntxta", Mot::Sauter},
     {"pntxtb", Mot::Sauter},
     {"private", Mot::Sauter},
@@ -267,6 +269,7 @@ struct Dictionnaire {
 
     std::uint64_t facteur = 0;
     std::array<std::uint8_t, 1U << Bits> rangs{};
+    std::array<std::uint64_t, Mots.size()> clés{};
 
     [[nodiscard]] constexpr std::size_t Place(std::uint64_t clé) const
     {
@@ -279,6 +282,7 @@ struct Dictionnaire {
             std::uint64_t clé = 0;
             for (const char lettre : Mots[i].mot)
                 clé = AllongerClé(clé, lettre);
+            clés[i] = clé;
             auto& rang = rangs[Place(clé)];
             if (rang != Vide)
                 return false;
@@ -293,14 +297,13 @@ struct Dictionnaire {
         while (!Ranger())
             facteur = facteur * 6364136223846793005U + 2U; // stays odd
     }
-    [[nodiscard]] const Entrée* Trouver(std::uint64_t clé, const char* début, std::size_t longueur) const
+    // The key holds twelve letters; a longer word is compared letter by letter.
+    [[nodiscard]] const Entrée* Trouver(std::uint64_t clé, std::string_view mot) const
     {
         const auto rang = rangs[Place(clé)];
-        if (rang == Vide)
+        if (rang == Vide || clés[rang] != clé || Mots[rang].mot.size() != mot.size())
             return nullptr;
-        const auto& entrée = Mots[rang];
-        const bool même = entrée.mot.size() == longueur && std::memcmp(entrée.mot.data(), début, longueur) == 0;
-        return même ? &entrée : nullptr;
+        return mot.size() <= 12 || Mots[rang].mot == mot ? &Mots[rang] : nullptr;
     }
 };
 constexpr Dictionnaire LeDictionnaire;
@@ -326,19 +329,46 @@ Classe ClasseDe(char c)
 }
 bool EstLettre(char c)
 {
-    return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z');
+    return static_cast<unsigned char>((c | 0x20) - 'a') < 26;
 }
 bool EstChiffre(char c)
 {
     return c >= '0' && c <= '9';
 }
+// Of a hexadecimal digit; -1 of anything else.
+constexpr auto ValeursHexadécimales = [] {
+    std::array<std::int8_t, 256> valeurs{};
+    valeurs.fill(-1);
+    for (int i = 0; i < 16; ++i) {
+        valeurs[static_cast<unsigned char>("0123456789abcdef"[i])] = static_cast<std::int8_t>(i);
+        valeurs[static_cast<unsigned char>("0123456789ABCDEF"[i])] = static_cast<std::int8_t>(i);
+    }
+    return valeurs;
+}();
+
 int ValeurHexadécimale(char c)
 {
-    if (EstChiffre(c))
-        return c - '0';
-    if (c >= 'a' && c <= 'f')
-        return c - 'a' + 10;
-    return c >= 'A' && c <= 'F' ? c - 'A' + 10 : -1;
+    return ValeursHexadécimales[static_cast<unsigned char>(c)];
+}
+
+// How many of the eight bytes, from the first, are neither control characters nor braces, backslashes or high
+// bytes. The borrow of a subtraction spoils only bytes behind the first one found.
+unsigned PremiersSimples(const char* octets)
+{
+    if constexpr (std::endian::native != std::endian::little)
+        return 0;
+    constexpr std::uint64_t Uns = 0x0101010101010101U;
+    std::uint64_t huit = 0;
+    std::memcpy(&huit, octets, sizeof huit);
+    const auto sous = [huit](std::uint64_t borne) {
+        return (huit - borne * Uns) & ~huit;
+    };
+    const auto égal = [huit](char c) {
+        const auto écart = huit ^ (static_cast<unsigned char>(c) * Uns);
+        return (écart - Uns) & ~écart;
+    };
+    const auto trouvés = (huit | sous(0x20) | égal('\\') | égal('{') | égal('}')) & (0x80U * Uns);
+    return static_cast<unsigned>(std::countr_zero(trouvés)) / 8;
 }
 
 // A code page of one byte to a character has a table; the others are known by their number.
@@ -440,8 +470,6 @@ struct Paragraphe {
     std::int16_t droit = 0;
     std::int16_t première = 0;
     Alignement alignement = Alignement::Gauche;
-
-    friend bool operator==(const Paragraphe&, const Paragraphe&) = default;
 };
 
 // What a group restores at its end.
@@ -485,7 +513,8 @@ private:
 
     void Ouvrir();
     bool Fermer();
-    void SauterLeGroupe();
+    const char* SauterLeGroupe();
+    void SauterLaPuce();
     void Sauter(std::size_t octets) { p_ += std::min(octets, static_cast<std::size_t>(fin_ - p_)); }
     void SauterLeRepli();
     int LireParamètre(bool& donné);
@@ -532,6 +561,8 @@ private:
     const char* fin_;
 
     État état_;
+    const char* ligneDePuce_; // end of the first paragraph of a list item met as a bullet
+
     std::vector<État> pile_;
     std::size_t groupesEnTrop_ = 0;
     bool visible_ = true;
@@ -573,7 +604,7 @@ private:
 };
 
 Lecteur::Lecteur(std::string_view octets)
-    : p_(octets.data()), fin_(p_ + std::min(octets.size(), TexteRiche::LongueurMaximale))
+    : p_(octets.data()), fin_(p_ + std::min(octets.size(), TexteRiche::LongueurMaximale)), ligneDePuce_(p_)
 {
     // No byte yields more than one character; pages that stay unused cost nothing.
     texte_.reserve(static_cast<std::size_t>(fin_ - p_));
@@ -634,13 +665,23 @@ void Lecteur::Passage()
     }
     if (àPréparer_)
         Préparer();
-    const auto place = std::min(static_cast<std::size_t>(fin_ - p_), tampon_.size() - rempli_);
     const char* p = p_;
-    const char* const limite = p + place;
+    const char* const limite = p + std::min(static_cast<std::size_t>(fin_ - p), tampon_.size() - rempli_);
     char16_t* sortie = tampon_.data() + rempli_;
-    do
-        *sortie++ = static_cast<unsigned char>(*p++);
-    while (p != limite && ClasseDe(*p) == Classe::Simple);
+    do {
+        // Eight at a time; what lies behind the last plain one is overwritten later.
+        const auto simples = limite - p >= 8 ? PremiersSimples(p) : 0;
+        if (simples == 0) {
+            *sortie++ = static_cast<unsigned char>(*p++);
+            continue;
+        }
+        for (int i = 0; i < 8; ++i)
+            sortie[i] = static_cast<unsigned char>(p[i]);
+        sortie += simples;
+        p += simples;
+        if (simples < 8)
+            break;
+    } while (p != limite && ClasseDe(*p) == Classe::Simple);
     rempli_ += static_cast<std::size_t>(p - p_);
     p_ = p;
     if (rempli_ == tampon_.size())
@@ -652,20 +693,29 @@ void Lecteur::Commande()
 {
     if (p_ == fin_)
         return;
-    if (EstLettre(*p_))
+    if (*p_ == '\'') {
+        ++p_;
+        if (const int octet = LireHexadécimal(); octet > 0)
+            Octet(static_cast<unsigned>(octet));
+    } else if (EstLettre(*p_)) {
         MotDeCommande(false);
-    else
+    } else {
         SymboleDeCommande();
+    }
 }
 
 void Lecteur::MotDeCommande(bool étoile)
 {
     const char* const début = p_;
     std::uint64_t clé = 0;
-    do
+    unsigned minuscule = 0x20;
+    do {
+        minuscule &= static_cast<unsigned char>(*p_);
         clé = AllongerClé(clé, *p_++);
-    while (p_ != fin_ && EstLettre(*p_));
-    const auto* const entrée = LeDictionnaire.Trouver(clé, début, static_cast<std::size_t>(p_ - début));
+    } while (p_ != fin_ && EstLettre(*p_));
+    const auto* const entrée =
+        minuscule == 0 ? nullptr
+                       : LeDictionnaire.Trouver(clé, std::string_view(début, static_cast<std::size_t>(p_ - début)));
 
     bool donné = false;
     const int paramètre = LireParamètre(donné);
@@ -825,6 +875,9 @@ void Lecteur::Exécuter(const Entrée& entrée, int paramètre, bool donné)
     case Mot::Binaire:
         Sauter(static_cast<std::size_t>(std::max(paramètre, 0)));
         break;
+    case Mot::Puce:
+        SauterLaPuce();
+        break;
     case Mot::Sauter:
         SauterLeGroupe();
         break;
@@ -846,10 +899,6 @@ void Lecteur::SymboleDeCommande()
         break;
     }
     switch (*p_++) {
-    case '\'':
-        if (const int octet = LireHexadécimal(); octet > 0)
-            Octet(static_cast<unsigned>(octet));
-        break;
     case '*':
         while (p_ != fin_ && (*p_ == ' ' || ClasseDe(*p_) == Classe::Ignorée))
             ++p_;
@@ -915,9 +964,11 @@ bool Lecteur::Fermer()
     return true;
 }
 
-// To the end of the group, its braces matched, its binary data not looked at.
-void Lecteur::SauterLeGroupe()
+// To the end of the group, its braces matched, its binary data not looked at. Tells where its first paragraph
+// ends, if one does.
+const char* Lecteur::SauterLeGroupe()
 {
+    const char* ligne = nullptr;
     std::size_t profondeur = 0;
     while (p_ != fin_) {
         const char c = *p_;
@@ -931,17 +982,35 @@ void Lecteur::SauterLeGroupe()
             ++p_;
             if (p_ == fin_)
                 break;
-            if (fin_ - p_ > 3 && std::memcmp(p_, "bin", 3) == 0 && !EstLettre(p_[3])) {
+            const bool assez = fin_ - p_ > 3 && !EstLettre(p_[3]);
+            if (assez && std::memcmp(p_, "bin", 3) == 0) {
                 p_ += 3;
                 bool donné = false;
                 Sauter(static_cast<std::size_t>(std::max(LireParamètre(donné), 0)));
                 continue;
             }
+            if (assez && ligne == nullptr && std::memcmp(p_, "par", 3) == 0)
+                ligne = p_;
         }
         ++p_;
     }
     if (groupesEnTrop_ == 0)
         état_.destination = Destination::Sautée;
+    return ligne;
+}
+
+// AbiWord puts whole list items there: a paragraph end tells them from a bullet. No byte is looked through twice.
+void Lecteur::SauterLaPuce()
+{
+    if (p_ < ligneDePuce_)
+        return;
+    const char* const début = p_;
+    const auto destination = état_.destination;
+    if (const char* const ligne = SauterLeGroupe(); ligne != nullptr) {
+        ligneDePuce_ = ligne;
+        p_ = début;
+        état_.destination = destination;
+    }
 }
 
 // Stand-ins for readers without Unicode: bytes, escaped or not, control words and symbols count one each; a brace
@@ -1094,7 +1163,7 @@ void Lecteur::Unicode(int code)
         nomEnCours_ += c; // written out, it belongs to the name
     else
         Caractère(c);
-    if (état_.repli == 1 && p_ != fin_ && *p_ == '?')
+    if (état_.repli == 1 && p_ != fin_ && *p_ == '?') // the usual one
         ++p_;
     else
         SauterLeRepli();

@@ -3,17 +3,18 @@
 #include "core/Texte.h"
 
 #include <fstream>
-#include <iterator>
 #include <optional>
 #include <string>
 
 inline std::optional<std::string> LireOctets(const Chemin& fichier)
 {
-    std::ifstream flux(fichier, std::ios::binary);
-    if (!flux)
+    std::ifstream flux(fichier, std::ios::binary | std::ios::ate);
+    const auto taille = flux ? static_cast<std::streamoff>(flux.tellg()) : -1;
+    if (taille < 0)
         return std::nullopt;
-    std::string octets{std::istreambuf_iterator<char>(flux), {}};
-    if (flux.bad())
+    std::string octets(static_cast<std::size_t>(taille), '\0');
+    flux.seekg(0).read(octets.data(), taille);
+    if (flux.gcount() != taille)
         return std::nullopt;
     return octets;
 }

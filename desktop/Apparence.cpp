@@ -1,0 +1,178 @@
+#include "desktop/Apparence.h"
+
+#include "desktop/Conversions.h"
+
+#include <QApplication>
+#include <QFontMetrics>
+#include <QPainter>
+#include <QPainterPath>
+#include <QPalette>
+#include <QProxyStyle>
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+constexpr double TailleUsuelle = 12; // points, on an 800 x 600 display
+const QString PolicePropre = QStringLiteral("Comic Sans MS");
+
+// What the toolkit asks of a style and a palette can't say.
+class Manières final : public QProxyStyle {
+public:
+    using QProxyStyle::QProxyStyle;
+    int styleHint(StyleHint question, const QStyleOption* option, const QWidget* widget,
+                  QStyleHintReturn* réponse) const override
+    {
+        if (question == SH_LineEdit_PasswordCharacter)
+            return u'*';
+        return QProxyStyle::styleHint(question, option, widget, réponse);
+    }
+};
+
+} // namespace
+
+void InstallerApparence()
+{
+    QApplication::setStyle(new Manières{QStringLiteral("fusion")});
+    // Texts keep the name of the font; only the picture changes where the machine lacks it.
+    QFont::insertSubstitution(PolicePropre, QStringLiteral("Comic Neue"));
+
+    QPalette palette{Teinte::Bouton, Teinte::Fond};
+    palette.setColor(QPalette::WindowText, Teinte::Encre);
+    palette.setColor(QPalette::Text, Teinte::Encre);
+    palette.setColor(QPalette::ButtonText, Teinte::Encre);
+    palette.setColor(QPalette::PlaceholderText, Teinte::Encre);
+    palette.setColor(QPalette::Base, Teinte::Panneau);
+    palette.setColor(QPalette::Button, QColor{0xE4, 0xEE, 0xF8});
+    palette.setColor(QPalette::Highlight, Teinte::Sélection);
+    palette.setColor(QPalette::HighlightedText, Teinte::Encre);
+    palette.setColor(QPalette::ToolTipBase, QColor{0xFF, 0xF8, 0xDC});
+    palette.setColor(QPalette::ToolTipText, Teinte::Encre);
+    for (const auto rôle : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+        palette.setColor(QPalette::Disabled, rôle, Teinte::EncreEteinte);
+    QApplication::setPalette(palette);
+    QApplication::setFont(PolicePour({}, 0, false, 1));
+    QApplication::setQuitOnLastWindowClosed(false);
+}
+
+double EchellePour(QSize taille)
+{
+    // Slower than the display grows, or nothing more would find room on a large one.
+    static constexpr double Croissance = 0.72;
+    const double rapport = std::min(taille.width() / 800.0, taille.height() / 600.0);
+    return std::clamp(std::pow(std::max(rapport, 0.1), Croissance), 0.75, 2.5);
+}
+
+QFont PolicePour(VueTexte famille, double points, bool gras, double échelle)
+{
+    QFont police{famille.empty() ? PolicePropre : EnQString(famille)};
+    const double taille = (points > 0 ? points : TailleUsuelle) * PixelsParPoint * échelle;
+    police.setPixelSize(std::max(6, static_cast<int>(std::lround(taille))));
+    police.setBold(gras);
+    return police;
+}
+
+QFont AjusterPolice(const QFont& police, const QString& texte, QSize place, int drapeaux)
+{
+    static constexpr double Pas = 0.93;
+    static constexpr double PlusPetite = 0.5;
+    QFont essai = police;
+    const QRect cadre{QPoint{0, 0}, place};
+    for (double part = 1; part >= PlusPetite; part *= Pas) {
+        essai.setPixelSize(std::max(6, static_cast<int>(police.pixelSize() * part)));
+        const auto boîte = QFontMetrics{essai}.boundingRect(cadre, drapeaux, texte);
+        if (boîte.width() <= place.width() && boîte.height() <= place.height())
+            break;
+    }
+    return essai;
+}
+
+QSize TailleTexte(const QFont& police, const QString& texte, int drapeaux, int largeurMaximale)
+{
+    static constexpr int SansLimite = 100000;
+    const QFontMetrics mesure{police};
+    const auto enLigne = mesure.size(drapeaux & ~Qt::TextWordWrap, texte);
+    if (enLigne.width() <= largeurMaximale || (drapeaux & Qt::TextWordWrap) == 0)
+        return enLigne;
+    return mesure.boundingRect(QRect{0, 0, largeurMaximale, SansLimite}, drapeaux, texte).size();
+}
+
+namespace {
+
+bool EstBande(const Forme& forme)
+{
+    const auto& p = forme.points;
+    return forme.genre == GenreForme::Polygone && p.size() == 4 && forme.trait.EstAutomatique() && p[0].y == p[1].y &&
+           p[1].x == p[2].x && p[2].y == p[3].y && p[3].x == p[0].x;
+}
+
+QPainterPath EnChemin(const Forme& forme)
+{
+    QPainterPath chemin;
+    const auto& p = forme.points;
+    if (forme.genre == GenreForme::Ellipse && p.size() >= 2) {
+        chemin.addEllipse(QRectF{QPointF{p[0].x, p[0].y}, QPointF{p[1].x, p[1].y}});
+        return chemin;
+    }
+    if (p.empty())
+        return chemin;
+    chemin.moveTo(p[0].x, p[0].y);
+    if (forme.genre == GenreForme::Courbe && p.size() >= 3) {
+        chemin.quadTo(p[1].x, p[1].y, p[2].x, p[2].y);
+        return chemin;
+    }
+    for (std::size_t i = 1; i < p.size(); ++i)
+        chemin.lineTo(p[i].x, p[i].y);
+    if (forme.genre == GenreForme::Polygone)
+        chemin.closeSubpath();
+    return chemin;
+}
+
+} // namespace
+
+void Peindre(QPainter& peintre, const Dessin& dessin, const QRectF& place)
+{
+    if (dessin.largeur <= 0 || dessin.hauteur <= 0)
+        return;
+    const double sx = place.width() / dessin.largeur;
+    const double sy = place.height() / dessin.hauteur;
+    const auto visible = peintre.hasClipping() ? peintre.clipBoundingRect() : place;
+    peintre.save();
+    peintre.setRenderHint(QPainter::Antialiasing);
+    for (const auto& forme : dessin.formes) {
+        const auto fond = EnQColor(forme.fond, {});
+        if (EstBande(forme)) {
+            // Whole pixels: bands that share a pixel would leave a seam.
+            const auto [gauche, droite] = std::minmax(forme.points[0].x, forme.points[2].x);
+            const auto [haut, bas] = std::minmax(forme.points[0].y, forme.points[2].y);
+            const QRect bande{QPoint{qRound(place.x() + gauche * sx), qRound(place.y() + haut * sy)},
+                              QPoint{qRound(place.x() + droite * sx) - 1, qRound(place.y() + bas * sy) - 1}};
+            if (visible.intersects(bande))
+                peintre.fillRect(bande, fond);
+            continue;
+        }
+        QTransform transformation;
+        transformation.translate(place.x(), place.y());
+        transformation.scale(sx, sy);
+        const auto chemin = transformation.map(EnChemin(forme));
+        if (fond.isValid())
+            peintre.fillPath(chemin, fond);
+        if (!forme.trait.EstAutomatique()) {
+            peintre.strokePath(chemin, QPen{EnQColor(forme.trait, {}),
+                                            std::max(1.0, forme.épaisseur * std::min(sx, sy)), Qt::SolidLine,
+                                            Qt::RoundCap, Qt::RoundJoin});
+        }
+    }
+    peintre.restore();
+}
+
+QRectF Proportionné(const Dessin& dessin, const QRectF& place)
+{
+    if (dessin.largeur <= 0 || dessin.hauteur <= 0)
+        return place;
+    const double facteur = std::min(place.width() / dessin.largeur, place.height() / dessin.hauteur);
+    const QSizeF taille{dessin.largeur * facteur, dessin.hauteur * facteur};
+    return {place.x() + (place.width() - taille.width()) / 2, place.y() + (place.height() - taille.height()) / 2,
+            taille.width(), taille.height()};
+}

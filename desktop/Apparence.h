@@ -1,0 +1,46 @@
+// The program's look: colours, fonts, and how both grow with the window.
+#pragma once
+#include "core/Dessin.h"
+#include "core/Texte.h"
+
+#include <QColor>
+#include <QFont>
+#include <QRectF>
+#include <QSize>
+#include <QString>
+
+class QPainter;
+class QPalette;
+
+namespace Teinte {
+inline const QColor Fond{0xEF, 0xF5, 0xFB};
+inline const QColor Encre{0x1B, 0x27, 0x45};
+inline const QColor Panneau{0xFF, 0xFF, 0xFF};
+inline const QColor BordPanneau{0x8F, 0xB3, 0xDB};
+inline const QColor Bouton{0xFF, 0xE2, 0x8A};
+inline const QColor BoutonSurvolé{0xFF, 0xED, 0xB5};
+inline const QColor BoutonEnfoncé{0xF2, 0xC9, 0x4C};
+inline const QColor BordBouton{0xC8, 0x97, 0x1F};
+inline const QColor Eteint{0xE3, 0xE7, 0xEC};
+inline const QColor EncreEteinte{0x76, 0x7F, 0x8E};
+inline const QColor Anneau{0x0B, 0x5C, 0xC4}; // around what has the keyboard
+inline const QColor Sélection{0xFF, 0xD5, 0x4F};
+} // namespace Teinte
+
+// Palette, fonts and manners of the whole program.
+void InstallerApparence();
+
+// How much larger than on an 800 x 600 display things are drawn.
+double EchellePour(QSize taille);
+// The program's own font when `famille` is empty; the usual size for 0 points.
+QFont PolicePour(VueTexte famille, double points, bool gras, double échelle);
+
+// The text in its place, in smaller letters when it doesn't fit.
+QFont AjusterPolice(const QFont& police, const QString& texte, QSize place, int drapeaux);
+// As wide as it is when short; long texts are broken into lines.
+QSize TailleTexte(const QFont& police, const QString& texte, int drapeaux, int largeurMaximale);
+
+// A drawing stretched over the rectangle.
+void Peindre(QPainter& peintre, const Dessin& dessin, const QRectF& place);
+// The largest rectangle of the drawing's proportion, in the middle of the place.
+QRectF Proportionné(const Dessin& dessin, const QRectF& place);

@@ -1,0 +1,126 @@
+// The widgets that the toolkit lacks, or paints too plainly.
+#pragma once
+#include "core/Dessin.h"
+
+#include <QAbstractButton>
+#include <QColor>
+#include <QFrame>
+#include <QLabel>
+#include <QPushButton>
+
+#include <functional>
+
+// A text in its font, made smaller when the place is too small; measured once for each place.
+class TexteAjusté {
+public:
+    const QFont& Police(const QFont& base, const QString& texte, QSize place, int drapeaux);
+
+private:
+    QFont base_;
+    QString texte_;
+    QSize place_;
+    QFont police_;
+};
+
+// A caption; a button without its looks when it can be clicked.
+class Etiquette : public QLabel {
+public:
+    explicit Etiquette(QWidget* parent);
+
+    std::function<void()> clic; // empty: the mouse goes through to what holds the caption
+    QColor fond;
+    QColor encre;
+    bool bordure = false;
+    bool centrée = false;
+    bool enLigne = false; // never broken into lines
+
+    void RendreCliquable();
+    [[nodiscard]] QSize sizeHint() const override;
+    [[nodiscard]] QSize minimumSizeHint() const override;
+    [[nodiscard]] bool hasHeightForWidth() const override;
+    [[nodiscard]] int heightForWidth(int largeur) const override;
+
+protected:
+    void paintEvent(QPaintEvent* événement) override;
+    void mousePressEvent(QMouseEvent* événement) override;
+    void mouseReleaseEvent(QMouseEvent* événement) override;
+    void mouseDoubleClickEvent(QMouseEvent* événement) override;
+    void keyPressEvent(QKeyEvent* événement) override;
+    void enterEvent(QEnterEvent* événement) override;
+    void leaveEvent(QEvent* événement) override;
+    // What stands inside the borders; a drawing in the derived class.
+    virtual void PeindreContenu(QPainter& peintre, const QRect& place);
+
+private:
+    [[nodiscard]] int Drapeaux() const;
+    [[nodiscard]] int Marge() const;
+
+    bool pressée_ = false;
+    bool survolée_ = false;
+    TexteAjusté ajusté_;
+};
+
+class ImageDessinée final : public Etiquette {
+public:
+    using Etiquette::Etiquette;
+
+    Dessin dessin;
+
+    [[nodiscard]] QSize sizeHint() const override;
+    [[nodiscard]] QSize minimumSizeHint() const override { return {16, 16}; }
+    [[nodiscard]] bool hasHeightForWidth() const override { return false; }
+
+protected:
+    void PeindreContenu(QPainter& peintre, const QRect& place) override;
+};
+
+class Bouton final : public QPushButton {
+public:
+    explicit Bouton(QWidget* parent);
+
+    QColor fond;
+    QColor encre;
+
+    [[nodiscard]] QSize sizeHint() const override;
+    [[nodiscard]] QSize minimumSizeHint() const override;
+
+protected:
+    void paintEvent(QPaintEvent* événement) override;
+    void enterEvent(QEnterEvent* événement) override;
+    void leaveEvent(QEvent* événement) override;
+
+private:
+    TexteAjusté ajusté_;
+};
+
+// A titled group of elements.
+class Panneau final : public QWidget {
+public:
+    explicit Panneau(QWidget* parent);
+
+    QColor fond;
+    QColor encre;
+    bool couvrant = false; // over the whole screen: no corners, no look through
+    std::function<void()> clic;
+    // Of a panel that can be dragged: the first movement, and the drop; both in pixels inside the panel.
+    std::function<void(QPoint)> début;
+    std::function<void(QPoint)> dépôt;
+
+    void Titrer(const QString& titre);
+    [[nodiscard]] int HauteurTitre() const;
+    void AjusterMarges();
+
+protected:
+    void paintEvent(QPaintEvent* événement) override;
+    void mousePressEvent(QMouseEvent* événement) override;
+    void mouseMoveEvent(QMouseEvent* événement) override;
+    void mouseReleaseEvent(QMouseEvent* événement) override;
+    void changeEvent(QEvent* événement) override;
+
+private:
+    QString titre_;
+    QPoint prise_; // where the button went down
+    QPoint départ_;
+    bool pressé_ = false;
+    bool traîné_ = false;
+};

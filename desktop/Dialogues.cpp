@@ -1,0 +1,176 @@
+#include "desktop/Dialogues.h"
+
+#include "desktop/Apparence.h"
+#include "desktop/Composants.h"
+#include "desktop/Conversions.h"
+#include "desktop/Fenetre.h"
+
+#include <QApplication>
+#include <QColorDialog>
+#include <QFileDialog>
+#include <QFontDialog>
+#include <QLibraryInfo>
+#include <QPushButton>
+#include <QTranslator>
+
+namespace {
+
+double EchelleDe(const QWidget* parent)
+{
+    const auto* fenêtre = dynamic_cast<const Fenêtre*>(parent);
+    return fenêtre != nullptr ? fenêtre->Echelle() : 1;
+}
+
+} // namespace
+
+// ---- Message boxes ---------------------------------------------------------------------------------------------
+
+BoîteMessage::BoîteMessage(const Boîte& boîte, QWidget* parent) : QMessageBox(parent), choix_(boîte.Choix)
+{
+    const double échelle = EchelleDe(parent);
+    setFont(PolicePour({}, 0, false, échelle));
+    setTextFormat(Qt::PlainText);
+    setWindowTitle(EnQString(boîte.Titre));
+    auto texte = EnQString(boîte.Message);
+    setText(texte.remove(u'\r'));
+    setIcon(boîte.Symbole == Icône::Critique   ? QMessageBox::Critical
+            : boîte.Symbole == Icône::Question ? QMessageBox::Question
+                                               : QMessageBox::Information);
+    const auto ajouter = [this](const QString& légende, ButtonRole rôle) {
+        auto* bouton = new Bouton{this};
+        bouton->setText(légende);
+        bouton->setFont(font());
+        bouton->setObjectName(légende);
+        addButton(bouton, rôle);
+        return bouton;
+    };
+    if (boîte.Choix == Boutons::OuiNon) {
+        setDefaultButton(ajouter(QStringLiteral("&Oui"), AcceptRole));
+        setEscapeButton(ajouter(QStringLiteral("&Non"), RejectRole));
+        return;
+    }
+    auto* ok = ajouter(QStringLiteral("OK"), AcceptRole);
+    setDefaultButton(ok);
+    if (boîte.Choix == Boutons::OkAnnuler)
+        setEscapeButton(ajouter(QStringLiteral("Annuler"), RejectRole));
+    else
+        setEscapeButton(ok);
+}
+
+Réponse BoîteMessage::Donnée() const
+{
+    const auto* cliqué = clickedButton();
+    const bool acceptée = cliqué != nullptr && buttonRole(const_cast<QAbstractButton*>(cliqué)) == AcceptRole;
+    switch (choix_) {
+    case Boutons::OuiNon:
+        return acceptée ? Réponse::Oui : Réponse::Non;
+    case Boutons::OkAnnuler:
+        return acceptée ? Réponse::Ok : Réponse::Annuler;
+    case Boutons::Ok:
+        break;
+    }
+    return Réponse::Ok;
+}
+
+// ---- Standard dialogs ------------------------------------------------------------------------------------------
+
+void ChargerTraductions()
+{
+    static bool chargées = false;
+    if (chargées)
+        return;
+    chargées = true;
+    auto* traducteur = new QTranslator{qApp};
+    const auto àCôté = QApplication::applicationDirPath();
+    if (traducteur->load(QStringLiteral("qtbase_fr"), QLibraryInfo::path(QLibraryInfo::TranslationsPath)) ||
+        traducteur->load(QStringLiteral("qtbase_fr"), àCôté))
+        QApplication::installTranslator(traducteur);
+}
+
+QStringList TraduireFiltre(const Texte& filtre)
+{
+    QStringList filtres;
+    const auto morceaux = EnQString(filtre).split(u'|', Qt::SkipEmptyParts);
+    for (qsizetype i = 0; i + 1 < morceaux.size(); i += 2) {
+        const auto motif = morceaux[i + 1] == QStringLiteral("*.*") ? QStringLiteral("*") : morceaux[i + 1];
+        const auto fin = QStringLiteral("(%1)").arg(motif);
+        filtres.push_back(morceaux[i].endsWith(fin) ? morceaux[i] : morceaux[i] + u' ' + fin);
+    }
+    return filtres;
+}
+
+std::unique_ptr<QFileDialog> CréerDialogueFichier(const DialogueFichier& demande, bool enregistrer, QWidget* parent)
+{
+    auto dialogue = std::make_unique<QFileDialog>(parent);
+    dialogue->setFont(PolicePour({}, 0, false, EchelleDe(parent)));
+    dialogue->setOption(QFileDialog::DontUseNativeDialog);
+    dialogue->setAcceptMode(enregistrer ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
+    dialogue->setFileMode(enregistrer ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
+    dialogue->setNameFilters(TraduireFiltre(demande.Filtre));
+    dialogue->setDirectory(EnQString(demande.Dossier));
+    dialogue->setDefaultSuffix(EnQString(demande.Extension));
+    if (!demande.NomFichier.empty() && !Contient(demande.NomFichier, u'*'))
+        dialogue->selectFile(EnQString(demande.NomFichier));
+    dialogue->setLabelText(QFileDialog::Accept,
+                           enregistrer ? QStringLiteral("&Enregistrer") : QStringLiteral("&Ouvrir"));
+    dialogue->setLabelText(QFileDialog::Reject, QStringLiteral("Annuler"));
+    dialogue->setLabelText(QFileDialog::LookIn, QStringLiteral("Dossier :"));
+    dialogue->setLabelText(QFileDialog::FileName, QStringLiteral("&Nom du fichier :"));
+    dialogue->setLabelText(QFileDialog::FileType, QStringLiteral("Type de fichier :"));
+    dialogue->setWindowTitle(!demande.Titre.empty() ? EnQString(demande.Titre)
+                             : enregistrer          ? QStringLiteral("Enregistrer sous")
+                                                    : QStringLiteral("Ouvrir"));
+    if (parent != nullptr)
+        dialogue->resize(parent->size() * 8 / 10);
+    return dialogue;
+}
+
+std::optional<Texte> FichierChoisi(const QFileDialog& dialogue)
+{
+    if (dialogue.result() != QDialog::Accepted || dialogue.selectedFiles().isEmpty())
+        return std::nullopt;
+    return DepuisQString(dialogue.selectedFiles().front());
+}
+
+std::unique_ptr<QColorDialog> CréerDialogueCouleur(Couleur départ, QWidget* parent)
+{
+    auto dialogue = std::make_unique<QColorDialog>(EnQColor(départ, Qt::black), parent);
+    dialogue->setOption(QColorDialog::DontUseNativeDialog);
+    dialogue->setWindowTitle(QStringLiteral("Couleurs"));
+    return dialogue;
+}
+
+std::optional<Couleur> CouleurChoisie(const QColorDialog& dialogue)
+{
+    if (dialogue.result() != QDialog::Accepted)
+        return std::nullopt;
+    return DepuisQColor(dialogue.selectedColor());
+}
+
+std::unique_ptr<QFontDialog> CréerDialoguePolice(const ChoixPolice& départ, QWidget* parent)
+{
+    auto police = PolicePour(départ.Nom, 0, départ.Gras.value_or(false), 1);
+    police.setPointSizeF(départ.Taille > 0 ? départ.Taille : 12);
+    police.setItalic(départ.Italique.value_or(false));
+    auto dialogue = std::make_unique<QFontDialog>(police, parent);
+    dialogue->setOption(QFontDialog::DontUseNativeDialog);
+    dialogue->setWindowTitle(QStringLiteral("Caractères"));
+    return dialogue;
+}
+
+std::optional<ChoixPolice> PoliceChoisie(const QFontDialog& dialogue, const ChoixPolice& départ)
+{
+    if (dialogue.result() != QDialog::Accepted)
+        return std::nullopt;
+    const auto police = dialogue.selectedFont();
+    ChoixPolice choix;
+    choix.Nom = DepuisQString(police.family());
+    // The stand-in of a font that this machine lacks is not a choice.
+    const bool inchangée = QFontInfo{PolicePour(départ.Nom, 0, false, 1)}.family() == QFontInfo{police}.family();
+    if (inchangée)
+        choix.Nom = départ.Nom;
+    choix.Taille = police.pointSizeF();
+    choix.Gras = police.bold();
+    choix.Italique = police.italic();
+    return choix;
+}

@@ -1,0 +1,95 @@
+#include "desktop/Places.h"
+
+#include <algorithm>
+
+Superposition::~Superposition()
+{
+    for (auto* pièce : pièces_)
+        delete pièce;
+}
+
+void Superposition::Ajouter(QWidget* un)
+{
+    addChildWidget(un);
+    addItem(new QWidgetItem{un});
+}
+
+void Superposition::Ajouter(QLayout* un)
+{
+    addChildLayout(un);
+    addItem(un);
+}
+
+QLayoutItem* Superposition::itemAt(int index) const
+{
+    return index >= 0 && index < count() ? pièces_[static_cast<std::size_t>(index)] : nullptr;
+}
+
+QLayoutItem* Superposition::takeAt(int index)
+{
+    auto* pièce = itemAt(index);
+    if (pièce != nullptr)
+        pièces_.erase(pièces_.begin() + index);
+    return pièce;
+}
+
+QSize Superposition::AvecMarges(QSize taille) const
+{
+    const auto marges = contentsMargins();
+    return taille + QSize{marges.left() + marges.right(), marges.top() + marges.bottom()};
+}
+
+QSize Superposition::sizeHint() const
+{
+    QSize taille = tailleMinimale;
+    for (auto* pièce : pièces_)
+        taille = taille.expandedTo(pièce->sizeHint());
+    return AvecMarges(taille);
+}
+
+QSize Superposition::minimumSize() const
+{
+    QSize taille = tailleMinimale;
+    for (auto* pièce : pièces_)
+        taille = taille.expandedTo(pièce->minimumSize());
+    return AvecMarges(taille);
+}
+
+bool Superposition::hasHeightForWidth() const
+{
+    return std::any_of(pièces_.begin(), pièces_.end(), [](auto* pièce) { return pièce->hasHeightForWidth(); });
+}
+
+int Superposition::heightForWidth(int largeur) const
+{
+    const auto marges = contentsMargins();
+    const int intérieure = largeur - marges.left() - marges.right();
+    int hauteur = tailleMinimale.height();
+    for (auto* pièce : pièces_)
+        hauteur = std::max(hauteur, pièce->hasHeightForWidth() ? pièce->heightForWidth(intérieure)
+                                                               : pièce->sizeHint().height());
+    return hauteur + marges.top() + marges.bottom();
+}
+
+Qt::Orientations Superposition::expandingDirections() const
+{
+    Qt::Orientations directions;
+    for (auto* pièce : pièces_)
+        directions |= pièce->expandingDirections();
+    return directions;
+}
+
+void Superposition::setGeometry(const QRect& place)
+{
+    QLayout::setGeometry(place);
+    const auto intérieur = place.marginsRemoved(contentsMargins());
+    for (auto* pièce : pièces_)
+        pièce->setGeometry(intérieur);
+}
+
+void PlacementLibre::setGeometry(const QRect& place)
+{
+    QLayout::setGeometry(place);
+    if (placer)
+        placer();
+}

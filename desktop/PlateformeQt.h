@@ -1,0 +1,88 @@
+// The platform on a real display: windows, nested event loops, dialogs, clock and dice.
+#pragma once
+#include "core/Plateforme.h"
+
+#include <QObject>
+
+#include <map>
+#include <memory>
+#include <random>
+#include <set>
+#include <vector>
+
+class Fenêtre;
+class QDialog;
+class QEventLoop;
+class QTimer;
+
+class PlateformeQt final : public QObject, public Plateforme {
+public:
+    PlateformeQt();
+    ~PlateformeQt() override;
+
+    double Horloge() override;
+    void AmorcerHasard() override;
+    double Hasard() override;
+
+    Chemin DossierProgramme() override;
+    std::optional<EchecFichier> Réécrire(const Chemin& fichier, std::string_view contenu) override;
+    char16_t SéparateurDécimal() override;
+
+    Réponse AfficherBoîte(const Boîte& boîte) override;
+    std::optional<Texte> DemanderFichierAOuvrir(const DialogueFichier& dialogue) override;
+    std::optional<Texte> DemanderFichierAEnregistrer(const DialogueFichier& dialogue) override;
+    std::optional<Couleur> DemanderCouleur(Couleur départ) override;
+    std::optional<ChoixPolice> DemanderPolice(const ChoixPolice& départ) override;
+    bool Imprimer(const TexteRiche& texte, const TexteRiche& sélection) override;
+
+    Texte LirePressePapiers() override;
+    void EcrirePressePapiers(const Texte& texte) override;
+
+    void DemanderPolices(std::function<void(std::vector<Texte>)> reçues) override;
+    double LargeurTexte(const Texte& texte, double taille) override;
+
+    void AfficherModal(Ecran& écran) override;
+    void EcranFermé(Ecran& écran) override;
+    void Terminer() override;
+
+    void Repeindre(Ecran& écran) override;
+    [[nodiscard]] bool Attendre(Ecran& écran, std::chrono::milliseconds durée) override;
+    [[nodiscard]] bool AttendreArrêt(Timer& minuterie) override;
+    void RéglerMinuterie(Timer& minuterie) override;
+
+    // A window has been painted: what was put off until the first picture may come.
+    void FenêtrePeinte();
+    // The window in front; none before the first.
+    [[nodiscard]] Fenêtre* Devant() const { return fenêtres_.empty() ? nullptr : fenêtres_.back(); }
+
+    bool eventFilter(QObject* visé, QEvent* événement) override;
+
+private:
+    // A nested loop, and what ends it before its time.
+    struct Boucle {
+        Ecran* écran;
+        Timer* minuterie; // of a wait for a timer
+        std::function<void()> Quitter;
+    };
+    class Séjour; // the time spent in such a loop
+
+    void MontrerDialogue(QDialog& dialogue);
+    std::optional<Texte> DemanderFichier(const DialogueFichier& dialogue, bool enregistrer);
+    [[nodiscard]] bool Montré(const Ecran& écran) const;
+    void Armer(Timer& minuterie);
+    void Désarmer(Timer& minuterie);
+    void Battre(Timer& minuterie);
+    void RendreRetardées();
+    void ListerPolices();
+
+    std::mt19937_64 dés_;
+    unsigned long amorces_ = 0;
+    std::vector<Fenêtre*> fenêtres_;
+    std::vector<Boucle*> boucles_;
+    std::map<Timer*, std::unique_ptr<QTimer, void (*)(QTimer*)>> minuteries_;
+    std::set<Timer*> retardées_; // have ticked while nothing else was to happen
+    std::vector<std::function<void(std::vector<Texte>)>> attendentPolices_;
+    bool entréeJetée_ = false;
+    bool peinte_ = false;
+    bool terminé_ = false;
+};

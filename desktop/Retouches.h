@@ -1,0 +1,23 @@
+// Where a text has changed since it was last shown: disjoint places, in order.
+#pragma once
+#include <cstddef>
+#include <vector>
+
+struct Retouche {
+    std::size_t début;    // in the text as it is now
+    std::size_t anciens;  // characters shown there
+    std::size_t nouveaux; // characters that stand there now
+    friend bool operator==(const Retouche&, const Retouche&) = default;
+};
+
+class Retouches {
+public:
+    // `retirés` characters at `début` of the present text gave way to `ajoutés`.
+    void Noter(std::size_t début, std::size_t retirés, std::size_t ajoutés);
+    [[nodiscard]] bool Vides() const { return liste_.empty(); }
+    // Hands them over, first to last, and forgets them.
+    std::vector<Retouche> Prendre();
+
+private:
+    std::vector<Retouche> liste_;
+};

@@ -1,0 +1,558 @@
+#include "desktop/VueTexteRiche.h"
+
+#include "desktop/Apparence.h"
+#include "desktop/Conversions.h"
+#include "desktop/Fenetre.h"
+#include "desktop/FormatsQt.h"
+
+#include <QAbstractTextDocumentLayout>
+#include <QKeyEvent>
+#include <QMimeData>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QScrollBar>
+#include <QTextBlock>
+#include <QTextDocument>
+#include <QTextLayout>
+
+#include <algorithm>
+
+namespace {
+
+constexpr int NuméroFormat = QTextFormat::UserProperty; // formats that look alike here may differ in the text
+
+bool FinitLigne(char16_t caractère)
+{
+    return caractère == u'\r' || caractère == u'\n';
+}
+
+} // namespace
+
+// ---- The widget ------------------------------------------------------------------------------------------------
+
+class VueTexteRiche::Page final : public QTextEdit {
+public:
+    Page(VueTexteRiche& vue, QWidget* parent) : QTextEdit(parent), vue_(vue)
+    {
+        setUndoRedoEnabled(false);
+        setAcceptRichText(false);
+        setAcceptDrops(false);
+        setTabChangesFocus(true);
+        setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+    }
+
+    void Verrouiller(bool verrouillée)
+    {
+        if (verrouillée == isReadOnly())
+            return;
+        setReadOnly(verrouillée);
+        if (verrouillée)
+            setTextInteractionFlags(Qt::NoTextInteraction);
+        setFocusPolicy(Qt::StrongFocus);
+        setAttribute(Qt::WA_InputMethodEnabled);
+        viewport()->setCursor(verrouillée ? Qt::ArrowCursor : Qt::IBeamCursor);
+    }
+
+    [[nodiscard]] QSize sizeHint() const override { return {font().pixelSize() * 24, font().pixelSize() * 12}; }
+    [[nodiscard]] QSize minimumSizeHint() const override { return {font().pixelSize() * 8, font().pixelSize() * 4}; }
+
+    // The character under the point; right of a line, its end.
+    [[nodiscard]] int CaractèreSous(QPoint lieu) const
+    {
+        const QPointF point = QPointF{lieu} + QPointF(horizontalScrollBar()->value(), verticalScrollBar()->value());
+        const auto* mise = document()->documentLayout();
+        const auto bloc = document()->findBlock(mise->hitTest(point, Qt::FuzzyHit));
+        const auto* lignes = bloc.layout();
+        const auto coin = mise->blockBoundingRect(bloc).topLeft();
+        for (int i = 0; i < lignes->lineCount(); ++i) {
+            const auto ligne = lignes->lineAt(i);
+            const bool dernière = i + 1 == lignes->lineCount();
+            if (!dernière && point.y() >= coin.y() + ligne.y() + ligne.height())
+                continue;
+            const int fin = bloc.position() + ligne.textStart() + ligne.textLength();
+            const double x = point.x() - coin.x();
+            if (x >= ligne.naturalTextRect().right())
+                return dernière ? bloc.position() + bloc.length() - 1 : fin - 1;
+            return bloc.position() + ligne.xToCursor(x, QTextLine::CursorOnCharacter);
+        }
+        return bloc.position();
+    }
+
+protected:
+    void mousePressEvent(QMouseEvent* événement) override
+    {
+        pressée_ = événement->button() == Qt::LeftButton;
+        clavier_ = false;
+        if (!isReadOnly()) {
+            QTextEdit::mousePressEvent(événement);
+            return;
+        }
+        if (!pressée_)
+            return;
+        setFocus(Qt::MouseFocusReason);
+        visé_ = CaractèreSous(événement->position().toPoint());
+        viewport()->update();
+    }
+
+    void mouseMoveEvent(QMouseEvent* événement) override
+    {
+        if (!isReadOnly())
+            QTextEdit::mouseMoveEvent(événement);
+    }
+
+    void mouseReleaseEvent(QMouseEvent* événement) override
+    {
+        if (!isReadOnly())
+            QTextEdit::mouseReleaseEvent(événement);
+        const bool clic = pressée_ && événement->button() == Qt::LeftButton;
+        pressée_ = false;
+        if (!clic || !vue_.Agissante())
+            return;
+        if (isReadOnly())
+            vue_.boîte_.Cliquer(vue_.DepuisWidget(visé_));
+        else if (!textCursor().hasSelection())
+            vue_.boîte_.Cliquer(vue_.DepuisWidget(textCursor().position()));
+    }
+
+    void mouseDoubleClickEvent(QMouseEvent* événement) override
+    {
+        pressée_ = false; // the release to come ends this, and clicks no more
+        const auto lieu = événement->position().toPoint();
+        const int position = isReadOnly() ? CaractèreSous(lieu) : cursorForPosition(lieu).position();
+        if (!isReadOnly())
+            QTextEdit::mouseDoubleClickEvent(événement);
+        if (événement->button() == Qt::LeftButton && vue_.Agissante() && vue_.boîte_.DblClick)
+            vue_.boîte_.DoubleCliquer(vue_.DepuisWidget(position));
+    }
+
+    void keyPressEvent(QKeyEvent* événement) override
+    {
+        if (isReadOnly()) {
+            Jouer(*événement);
+            return;
+        }
+        const bool entrée = événement->key() == Qt::Key_Return || événement->key() == Qt::Key_Enter;
+        if (entrée && événement->modifiers() != Qt::NoModifier) {
+            textCursor().insertBlock(); // one kind of line end only
+            ensureCursorVisible();
+            return;
+        }
+        QTextEdit::keyPressEvent(événement);
+    }
+
+    void insertFromMimeData(const QMimeData* source) override
+    {
+        auto texte = source->text();
+        texte.replace(QChar{0x2019}, u'\'').replace(QChar{0x2018}, u'\'');
+        texte.replace(QChar{0x202F}, u' ').replace(QChar{0x2009}, u' ');
+        texte.replace(QStringLiteral("\r\n"), QStringLiteral("\n")).replace(u'\r', u'\n');
+        texte.remove(QChar{GlypheMasque});
+        textCursor().insertText(texte);
+        ensureCursorVisible();
+    }
+
+    [[nodiscard]] bool canInsertFromMimeData(const QMimeData* source) const override { return source->hasText(); }
+
+    void paintEvent(QPaintEvent* événement) override
+    {
+        QTextEdit::paintEvent(événement);
+        if (!hasFocus() || !isReadOnly() || !clavier_)
+            return;
+        QPainter peintre{viewport()};
+        peintre.setRenderHint(QPainter::Antialiasing);
+        peintre.setPen(QPen{Teinte::Anneau, 2});
+        peintre.drawRoundedRect(QRectF{CadreVisé()}.adjusted(-1, 0, 1, 0), 3, 3);
+    }
+
+private:
+    [[nodiscard]] QRect CadreVisé() const
+    {
+        QTextCursor ici{document()};
+        ici.setPosition(std::min(visé_, document()->characterCount() - 1));
+        auto là = ici;
+        const auto cadre = cursorRect(ici);
+        const bool suite = !ici.atBlockEnd() && là.movePosition(QTextCursor::NextCharacter);
+        const auto suivant = suite ? cursorRect(là) : cadre;
+        const int largeur = suite && suivant.top() == cadre.top() ? suivant.left() - cadre.left() : cadre.height() / 2;
+        return {cadre.left(), cadre.top(), std::max(4, largeur), cadre.height()};
+    }
+
+    // The keyboard's way of clicking: arrows lead to a character, Enter and the space bar click it.
+    void Jouer(QKeyEvent& événement)
+    {
+        if (événement.key() == Qt::Key_Return || événement.key() == Qt::Key_Enter ||
+            événement.key() == Qt::Key_Space) {
+            clavier_ = true;
+            if (vue_.Agissante())
+                vue_.boîte_.Cliquer(vue_.DepuisWidget(std::min(visé_, document()->characterCount() - 1)));
+            viewport()->update();
+            return;
+        }
+        using Pas = QTextCursor::MoveOperation;
+        static constexpr std::pair<int, Pas> Chemins[] = {
+            {Qt::Key_Left, Pas::PreviousCharacter}, {Qt::Key_Right, Pas::NextCharacter}, {Qt::Key_Up, Pas::Up},
+            {Qt::Key_Down, Pas::Down},              {Qt::Key_Home, Pas::StartOfLine},    {Qt::Key_End, Pas::EndOfLine}};
+        const auto* pas = std::find_if(std::begin(Chemins), std::end(Chemins),
+                                       [&](const auto& un) { return un.first == événement.key(); });
+        if (pas == std::end(Chemins)) {
+            événement.ignore();
+            return;
+        }
+        QTextCursor ici{document()};
+        ici.setPosition(std::min(visé_, document()->characterCount() - 1));
+        ici.movePosition(pas->second);
+        visé_ = ici.position();
+        clavier_ = true;
+        const auto cadre = CadreVisé();
+        auto* barre = verticalScrollBar();
+        if (cadre.top() < 0)
+            barre->setValue(barre->value() + cadre.top());
+        else if (cadre.bottom() > viewport()->height())
+            barre->setValue(barre->value() + cadre.bottom() - viewport()->height());
+        viewport()->update();
+    }
+
+    VueTexteRiche& vue_;
+    int visé_ = 0; // the character that the mouse or the keyboard has last pointed at
+    bool pressée_ = false;
+    bool clavier_ = false;
+};
+
+// ---- From the element to the widget ------------------------------------------------------------------------------
+
+VueTexteRiche::VueTexteRiche(Fenêtre& fenêtre, RichTextBox& boîte, QWidget* parent)
+    : Vue(fenêtre, boîte, new Page{*this, parent}), boîte_(boîte), zone_(static_cast<QTextEdit&>(*widget))
+{
+    retouches_.Noter(0, 0, boîte.Longueur());
+    boîte.EditionFaite = [this](const RichTextBox::Edition& édition) {
+        retouches_.Noter(édition.Début, édition.Retirés, édition.Ajoutés);
+        fenêtre_.Marquer(*this);
+    };
+    QObject::connect(zone_.document(), &QTextDocument::contentsChange, &zone_,
+                     [this](int position, int retirés, int ajoutés) { Reprendre(position, retirés, ajoutés); });
+    QObject::connect(&zone_, &QTextEdit::cursorPositionChanged, &zone_, [this] { NoterSélection(); });
+    QObject::connect(&zone_, &QTextEdit::selectionChanged, &zone_, [this] { NoterSélection(); });
+}
+
+VueTexteRiche::~VueTexteRiche()
+{
+    boîte_.EditionFaite = nullptr;
+}
+
+int VueTexteRiche::EnWidget(std::size_t position) const
+{
+    // The last block that starts at or before the position; block k has k line ends before it.
+    const auto* document = zone_.document();
+    int bas = 0;
+    int haut = document->blockCount() - 1;
+    while (bas < haut) {
+        const int milieu = (bas + haut + 1) / 2;
+        const auto début = static_cast<std::size_t>(document->findBlockByNumber(milieu).position() + milieu);
+        début <= position ? bas = milieu : haut = milieu - 1;
+    }
+    const auto bloc = document->findBlockByNumber(bas);
+    return std::min(static_cast<int>(position) - bas, bloc.position() + bloc.length() - 1);
+}
+
+std::size_t VueTexteRiche::DepuisWidget(int position) const
+{
+    return static_cast<std::size_t>(position + std::max(0, zone_.document()->findBlock(position).blockNumber()));
+}
+
+QString VueTexteRiche::Affiché(std::size_t début, std::size_t fin) const
+{
+    const auto& texte = boîte_.Text();
+    QString affiché;
+    affiché.reserve(static_cast<qsizetype>(fin - début));
+    for (std::size_t i = début; i < fin; ++i) {
+        const char16_t c = texte[i];
+        if (c == u'\r' && i + 1 < fin && texte[i + 1] == u'\n') {
+            affiché += QChar::ParagraphSeparator;
+            ++i;
+        } else if (c == Masque) {
+            affiché += QChar{GlypheMasque};
+        } else if (FinitLigne(c) || (c >= 0x2028 && c <= 0x2029)) {
+            affiché += u' '; // half a line end, while the other half is on its way
+        } else if (c == 0xFDD0 || c == 0xFDD1 || c == 0) {
+            affiché += QChar::ReplacementCharacter; // the widget keeps these for itself
+        } else {
+            affiché += QChar{c};
+        }
+    }
+    return affiché;
+}
+
+const QTextCharFormat& VueTexteRiche::FormatDe(const Format& format)
+{
+    const auto place = formats_.find(format);
+    if (place != formats_.end())
+        return place->second;
+    auto qt = EnQt(format, échelleMontrée_);
+    qt.setProperty(NuméroFormat, static_cast<int>(formats_.size()) + 1);
+    return formats_.emplace(format, std::move(qt)).first->second;
+}
+
+void VueTexteRiche::Synchroniser()
+{
+    static_cast<Page&>(zone_).Verrouiller(boîte_.Locked);
+    ColorerFond(Teinte::Panneau);
+    Vue::Synchroniser();
+    enSynchro_ = true;
+    if (const double voulue = fenêtre_.Echelle(); voulue != échelleMontrée_) {
+        échelleMontrée_ = voulue;
+        formats_.clear();
+        retouches_.Prendre();
+        zone_.document()->clear();
+        retouches_.Noter(0, 0, boîte_.Longueur());
+    }
+    for (const auto& retouche : retouches_.Prendre())
+        Mettre(retouche);
+    MettreSélection();
+    enSynchro_ = false;
+}
+
+void VueTexteRiche::Mettre(Retouche retouche)
+{
+    // A line end is taken as a whole, or not at all.
+    const auto& texte = boîte_.Text();
+    while (retouche.début > 0 && texte[retouche.début - 1] == u'\r') {
+        --retouche.début;
+        ++retouche.anciens;
+        ++retouche.nouveaux;
+    }
+    while (retouche.début + retouche.nouveaux < texte.size() && texte[retouche.début + retouche.nouveaux] == u'\n') {
+        ++retouche.anciens;
+        ++retouche.nouveaux;
+    }
+    if (retouche.anciens != retouche.nouveaux || !MettreSurPlace(retouche.début, retouche.début + retouche.nouveaux))
+        Remplacer(retouche);
+}
+
+// Changes characters and formats where they stand. False: the lines don't end where they did.
+bool VueTexteRiche::MettreSurPlace(std::size_t début, std::size_t fin)
+{
+    struct Part {
+        QTextBlock bloc;
+        std::size_t début;
+        std::size_t fin;
+    };
+    const VueTexte texte = boîte_.Text();
+    std::vector<Part> parts;
+    auto bloc = zone_.document()->findBlock(EnWidget(début));
+    for (std::size_t place = début;;) {
+        const auto départ = static_cast<std::size_t>(bloc.position() + bloc.blockNumber());
+        const auto terme = départ + static_cast<std::size_t>(bloc.length()) - 1;
+        const auto borne = std::min(fin, terme);
+        if (place > borne || texte.substr(place, borne - place).find(FinDeLigne) != VueTexte::npos)
+            return false;
+        parts.push_back({bloc, place, borne});
+        if (fin <= terme)
+            break;
+        if (texte.substr(terme, 2) != FinDeLigne || fin < terme + 2)
+            return false;
+        place = terme + 2;
+        bloc = bloc.next();
+        if (!bloc.isValid())
+            return false;
+    }
+    for (const auto& part : parts)
+        MettreBloc(part.bloc, part.début, part.fin);
+    MettreParagraphes(parts.front().bloc.blockNumber(), parts.back().bloc.blockNumber());
+    return true;
+}
+
+void VueTexteRiche::MettreBloc(const QTextBlock& bloc, std::size_t début, std::size_t fin)
+{
+    struct Echange {
+        int début;
+        int fin;
+        bool texte;
+        const QTextCharFormat* format;
+    };
+    const int décalage = bloc.blockNumber();
+    const int premier = static_cast<int>(début) - décalage;
+    const auto ancien = bloc.text();
+    const auto nouveau = Affiché(début, fin);
+    std::vector<int> numéros(static_cast<std::size_t>(fin - début), 0);
+    for (auto morceau = bloc.begin(); !morceau.atEnd(); ++morceau) {
+        const auto fragment = morceau.fragment();
+        const int numéro = fragment.charFormat().intProperty(NuméroFormat);
+        const int de = std::max(fragment.position(), premier);
+        const int à = std::min(fragment.position() + fragment.length(), premier + static_cast<int>(numéros.size()));
+        for (int i = de; i < à; ++i)
+            numéros[static_cast<std::size_t>(i - premier)] = numéro;
+    }
+    std::vector<Echange> échanges;
+    boîte_.TextRTF().PourChaqueTranche(début, fin, [&](const Tranche& tranche) {
+        const auto& format = FormatDe(*tranche.Format_);
+        const int numéro = format.intProperty(NuméroFormat);
+        for (auto i = static_cast<int>(tranche.Début) - décalage; i < static_cast<int>(tranche.Fin) - décalage; ++i) {
+            const bool autreTexte = ancien[i - bloc.position()] != nouveau[i - premier];
+            if (!autreTexte && numéros[static_cast<std::size_t>(i - premier)] == numéro)
+                continue;
+            if (!échanges.empty() && échanges.back().fin == i && échanges.back().texte == autreTexte &&
+                échanges.back().format == &format)
+                ++échanges.back().fin;
+            else
+                échanges.push_back({i, i + 1, autreTexte, &format});
+        }
+    });
+    if (échanges.empty())
+        return;
+    QTextCursor curseur{bloc};
+    curseur.beginEditBlock();
+    for (const auto& échange : échanges) {
+        curseur.setPosition(échange.début);
+        curseur.setPosition(échange.fin, QTextCursor::KeepAnchor);
+        if (échange.texte)
+            curseur.insertText(nouveau.mid(échange.début - premier, échange.fin - échange.début), *échange.format);
+        else
+            curseur.setCharFormat(*échange.format);
+    }
+    curseur.endEditBlock();
+}
+
+void VueTexteRiche::Remplacer(const Retouche& retouche)
+{
+    QTextCursor curseur{zone_.document()};
+    const int début = EnWidget(retouche.début);
+    const int fin = EnWidget(retouche.début + retouche.anciens);
+    const int premier = zone_.document()->findBlock(début).blockNumber();
+    curseur.beginEditBlock();
+    curseur.setPosition(début);
+    curseur.setPosition(fin, QTextCursor::KeepAnchor);
+    curseur.removeSelectedText();
+    boîte_.TextRTF().PourChaqueTranche(
+        retouche.début, retouche.début + retouche.nouveaux, [&](const Tranche& tranche) {
+            curseur.insertText(Affiché(tranche.Début, tranche.Fin), FormatDe(*tranche.Format_));
+        });
+    curseur.endEditBlock();
+    MettreParagraphes(premier, curseur.blockNumber());
+}
+
+void VueTexteRiche::MettreParagraphes(int premier, int dernier)
+{
+    const FormatParagraphe* dernierFormat = nullptr;
+    QTextBlockFormat voulu;
+    auto bloc = zone_.document()->findBlockByNumber(premier);
+    for (int i = premier; i <= dernier && bloc.isValid(); ++i, bloc = bloc.next()) {
+        const auto& format = boîte_.TextRTF().ParagrapheEn(static_cast<std::size_t>(bloc.position() + i));
+        if (dernierFormat != &format) {
+            voulu = EnQt(format, échelleMontrée_);
+            dernierFormat = &format;
+        }
+        if (bloc.blockFormat() != voulu)
+            QTextCursor{bloc}.setBlockFormat(voulu);
+    }
+}
+
+void VueTexteRiche::MettreSélection()
+{
+    auto curseur = zone_.textCursor();
+    const int début = EnWidget(boîte_.SelStart());
+    const int fin = EnWidget(boîte_.SelStart() + boîte_.SelLength());
+    if (curseur.selectionStart() == début && curseur.selectionEnd() == fin)
+        return;
+    const int défilement = zone_.verticalScrollBar()->value();
+    curseur.setPosition(début);
+    curseur.setPosition(fin, QTextCursor::KeepAnchor);
+    zone_.setTextCursor(curseur);
+    // Rules walk over a locked text with an empty selection; only what is marked must come into sight.
+    if (boîte_.Locked && début == fin)
+        zone_.verticalScrollBar()->setValue(défilement);
+    else
+        zone_.ensureCursorVisible();
+}
+
+// ---- From the widget to the element ------------------------------------------------------------------------------
+
+bool VueTexteRiche::Taper(const Touche& touche)
+{
+    // In a locked text these keys edit nothing: they lead to a character and click it.
+    const bool jeu = touche.Caractère == 0 || touche.Caractère == u' ' || touche.Code == Touche::Entrée;
+    return (boîte_.Locked && jeu) || boîte_.Taper(touche);
+}
+
+Format VueTexteRiche::FormatTapé(std::size_t début, std::size_t retirés) const
+{
+    const auto& texte = boîte_.TextRTF();
+    const bool auCurseur = retirés == 0 && boîte_.SelLength() == 0 && boîte_.SelStart() == début;
+    if (!auCurseur)
+        return texte.FormatEn(retirés > 0 || début == 0 ? début : début - 1);
+    Format format = texte.FormatEn(début);
+    format.Police = boîte_.SelFontName().value_or(format.Police);
+    format.Taille = boîte_.SelFontSize().value_or(format.Taille);
+    format.Teinte = boîte_.SelColor().value_or(format.Teinte);
+    format.Gras = boîte_.SelBold().value_or(format.Gras);
+    format.Italique = boîte_.SelItalic().value_or(format.Italique);
+    format.Souligné = boîte_.SelUnderline().value_or(format.Souligné);
+    format.Barré = boîte_.SelStrikeThru().value_or(format.Barré);
+    return format;
+}
+
+void VueTexteRiche::Reprendre(int position, int retirés, int ajoutés)
+{
+    if (enSynchro_ || !Agissante() || boîte_.Locked)
+        return;
+    auto* document = zone_.document();
+    // The widget may count its own end of text among what has changed.
+    const int excès = std::max(0, position + ajoutés - (document->characterCount() - 1));
+    ajoutés -= excès;
+    retirés = std::max(0, retirés - excès);
+
+    QTextCursor nouveau{document};
+    nouveau.setPosition(position);
+    nouveau.setPosition(position + ajoutés, QTextCursor::KeepAnchor);
+    Texte arrivé;
+    for (const auto caractère : nouveau.selectedText()) {
+        if (caractère == QChar::ParagraphSeparator || caractère == QChar::LineSeparator)
+            arrivé += FinDeLigne;
+        else
+            arrivé += caractère.unicode() == GlypheMasque ? Masque : caractère.unicode();
+    }
+    const auto& texte = boîte_.Text();
+    auto début = DepuisWidget(position);
+    auto fin = début;
+    for (int i = 0; i < retirés && fin < texte.size(); ++i)
+        fin += VueTexte{texte}.substr(fin, 2) == FinDeLigne ? 2 : 1;
+
+    // What only was laid out anew, or has another format, is no edit.
+    std::size_t pareils = 0;
+    const VueTexte ancien = VueTexte{texte}.substr(début, fin - début);
+    while (pareils < ancien.size() && pareils < arrivé.size() && ancien[pareils] == arrivé[pareils])
+        ++pareils;
+    if (pareils > 0 && ancien[pareils - 1] == u'\r')
+        --pareils;
+    std::size_t derrière = 0;
+    while (derrière < ancien.size() - pareils && derrière < arrivé.size() - pareils &&
+           ancien[ancien.size() - 1 - derrière] == arrivé[arrivé.size() - 1 - derrière])
+        ++derrière;
+    if (derrière > 0 && ancien[ancien.size() - derrière] == u'\n')
+        --derrière;
+    début += pareils;
+    const auto partis = ancien.size() - pareils - derrière;
+    arrivé = arrivé.substr(pareils, arrivé.size() - pareils - derrière);
+    if (partis == 0 && arrivé.empty())
+        return;
+    const auto longueur = arrivé.size();
+    const auto format = FormatTapé(début, partis);
+    // The widget shows the characters; their formats come from the element, like all formats.
+    retouches_.Noter(début, longueur, longueur);
+    fenêtre_.Marquer(*this);
+    boîte_.Editer(début, partis, TexteRiche{std::move(arrivé), format});
+}
+
+void VueTexteRiche::NoterSélection()
+{
+    // What the program has just chosen is still on its way to the widget.
+    if (enSynchro_ || sale || !Agissante() || boîte_.Locked)
+        return;
+    const auto curseur = zone_.textCursor();
+    const auto début = DepuisWidget(curseur.selectionStart());
+    boîte_.Sélectionner(début, DepuisWidget(curseur.selectionEnd()) - début);
+}
+
+std::unique_ptr<Vue> CréerVueTexteRiche(Fenêtre& fenêtre, RichTextBox& boîte, QWidget* parent)
+{
+    return std::make_unique<VueTexteRiche>(fenêtre, boîte, parent);
+}

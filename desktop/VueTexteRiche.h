@@ -1,0 +1,51 @@
+// A formatted text in the toolkit's text widget. In the element a line end counts two positions, in the widget one.
+#pragma once
+#include "desktop/Retouches.h"
+#include "desktop/Vues.h"
+
+#include <QTextCharFormat>
+#include <QTextCursor>
+#include <QTextEdit>
+
+#include <functional>
+#include <unordered_map>
+
+class VueTexteRiche final : public Vue {
+public:
+    VueTexteRiche(Fenêtre& fenêtre, RichTextBox& boîte, QWidget* parent);
+    ~VueTexteRiche() override;
+
+    void Synchroniser() override;
+    bool Taper(const Touche& touche) override;
+
+    // Positions of the element and of the widget.
+    [[nodiscard]] int EnWidget(std::size_t position) const;
+    [[nodiscard]] std::size_t DepuisWidget(int position) const;
+    [[nodiscard]] QTextEdit& Zone() const { return zone_; }
+
+private:
+    class Page;
+    struct HachageFormat {
+        std::size_t operator()(const Format& format) const { return Hachage(format); }
+    };
+
+    [[nodiscard]] QString Affiché(std::size_t début, std::size_t fin) const;
+    const QTextCharFormat& FormatDe(const Format& format);
+    void Mettre(Retouche retouche);
+    bool MettreSurPlace(std::size_t début, std::size_t fin);
+    void MettreBloc(const QTextBlock& bloc, std::size_t début, std::size_t fin);
+    void Remplacer(const Retouche& retouche);
+    void MettreParagraphes(int premier, int dernier);
+    void MettreSélection();
+
+    void Reprendre(int position, int retirés, int ajoutés);
+    [[nodiscard]] Format FormatTapé(std::size_t début, std::size_t retirés) const;
+    void NoterSélection();
+
+    RichTextBox& boîte_;
+    QTextEdit& zone_;
+    Retouches retouches_;
+    std::unordered_map<Format, QTextCharFormat, HachageFormat> formats_;
+    double échelleMontrée_ = 0;
+    bool enSynchro_ = false;
+};

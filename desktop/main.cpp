@@ -1,0 +1,21 @@
+// The program: the toolkit, the screens, and the first screen in front.
+#include "TableEcrans.h"
+#include "core/Application.h"
+#include "core/frmTirelune.h"
+#include "desktop/Apparence.h"
+#include "desktop/PlateformeQt.h"
+
+#include <QApplication>
+
+int main(int argc, char** argv)
+{
+    QApplication qt{argc, argv};
+    QApplication::setApplicationName(QStringLiteral("Tirelune"));
+    InstallerApparence();
+    PlateformeQt plateforme;
+    Application application{plateforme};
+    RemplirTable(application);
+    frmTirelune premier{application};
+    premier.Afficher();
+    return 0;
+}

@@ -1,0 +1,565 @@
+"""Drives the built program as a person would: a virtual display, a mouse, a keyboard, and nothing mocked.
+
+A session is a file seance-*.py:
+
+    import sys
+    import pilote
+
+    def seance(p):
+        p.menu("Elève")
+        p.clic("cmdOk")
+        p.verifier(p.texte("lblTexte") == "", "no text yet")
+
+    sys.exit(pilote.lancer("ma-seance", seance))
+
+Widgets are found by the name that assistive tools see: the element's own name, "cmdOk" or "lblExo(3)".
+Each step waits until the screen is ready for it, and fails when that takes too long; nothing sleeps and hopes.
+A name is looked for in the active window, so that the same name in a window below is not taken for it.
+"""
+
+import ctypes
+import os
+import re
+import select
+import shutil
+import signal
+import subprocess
+import sys
+import tempfile
+import time
+import traceback
+
+SOURCES = os.path.dirname(os.path.dirname(os.path.dirname(os.path.abspath(__file__))))
+PROGRAMME = os.environ.get("TIRELUNE_PROGRAMME", os.path.join(SOURCES, "build", "release", "desktop", "tirelune"))
+CAPTURES = os.path.join(SOURCES, "build", "seance")
+DELAI = 20.0  # seconds, for anything that is to happen
+PAS = 0.03    # between two looks
+SANS_TOUCHE = "âêîôûäëïöüÿñæœÀÂÉÈÊËÎÏÔÛÙÜÇÆŒ«»’…–—\u00a0"
+
+
+class Absent(Exception):
+    """What was waited for did not come."""
+
+
+def mourir_avec_le_pere():
+    """Run in each child: it ends when the driver ends, whatever the reason."""
+    ctypes.CDLL(None).prctl(1, signal.SIGTERM)
+    os.setpgid(0, 0)
+
+
+def demarrer(commande, **options):
+    return subprocess.Popen(commande, preexec_fn=mourir_avec_le_pere, stdin=subprocess.DEVNULL, **options)
+
+
+def arreter(processus):
+    if processus is None or processus.poll() is not None:
+        return
+    processus.terminate()
+    try:
+        processus.wait(5)
+    except subprocess.TimeoutExpired:
+        processus.kill()
+        processus.wait()
+
+
+def ligne_de(tuyau, quoi):
+    """The line that a helper writes on a pipe when it is ready."""
+    recu = b""
+    fin = time.monotonic() + DELAI
+    while not recu.endswith(b"\n"):
+        if not select.select([tuyau], [], [], max(0, fin - time.monotonic()))[0]:
+            raise Absent(f"{quoi} did not start")
+        morceau = os.read(tuyau, 1)
+        if not morceau:
+            raise Absent(f"{quoi} ended at once")
+        recu += morceau
+    return recu.decode().strip()
+
+
+class Ecran:
+    """A virtual display, with a window manager unless told otherwise."""
+
+    def __init__(self, taille=(1024, 768), gestionnaire=True):
+        lire, ecrire = os.pipe()
+        self.gestionnaire = None
+        self.serveur = demarrer(
+            ["Xvfb", "-displayfd", str(ecrire), "-screen", "0", f"{taille[0]}x{taille[1]}x24",
+             "-nolisten", "tcp", "-noreset"],
+            pass_fds=[ecrire], stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+        os.close(ecrire)
+        self.numero = ":" + ligne_de(lire, "Xvfb")
+        os.close(lire)
+        self.environnement = dict(os.environ, DISPLAY=self.numero)
+        self._poser_clavier()
+        if gestionnaire:
+            self.gestionnaire = demarrer(["openbox"], env=self.environnement, stdout=subprocess.DEVNULL,
+                                         stderr=subprocess.DEVNULL)
+            # A window shown before it is there would be placed and given the keyboard late.
+            fin = time.monotonic() + DELAI
+            while subprocess.run(["xdotool", "get_num_desktops"], env=self.environnement, stdout=subprocess.DEVNULL,
+                                 stderr=subprocess.DEVNULL).returncode != 0:
+                if time.monotonic() > fin:
+                    raise Absent("the window manager did not start")
+                time.sleep(PAS)
+
+    def _poser_clavier(self):
+        """A French keyboard, with keys of their own for the letters that it has none for.
+
+        A letter that stands on no key would be typed by changing the keyboard on the way, which the program may
+        see too late.
+        """
+        clavier = subprocess.run(["setxkbmap", "fr", "-print"], env=self.environnement, check=True,
+                                 stdout=subprocess.PIPE, stderr=subprocess.DEVNULL).stdout.decode()
+        touches = "".join(f"key <I{code}> {{ [ U{ord(lettre):04X} ] }}; "
+                          for code, lettre in zip(range(208, 256), SANS_TOUCHE))
+        clavier = re.sub(r'(xkb_symbols\s*\{.*?)\};', lambda m: m[1] + touches + "};", clavier)
+        subprocess.run(["xkbcomp", "-w0", "-", self.numero], env=self.environnement, check=True,
+                       input=clavier.encode(), stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+
+    def fermer(self):
+        arreter(self.gestionnaire)
+        arreter(self.serveur)
+
+
+class Element:
+    """A widget as assistive tools see it."""
+
+    def __init__(self, accessible):
+        self.accessible = accessible
+
+    @property
+    def nom(self):
+        return self.accessible.get_name()
+
+    @property
+    def role(self):
+        return self.accessible.get_role_name()
+
+    @property
+    def noms(self):
+        """A drop-down list's name is its value: the toolkit leaves its own name only in the description."""
+        if self.role == "combo box":
+            return (self.nom, *self.accessible.get_description().split()[:1])
+        return (self.nom,)
+
+    def etat(self, nom):
+        """nom: "SHOWING", "SENSITIVE", "CHECKED"... as in AT-SPI."""
+        return self.accessible.get_state_set().contains(getattr(Atspi.StateType, nom))
+
+    @property
+    def visible(self):
+        return self.etat("SHOWING")
+
+    @property
+    def place(self):
+        """Left, top, width, height on the display."""
+        r = self.accessible.get_extents(Atspi.CoordType.SCREEN)
+        return r.x, r.y, r.width, r.height
+
+    @property
+    def enfants(self):
+        resultat = []
+        for i in range(self.accessible.get_child_count()):
+            enfant = self.accessible.get_child_at_index(i)
+            if enfant is not None:
+                resultat.append(Element(enfant))
+        return resultat
+
+    @property
+    def texte(self):
+        """What it shows: the contents of a text box, else its value, else its caption."""
+        contenu = self.accessible.get_text_iface()
+        if contenu is not None and not self.role.endswith("button"):
+            return Atspi.Text.get_text(contenu, 0, Atspi.Text.get_character_count(contenu))
+        if self.role == "combo box":
+            return self.nom
+        return self.accessible.get_description() or self.nom
+
+    def descendants(self):
+        """In the order of the tree, leaving out what hides below something that isn't shown."""
+        attente = self.enfants
+        while attente:
+            suivants = []
+            for enfant in attente:
+                yield enfant
+                if enfant.visible:
+                    suivants += enfant.enfants
+            attente = suivants
+
+
+def sans_esperluette(libelle):
+    return " ".join(libelle.replace("&", "").split())
+
+
+class Pilote:
+    """The program running on a display of its own, and the hands and eyes of its user."""
+
+    def __init__(self, nom, taille=(1024, 768), preparer=None):
+        """preparer(folder) may add files to the fresh folder before the program starts in it."""
+        self.nom = nom
+        self.reussis = self.echoues = self.numero_capture = 0
+        self.captures = os.path.join(CAPTURES, nom)
+        shutil.rmtree(self.captures, ignore_errors=True)
+        os.makedirs(self.captures)
+        self.racine = os.path.join(self.captures, "Tirelune")  # kept, with the results file in it
+        subprocess.run([os.path.join(SOURCES, "tools", "disposer"), PROGRAMME, self.racine], check=True)
+        if preparer:
+            preparer(self.racine)
+        self.maison = tempfile.mkdtemp(prefix="tirelune-")
+        self.ecran = self.bus = self.programme = self.application = None
+        self.journal = os.path.join(self.captures, "messages.txt")
+        try:
+            self._demarrer(taille)
+        except BaseException:
+            self.fermer()
+            raise
+
+    def _demarrer(self, taille):
+        self.ecran = Ecran(taille)
+        environnement = self.ecran.environnement
+        for variable in ("WAYLAND_DISPLAY", "AT_SPI_BUS_ADDRESS", "QT_QPA_PLATFORM", "SESSION_MANAGER"):
+            environnement.pop(variable, None)
+        # Nothing of the machine's user comes in, nothing goes out.
+        environnement.update(HOME=self.maison, XDG_RUNTIME_DIR=self.maison, XDG_CONFIG_HOME=self.maison,
+                             XDG_DATA_HOME=self.maison, XDG_CACHE_HOME=self.maison, LC_ALL="C.UTF-8",
+                             QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1", NO_AT_BRIDGE="0")
+        lire, ecrire = os.pipe()
+        self.bus = demarrer(["dbus-daemon", "--session", "--nofork", f"--print-address={ecrire}"],
+                            pass_fds=[ecrire], env=environnement, stdout=subprocess.DEVNULL,
+                            stderr=subprocess.DEVNULL)
+        os.close(ecrire)
+        environnement["DBUS_SESSION_BUS_ADDRESS"] = ligne_de(lire, "dbus-daemon")
+        os.close(lire)
+        os.environ.update(environnement)
+        preparer_atspi()
+        with open(self.journal, "wb") as journal:
+            self.programme = demarrer([os.path.join(self.racine, "tirelune")], cwd=self.maison,
+                                      env=environnement, stdout=journal, stderr=journal)
+        self.application = self.jusqu_a(self._trouver_application, "the program shows itself to assistive tools")
+        self.jusqu_a(lambda: any(f.etat("ACTIVE") for f in self.fenetres()), "the program has the keyboard")
+
+    def _trouver_application(self):
+        if self.programme.poll() is not None:
+            raise Absent(f"the program ended at once, with code {self.programme.returncode}")
+        for application in Element(Atspi.get_desktop(0)).enfants:
+            if application.accessible.get_process_id() == self.programme.pid and application.enfants:
+                return application
+        return None
+
+    def fermer(self):
+        arreter(self.programme)
+        if self.ecran:
+            arreter(self.ecran.gestionnaire)
+        arreter(self.bus)
+        if self.ecran:
+            arreter(self.ecran.serveur)
+        shutil.rmtree(self.maison, ignore_errors=True)
+
+    # --- Waiting -------------------------------------------------------------------------------------------
+
+    def jusqu_a(self, condition, quoi, delai=DELAI):
+        """Wait until condition() gives something, and return it."""
+        fin = time.monotonic() + delai
+        while True:
+            try:
+                resultat = condition()
+                if resultat:
+                    return resultat
+            except GLib.Error:
+                # A widget went away while it was looked at, or the program is busy.
+                pass
+            if time.monotonic() > fin:
+                raise Absent(f"after {delai:.0f} s, still not: {quoi}")
+            time.sleep(PAS)
+
+    def attendre_temps(self, secondes):
+        """Let time pass: for rules about durations, never to wait for the program."""
+        time.sleep(secondes)
+
+    # --- Finding -------------------------------------------------------------------------------------------
+
+    def fenetres(self):
+        return [f for f in self.application.enfants if f.visible]
+
+    def fenetre(self):
+        """The active window; a list that pops up has none of its own, so then the last one opened."""
+        fenetres = self.fenetres()
+        for une in reversed(fenetres):
+            if une.etat("ACTIVE"):
+                return une
+        return fenetres[-1] if fenetres else None
+
+    def chercher(self, nom, role=None, partout=False):
+        """The shown widget of that name, or None. partout: in all windows, the last one opened first."""
+        racines = list(reversed(self.fenetres())) if partout else [self.fenetre()]
+        for racine in racines:
+            if racine is None:
+                continue
+            for element in [racine, *racine.descendants()]:
+                if nom in element.noms and element.visible and role in (None, element.role):
+                    return element
+        return None
+
+    def attendre(self, nom, delai=DELAI, role=None, partout=False):
+        return self.jusqu_a(lambda: self.chercher(nom, role, partout), f"{nom!r} is shown", delai)
+
+    def attendre_disparition(self, nom, delai=DELAI):
+        self.jusqu_a(lambda: self.chercher(nom) is None, f"{nom!r} has gone", delai)
+
+    def attendre_fenetre(self, titre, delai=DELAI):
+        """The active window whose title starts so."""
+        def active():
+            une = self.fenetre()
+            return une if une and une.etat("ACTIVE") and une.nom.startswith(titre) else None
+        return self.jusqu_a(active, f"the window {titre!r} is in front", delai)
+
+    def texte(self, nom):
+        return self.attendre(nom).texte
+
+    def attendre_texte(self, nom, texte, delai=DELAI):
+        """The widget shows that text, blanks at the ends apart."""
+        self.jusqu_a(lambda: self.attendre(nom).texte.strip() == texte.strip(), f"{nom!r} shows {texte!r}", delai)
+
+    def coche(self, nom):
+        return self.attendre(nom).etat("CHECKED")
+
+    # --- Mouse and keyboard --------------------------------------------------------------------------------
+
+    def _xdotool(self, *arguments):
+        subprocess.run(["xdotool", *map(str, arguments)], check=True, timeout=60)
+
+    def _pret(self, element):
+        """Its centre, once it can be used and has stopped moving."""
+        precedente = []
+
+        def immobile():
+            place = element.place
+            if not element.visible or not element.etat("SENSITIVE") or place[2] <= 0 or place[3] <= 0:
+                precedente.clear()
+                return None
+            if precedente and precedente[-1] == place:
+                return place
+            precedente.append(place)
+            return None
+        x, y, l, h = self.jusqu_a(immobile, f"{element.nom!r} can be clicked")
+        return x + l // 2, y + h // 2
+
+    def _cible(self, cible):
+        return self.attendre(cible) if isinstance(cible, str) else cible
+
+    def clic(self, cible, bouton=1, fois=1, partout=False):
+        """A click on a widget, given or named."""
+        element = self.attendre(cible, partout=partout) if isinstance(cible, str) else cible
+        self.clic_en(*self._pret(element), bouton, fois)
+
+    def double_clic(self, cible):
+        self.clic(cible, fois=2)
+
+    def clic_en(self, x, y, bouton=1, fois=1):
+        self._xdotool("mousemove", x, y, "click", "--repeat", fois, "--delay", 40, bouton)
+
+    def glisser(self, depart, arrivee):
+        """Drag from one place to another, in several moves as a hand does."""
+        self._xdotool("mousemove", *depart, "mousedown", 1)
+        for part in range(1, 11):
+            self._xdotool("mousemove", *(round(d + (a - d) * part / 10) for d, a in zip(depart, arrivee)))
+        self._xdotool("mouseup", 1)
+
+    def caractere(self, nom, rang):
+        """The place on the display of a character of a text box."""
+        def place():
+            contenu = self.attendre(nom).accessible.get_text_iface()
+            r = Atspi.Text.get_character_extents(contenu, rang, Atspi.CoordType.SCREEN)
+            return (r.x, r.y, r.width, r.height) if r.width > 0 and r.height > 0 else None
+        x, y, l, h = self.jusqu_a(place, f"character {rang} of {nom!r} is shown")
+        return x + l // 2, y + h // 2
+
+    def clic_caractere(self, nom, rang, fois=1):
+        self.clic_en(*self.caractere(nom, rang), fois=fois)
+
+    def taper(self, texte):
+        """Type into what has the focus."""
+        self._xdotool("type", "--delay", 15, "--", texte)
+
+    def touche(self, *noms):
+        """Press keys: "Return", "Escape", "ctrl+a", "alt+F4"..."""
+        self._xdotool("key", "--delay", 30, *noms)
+
+    def remplir(self, nom, texte):
+        """Click into a text box, replace what it holds, and see that it is there."""
+        self.clic(nom)
+        self.touche("ctrl+a")
+        self.taper(texte)
+        self.attendre_texte(nom, texte)
+
+    def choisir(self, liste, valeur):
+        """Open a drop-down list and click one of its values."""
+        self.clic(liste)
+        self.clic(self.attendre(valeur, role="list item", partout=True))
+        self.attendre_texte_liste(liste, valeur)
+
+    def attendre_texte_liste(self, liste, valeur, delai=DELAI):
+        self.jusqu_a(lambda: self.valeur(liste) == valeur, f"the list {liste!r} stands at {valeur!r}", delai)
+
+    def valeur(self, liste):
+        """The value that a drop-down list shows."""
+        element = self.attendre(liste)
+        for enfant in element.descendants():
+            if enfant.role == "list item" and enfant.etat("SELECTED"):
+                return enfant.nom
+        return element.texte
+
+    def attendre_menu(self, libelle, delai=DELAI):
+        """The menu of that caption, without its blanks and underlined letter, once its window is in front."""
+        def option():
+            for racine in reversed(self.fenetres()):
+                for element in [racine, *racine.descendants()]:
+                    if element.role in ("menu", "menu item", "check menu item", "radio menu item") \
+                            and element.visible and sans_esperluette(element.nom) == libelle:
+                        return element
+            return None
+        return self.jusqu_a(option, f"the menu {libelle!r} is shown", delai)
+
+    def menu(self, *libelles):
+        """Click through menus by their captions."""
+        for libelle in libelles:
+            self.clic(self.attendre_menu(libelle))
+
+    # --- Boxes and dialogs ---------------------------------------------------------------------------------
+
+    def attendre_boite(self, texte, delai=DELAI):
+        """The message box that holds this text, once it is in front."""
+        attendu = " ".join(texte.split())
+
+        def boite():
+            une = self.fenetre()
+            if une is None or une.role not in ("alert", "dialog") or not une.etat("ACTIVE"):
+                return None
+            for element in une.descendants():
+                if element.role == "label" and attendu in " ".join(element.nom.split()):
+                    return une
+            return None
+        return self.jusqu_a(boite, f"a box says {texte!r}", delai)
+
+    def boite(self, texte, reponse="OK"):
+        """Wait for the message box that holds this text, and answer it."""
+        boite = self.attendre_boite(texte)
+        for element in boite.descendants():
+            if element.role == "push button" and sans_esperluette(element.nom).lower() == reponse.lower():
+                self.clic(element)
+                self.jusqu_a(lambda: not boite.visible, f"the box {texte!r} has gone")
+                return
+        raise Absent(f"the box {texte!r} has no button {reponse!r}")
+
+    def fichier(self, titre, chemin):
+        """Wait for the file dialog of that title, type the path and confirm."""
+        dialogue = self.attendre_fenetre(titre)
+
+        def zone():
+            for element in dialogue.descendants():
+                if element.role == "text" and element.etat("FOCUSED"):
+                    return element
+            return None
+        saisie = self.jusqu_a(zone, f"the dialog {titre!r} waits for a name")
+        self.touche("ctrl+a")
+        self.taper(chemin)
+        self.jusqu_a(lambda: saisie.texte == chemin, f"the dialog {titre!r} shows {chemin!r}")
+        self.touche("Return")
+        self.jusqu_a(lambda: all(f.nom != titre for f in self.fenetres()), f"the dialog {titre!r} has gone")
+
+    # --- What the session says -----------------------------------------------------------------------------
+
+    def verifier(self, condition, quoi):
+        """One check of the session."""
+        if condition:
+            self.reussis += 1
+            print(f"ok: {self.nom}: {quoi}", flush=True)
+        else:
+            self.echoues += 1
+            print(f"FAILED: {self.nom}: {quoi}", flush=True)
+        return bool(condition)
+
+    def verifier_egal(self, obtenu, attendu, quoi):
+        return self.verifier(obtenu == attendu, quoi if obtenu == attendu
+                             else f"{quoi}: {obtenu!r} instead of {attendu!r}")
+
+    def capture(self, nom):
+        """A picture of the whole display, numbered in the order of the session."""
+        self.numero_capture += 1
+        fichier = os.path.join(self.captures, f"{self.numero_capture:02}-{nom}.png")
+        subprocess.run(["import", "-window", "root", fichier], check=True, timeout=60)
+        return fichier
+
+    def attendre_fin(self, delai=DELAI):
+        """The program ends; its exit code."""
+        try:
+            return self.programme.wait(delai)
+        except subprocess.TimeoutExpired:
+            raise Absent(f"after {delai:.0f} s, the program still runs") from None
+
+    def lire_champs(self, nom):
+        """The fields of one of the folder's field files, strictly."""
+        with open(os.path.join(self.racine, nom), "rb") as fichier:
+            return champs(fichier.read())
+
+    def arbre(self, element=None, retrait=0):
+        """The names and roles of all that is shown, for whoever looks into a failure."""
+        lignes = []
+        for enfant in (element.enfants if element else self.fenetres()):
+            if enfant.visible:
+                lignes.append(" " * retrait + f"{enfant.nom!r} {enfant.role} {enfant.place} {enfant.texte!r}")
+                lignes += self.arbre(enfant, retrait + 2)
+        return lignes
+
+
+def champs(donnees):
+    """Windows-1252, each value alone on its line between double quotes, lines ending in CR LF."""
+    texte = donnees.decode("cp1252")
+    if not re.fullmatch(r'("[^"\r\n]*"\r\n)*', texte):
+        raise ValueError("not a field file")
+    return [ligne[1:-1] for ligne in texte.split("\r\n")[:-1]]
+
+
+def preparer_atspi():
+    """Only once the session's bus is known: the library connects as soon as it is used."""
+    global Atspi, GLib
+    import gi
+    gi.require_version("Atspi", "2.0")
+    from gi.repository import Atspi as atspi, GLib as glib
+    Atspi, GLib = atspi, glib
+    Atspi.init()
+    Atspi.set_timeout(3000, 15000)
+    # Without an event loop nobody would refresh what the library keeps.
+    Atspi.get_desktop(0).set_cache_mask(Atspi.Cache.NONE)
+
+
+def lancer(nom, seance, **options):
+    """Play a session. The last line says what was counted; the exit code is 1 when anything failed."""
+    reussis = echoues = 0
+    try:
+        p = Pilote(nom, **options)
+    except Exception:
+        traceback.print_exc()
+        print("0 passed, 1 failed", flush=True)
+        return 1
+    try:
+        try:
+            seance(p)
+        except Exception as echec:
+            traceback.print_exc()
+            p.verifier(False, f"the session goes to its end ({echec})")
+            try:
+                p.capture("echec")
+                print("Shown at that moment:", *p.arbre(), sep="\n  ", flush=True)
+            except Exception as autre:
+                print(f"(no picture of it: {autre})", flush=True)
+        reussis, echoues = p.reussis, p.echoues
+    finally:
+        p.fermer()
+    with open(p.journal, encoding="utf-8", errors="replace") as journal:
+        messages = journal.read()
+    if messages:
+        print("The program wrote:", messages, sep="\n", flush=True)
+    print(f"Screenshots and files: {os.path.relpath(p.captures, SOURCES)}")
+    print(f"{reussis} passed, {echoues} failed", flush=True)
+    return 1 if echoues or not reussis else 0
