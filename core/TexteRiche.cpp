@@ -1,6 +1,8 @@
 #include "core/TexteRiche.h"
 
+#include <algorithm>
 #include <bit>
+#include <cassert>
 #include <string_view>
 
 namespace {
@@ -117,6 +119,14 @@ void TexteRiche::Remplacer(std::size_t début, std::size_t longueur, VueTexte no
     AccorderLaPaire(suite);
     formats_.Ramasser();
     paragraphes_.Ramasser();
+}
+
+void TexteRiche::Transcrire(Texte nouveaux)
+{
+    assert(std::equal(texte_.begin(), texte_.end(), nouveaux.begin(), nouveaux.end(), [](char16_t avant, char16_t après) {
+        return avant == après || !(avant == u'\r' || avant == u'\n' || après == u'\r' || après == u'\n');
+    }));
+    texte_ = std::move(nouveaux);
 }
 
 void TexteRiche::Formater(std::size_t début, std::size_t longueur, const std::function<void(Format&)>& retouche)
