@@ -4,8 +4,12 @@
 
 Superposition::~Superposition()
 {
-    for (auto* pièce : pièces_)
+    // Out of the list first: a layout that goes takes itself out of the one it is in.
+    while (!pièces_.empty()) {
+        auto* pièce = pièces_.back();
+        pièces_.pop_back();
         delete pièce;
+    }
 }
 
 void Superposition::Ajouter(QWidget* un)

@@ -141,7 +141,8 @@ public:
         if (étiquette_.cursor().shape() != pointeur)
             étiquette_.setCursor(pointeur);
         Vue::Synchroniser();
-        if (label_.ToolTipText().empty())
+        // Assistive tools read what it says, rather than its tip: a label has nothing else to be read by.
+        if (étiquette_.accessibleDescription() != étiquette_.text())
             étiquette_.setAccessibleDescription(étiquette_.text());
     }
 
@@ -540,6 +541,14 @@ bool EstFrappe(const Touche& touche)
     return touche.Caractère != 0; // arrows move in the list whatever becomes of typed keys
 }
 
+// The toolkit gives the value of a drop-down list as its accessible name: its own name goes into its description.
+void Nommer(QComboBox& liste)
+{
+    const auto description = (liste.objectName() + u' ' + liste.toolTip()).trimmed();
+    if (liste.accessibleDescription() != description)
+        liste.setAccessibleDescription(description);
+}
+
 class VueCombo final : public Vue {
 public:
     VueCombo(Fenêtre& fenêtre, ComboBox& combo, QWidget* parent)
@@ -599,6 +608,7 @@ public:
             liste_.update();
         }
         Vue::Synchroniser();
+        Nommer(liste_);
     }
 
 private:
@@ -680,6 +690,7 @@ public:
         liste_.addItems(textes);
         liste_.setCurrentIndex(static_cast<int>(textes.indexOf(EnQString(source_.Drive()))));
         Vue::Synchroniser();
+        Nommer(liste_);
     }
 
 private:
