@@ -1,9 +1,21 @@
 #include "TableEcrans.h"
 
+#include "authoring/frmEnseignant.h"
 #include "core/Application.h"
 #include "core/Ecran.h"
+#include "core/frmTirelune.h"
+#include "exercises/comprehension/frmClosures.h"
 #include "exercises/comprehension/frmQuestionnaire1.h"
+#include "exercises/comprehension/frmTexteMasqué.h"
+#include "exercises/memory/frmPhotographier.h"
+#include "exercises/memory/frmPoursuite.h"
+#include "exercises/memory/frmSérie.h"
+#include "exercises/spelling/frmPendu.h"
+#include "exercises/vocabulary/frmTrous.h"
+#include "followup/frmCodeCouleur.h"
 #include "followup/frmExercices.h"
+#include "followup/frmGestionEleves.h"
+#include "followup/frmProgression.h"
 
 namespace {
 
@@ -12,6 +24,13 @@ template <class E>
 std::unique_ptr<Ecran> Seul(Ecran& ouvreur)
 {
     return std::make_unique<E>(ouvreur.ApplicationDe());
+}
+
+// A screen that works on the lists of the first screen.
+template <class E>
+std::unique_ptr<Ecran> SurLAccueil(Ecran& ouvreur)
+{
+    return std::make_unique<E>(dynamic_cast<frmTirelune&>(ouvreur));
 }
 
 // A screen that works on what the chooser holds.
@@ -25,8 +44,18 @@ std::unique_ptr<Ecran> SurLeChoix(Ecran& ouvreur)
 
 void RemplirTable(Application& application)
 {
-    application.écrans = {
-        {"frmExercices", Seul<frmExercices>},
-        {"frmQuestionnaire1", SurLeChoix<frmQuestionnaire1>},
-    };
+    auto& table = application.écrans;
+    table["frmClosures"] = SurLeChoix<frmClosures>;
+    table["frmCodeCouleur"] = SurLeChoix<frmCodeCouleur>;
+    table["frmEnseignant"] = SurLAccueil<frmEnseignant>;
+    table["frmExercices"] = Seul<frmExercices>;
+    table["frmGestionEleves"] = Seul<frmGestionEleves>;
+    table["frmPendu"] = SurLeChoix<frmPendu>;
+    table["frmPhotographier"] = SurLeChoix<frmPhotographier>;
+    table["frmPoursuite"] = SurLeChoix<frmPoursuite>;
+    table["frmProgression"] = SurLeChoix<frmProgression>;
+    table["frmQuestionnaire1"] = SurLeChoix<frmQuestionnaire1>;
+    table["frmSérie"] = SurLeChoix<frmSérie>;
+    table["frmTexteMasqué"] = SurLeChoix<frmTexteMasqué>;
+    table["frmTrous"] = SurLeChoix<frmTrous>;
 }

@@ -1,4 +1,4 @@
-#!/usr/bin/env python3
+#!/usr/bin/python3
 """Measures the RTF reader: reading a text and listing its marked words.
 
     bench/rtf.py [--programme build/bench/bench/banc-lire-rtf] [--dossier build/bancs]

@@ -7,7 +7,8 @@
 
 #include <chrono>
 
-// An entry of the menu bar, with what opens below it. A separator has no option.
+// An entry of the menu bar, with what opens below it. A separator has no option, or, where it comes and goes, one
+// captioned "-". An option of a screen that stands in no menu is there for its shortcut.
 struct Menu {
     MenuOption* option = nullptr;
     std::vector<Menu> sous{};

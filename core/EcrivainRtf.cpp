@@ -7,6 +7,7 @@
 #include <charconv>
 #include <cmath>
 #include <string_view>
+#include <unordered_map>
 #include <vector>
 
 namespace {
@@ -47,8 +48,13 @@ private:
 
     const TexteRiche& texte_;
     VueTexte caractères_;
+    struct Rangs {
+        std::size_t police;
+        std::size_t teinte; // numbered from 1, 0 being the automatic one
+    };
+    std::unordered_map<const Format*, Rangs> rangs_; // each format stands once in the text's table
     std::vector<Texte> polices_;
-    std::vector<Couleur> teintes_; // numbered from 1, 0 being the automatic one
+    std::vector<Couleur> teintes_;
     const Format* format_ = nullptr;
     bool motOuvert_ = false; // a blank is due before text
     std::string sortie_;
@@ -77,9 +83,10 @@ std::string Ecrivain::Ecrire()
 void Ecrivain::ReleverLesTables()
 {
     const auto relever = [this](const Format& format) {
-        Rang(polices_, format.Police);
-        if (!format.Teinte.EstAutomatique())
-            Rang(teintes_, format.Teinte);
+        if (rangs_.contains(&format))
+            return;
+        const auto police = Rang(polices_, format.Police);
+        rangs_[&format] = {police, format.Teinte.EstAutomatique() ? 0 : Rang(teintes_, format.Teinte) + 1};
     };
     relever(texte_.FormatEn(0));
     texte_.PourChaqueTranche(0, caractères_.size(), [&](const Tranche& tranche) { relever(*tranche.Format_); });
@@ -92,8 +99,11 @@ void Ecrivain::EcrireLesTables()
         sortie_ += "{\\f";
         Nombre(static_cast<long>(i));
         sortie_ += "\\fnil\\fcharset0 ";
-        for (const char16_t c : polices_[i])
+        motOuvert_ = false;
+        for (const char16_t c : polices_[i]) {
+            Délimiter();
             c == u';' ? Unicode(c) : EcrireCaractère(c);
+        }
         sortie_ += ";}";
     }
     sortie_ += "}\r\n{\\colortbl ;";
@@ -140,14 +150,15 @@ void Ecrivain::EcrireFormat(const Format& format)
 {
     static const Format Neutre{.Police = {}, .Taille = 0};
     const auto& avant = format_ == nullptr ? Neutre : *format_;
+    const auto& rangs = rangs_.at(&format);
     if (format_ == nullptr)
         Mot("plain");
     if (format_ == nullptr || format.Police != avant.Police)
-        Mot("f", static_cast<long>(Rang(polices_, format.Police)));
+        Mot("f", static_cast<long>(rangs.police));
     if (format.Taille != avant.Taille)
-        Mot("fs", std::clamp(std::lround(format.Taille * 2), 1L, long{TailleMaximale}));
+        Mot("fs", std::lround(std::clamp(format.Taille * 2, 1.0, double{TailleMaximale})));
     if (format.Teinte != avant.Teinte)
-        Mot("cf", format.Teinte.EstAutomatique() ? 0 : static_cast<long>(Rang(teintes_, format.Teinte)) + 1);
+        Mot("cf", static_cast<long>(rangs.teinte));
     Interrupteur("b", format.Gras, avant.Gras);
     Interrupteur("i", format.Italique, avant.Italique);
     if (format.Souligné != avant.Souligné)

@@ -17,7 +17,7 @@ Elément::Elément(Ecran& écran, std::string_view nom, EtatInitial initial)
       BackColor(*this, initial.BackColor),
       ForeColor(*this, initial.ForeColor),
       FontSize(*this, initial.FontSize),
-      Police(std::move(initial.Police)),
+      Police(*this, std::move(initial.Police)),
       Gras(initial.Gras),
       écran_(écran)
 {

@@ -79,8 +79,9 @@ public:
     Propriété<Couleur> BackColor;
     Propriété<Couleur> ForeColor;
     Propriété<double> FontSize;
-    const Texte Police;
+    Propriété<Texte> Police; // empty: the program's own font
     const bool Gras;
+    Texte Tag; // a mark of the screen's own; nobody draws it
 
     std::function<void()> Observateur; // set by who draws the element
 
@@ -184,8 +185,9 @@ public:
 
     std::function<void()> Click;
     std::function<void()> DblClick;
-    std::function<void()> Change; // the user has changed the text
-    std::function<void()> Enter;  // the Enter key
+    std::function<void()> Change;    // the user has changed the text
+    std::function<void()> Enter;     // the Enter key
+    std::function<void()> MouseMove; // the mouse passes over the box
     std::function<void(Touche&)> KeyPress;
 
     [[nodiscard]] Texte SelText() const;

@@ -470,8 +470,6 @@ struct Paragraphe {
     std::int16_t droit = 0;
     std::int16_t première = 0;
     Alignement alignement = Alignement::Gauche;
-
-    friend bool operator==(const Paragraphe&, const Paragraphe&) = default;
 };
 
 // What a group restores at its end.

@@ -42,7 +42,7 @@ void RichTextBox::TextRTF(TexteRiche texte)
 void RichTextBox::Text(VueTexte texte)
 {
     Format format;
-    if (!Police.empty())
+    if (!Police->empty())
         format.Police = Police;
     if (FontSize > 0)
         format.Taille = FontSize;
@@ -111,6 +111,19 @@ void RichTextBox::Remplacer(std::size_t début, std::size_t longueur, VueTexte n
     Signaler({début, longueur, nouveau.size()});
 }
 
+void RichTextBox::Transcrire(Texte nouveaux)
+{
+    const auto& anciens = texte_.Caractères();
+    const auto premier = std::mismatch(anciens.begin(), anciens.end(), nouveaux.begin(), nouveaux.end()).first;
+    if (premier == anciens.end())
+        return;
+    const auto dernier = std::mismatch(anciens.rbegin(), anciens.rend(), nouveaux.rbegin(), nouveaux.rend()).first;
+    const auto début = static_cast<std::size_t>(premier - anciens.begin());
+    const auto nombre = static_cast<std::size_t>(dernier.base() - premier);
+    texte_.Transcrire(std::move(nouveaux));
+    Signaler({début, nombre, nombre});
+}
+
 void RichTextBox::ToutFormater(const std::function<void(Format&)>& retouche)
 {
     texte_.Formater(0, Longueur(), retouche);
@@ -126,6 +139,7 @@ void RichTextBox::FormaterSélection(const std::function<void(Format&)>& retouch
             formatEnAttente_ = std::move(nouveau);
             return false;
         });
+        Changer(); // who draws the box reads here what the next character takes
         return;
     }
     texte_.Formater(début_, longueur_, retouche);
@@ -177,6 +191,7 @@ void RichTextBox::DoubleCliquer(std::size_t position)
 {
     if (!Enabled || !EstAtteignable())
         return;
+    Sélectionner(position, 0); // the second press has moved the caret
     Appeler(DblClick);
     Sélectionner(position, 1);
 }

@@ -98,6 +98,8 @@ public:
     // Replaces [début, début + longueur) whatever the selection is; the selection goes to the start, empty, of
     // what follows. Formats as told by TexteRiche::Remplacer.
     void Remplacer(std::size_t début, std::size_t longueur, VueTexte nouveau);
+    // Other characters one for one, wherever they are, as a single edit: formats and selection stay.
+    void Transcrire(Texte nouveaux);
     void FormaterSélection(const std::function<void(Format&)>& retouche);
     void FormaterParagraphes(const std::function<void(FormatParagraphe&)>& retouche);
 

@@ -1,6 +1,8 @@
 #include "core/TexteRiche.h"
 
+#include <algorithm>
 #include <bit>
+#include <cassert>
 #include <string_view>
 
 namespace {
@@ -14,11 +16,6 @@ std::size_t Mêler(std::size_t graine, std::size_t valeur)
 std::size_t Replier(std::size_t graine)
 {
     return graine ^ graine >> 32U;
-}
-
-bool FinitParUneLigne(VueTexte texte)
-{
-    return texte.ends_with(u'\n');
 }
 
 } // namespace
@@ -113,7 +110,8 @@ void TexteRiche::Remplacer(std::size_t début, std::size_t longueur, VueTexte no
 
     // What stood behind a deleted line end continues the first paragraph, unless it begins a line again.
     const auto suite = fin - longueur + nouveau.size();
-    if (lignes && !FinitParUneLigne(VueTexte(texte_).substr(0, suite)) && paragraphes_.En(suite) != paragraphe) {
+    const bool enTête = suite == 0 || texte_[suite - 1] == u'\n';
+    if (lignes && !enTête && paragraphes_.En(suite) != paragraphe) {
         const auto finDeLaSuite = FinDuParagraphe(suite);
         paragraphes_.Remplacer(suite, finDeLaSuite - suite, finDeLaSuite - suite, paragraphe);
     }
@@ -121,6 +119,14 @@ void TexteRiche::Remplacer(std::size_t début, std::size_t longueur, VueTexte no
     AccorderLaPaire(suite);
     formats_.Ramasser();
     paragraphes_.Ramasser();
+}
+
+void TexteRiche::Transcrire(Texte nouveaux)
+{
+    assert(std::equal(texte_.begin(), texte_.end(), nouveaux.begin(), nouveaux.end(), [](char16_t avant, char16_t après) {
+        return avant == après || !(avant == u'\r' || avant == u'\n' || après == u'\r' || après == u'\n');
+    }));
+    texte_ = std::move(nouveaux);
 }
 
 void TexteRiche::Formater(std::size_t début, std::size_t longueur, const std::function<void(Format&)>& retouche)

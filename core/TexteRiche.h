@@ -84,6 +84,8 @@ public:
     // New paragraphs take the format of the one they stand in; a paragraph that loses its line end lends its
     // format to what is joined to it.
     void Remplacer(std::size_t début, std::size_t longueur, VueTexte nouveau, const Format* format = nullptr);
+    // Other characters one for one, under the formats that stand there; no line end comes or goes.
+    void Transcrire(Texte nouveaux);
     // Changes the format of every character of the range through `retouche`, once for each run; both halves of
     // a line end when one is reached. In an empty text, changes what the next character takes.
     void Formater(std::size_t début, std::size_t longueur, const std::function<void(Format&)>& retouche);

@@ -1,5 +1,6 @@
 #include "core/frmTirelune.h"
 
+#include "core/Dégradé.h"
 #include "core/FichierChamps.h"
 
 namespace {
@@ -90,26 +91,12 @@ void frmTirelune::ListerPolices(std::vector<Texte> polices)
 void frmTirelune::Activate()
 {
     état.CheminAppli = DepuisChemin(application_.plateforme.DossierProgramme());
-    PeindreFond();
+    Fond = Dégradé();
     const auto champs = LireChamps(EnChemin(Joindre(état.CheminAppli, u"Chemin.txt")));
     if (!champs || champs->empty())
         return;
     état.CheminRéseau = champs->front();
     état.CheminBilans = état.CheminRéseau.empty() ? état.CheminAppli : état.CheminRéseau;
-}
-
-void frmTirelune::PeindreFond()
-{
-    static constexpr int Bandes = 256;
-    Dessin dégradé{1, Bandes, {}};
-    for (unsigned i = 0; i < Bandes; ++i) {
-        const double y = i;
-        dégradé.formes.push_back({.genre = GenreForme::Polygone,
-                                  .points = {{0, y}, {1, y}, {1, y + 1}, {0, y + 1}},
-                                  .trait = CouleurAuto,
-                                  .fond = Couleur::Rvb(0, i, 255)});
-    }
-    Fond = std::move(dégradé);
 }
 
 void frmTirelune::mnuEnseignant_Click()

@@ -45,7 +45,6 @@ private:
     void mnuEnseignant_Click();
     void cmdCode_Click();
     void cmdAnnuler_Click();
-    void PeindreFond();
     void CacherCode();
     void ListerPolices(std::vector<Texte> polices);
     void DéfinirCode(const Texte& fichier);

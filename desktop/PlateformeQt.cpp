@@ -253,10 +253,8 @@ void PlateformeQt::AfficherModal(Ecran& écran)
             boucle.exec();
         fenêtres_.pop_back();
     }
-    if (dessous == nullptr || dessous->Fermée() || terminé_)
-        return;
-    dessous->activateWindow();
-    dessous->EcranDe().Activer();
+    if (dessous != nullptr && !dessous->Fermée() && !terminé_)
+        dessous->activateWindow();
 }
 
 void PlateformeQt::EcranFermé(Ecran& écran)

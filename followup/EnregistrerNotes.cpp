@@ -27,7 +27,8 @@ Couleur CouleurDeNote(float note)
 
 float NoteSurDix(const Label& gagnés, const Label& possibles)
 {
-    return static_cast<float>(Valeur(gagnés.Caption) / Valeur(possibles.Caption) * 10);
+    const double total = Valeur(possibles.Caption);
+    return total > 0 ? static_cast<float>(Valeur(gagnés.Caption) / total * 10) : 0; // nothing asked, nothing gained
 }
 
 Texte NoteCourte(VueTexte note)

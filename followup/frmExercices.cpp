@@ -2,6 +2,7 @@
 
 #include "core/FichierChamps.h"
 #include "core/Fonctions.h"
+#include "followup/DossierElèves.h"
 #include "followup/EnregistrerNotes.h"
 
 #include <algorithm>
@@ -125,13 +126,7 @@ Arrangement frmExercices::Disposer()
 
 void frmExercices::Load()
 {
-    while (!listeBil.Path(état.CheminBilans)) {
-        if (!RéessayerRéseau(application_)) {
-            état.CheminBilans = état.CheminAppli;
-            listeBil.Refresh(état.CheminBilans); // whatever it holds
-            break;
-        }
-    }
+    AtteindreDossierElèves(application_, listeBil);
     ListerElèves();
     frameElève.Visible = true;
 }
@@ -152,17 +147,9 @@ void frmExercices::Resize()
 
 void frmExercices::ListerElèves()
 {
-    cmbNoms.Clear();
-    if (listeBil.ListCount() == 0) {
+    ListerNoms(listeBil, cmbNoms);
+    if (listeBil.ListCount() == 0)
         Avertir(u"Il n'y a aucun fichier élève enregistré !");
-        return;
-    }
-    static constexpr std::size_t LongueurExtension = 4;
-    std::vector<Texte> noms;
-    for (int i = 0; i < listeBil.ListCount(); ++i)
-        noms.push_back(listeBil.List(i).substr(0, listeBil.List(i).size() - LongueurExtension));
-    cmbNoms.AddItems(std::move(noms));
-    cmbNoms.Montrer(0);
 }
 
 void frmExercices::cmdOk_Click()

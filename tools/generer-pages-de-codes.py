@@ -1,4 +1,4 @@
-#!/usr/bin/env python3
+#!/usr/bin/python3
 """Writes core/PagesDeCodes.cpp: the upper halves of the single-byte code pages, from Python's own codecs."""
 
 import codecs

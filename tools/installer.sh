@@ -7,7 +7,7 @@
 paquets() {
     case $1 in
         construction) echo g++ cmake ninja-build libgtest-dev ;;
-        bureau) echo qt6-base-dev qt6-translations-l10n fonts-dejavu-core ;;
+        bureau) echo qt6-base-dev qt6-translations-l10n fonts-dejavu-core fonts-comic-neue ;;
         essais) echo python3 clang-format clang-tidy ;;
         bout-en-bout)
             echo python3 python3-gi gir1.2-atspi-2.0 at-spi2-core dbus-daemon xvfb xdotool x11-xkb-utils openbox \
@@ -15,7 +15,8 @@ paquets() {
             ;;
         fuzz) echo clang libclang-rt-dev ;;
         traitements-de-texte) echo python3 libreoffice-writer-nogui abiword ;;
-        mesure) echo python3 python3-xlib xvfb x11-xkb-utils libbenchmark-dev ;;
+        bancs) echo libbenchmark-dev libxtst-dev ;;
+        mesure) echo python3 python3-xlib xvfb x11-xkb-utils unrtf catdoc ;;
         *)
             echo "installer : usage inconnu / unknown purpose: $1" >&2
             return 1

@@ -2,6 +2,7 @@
 
 #include "core/FichierChamps.h"
 #include "core/Fonctions.h"
+#include "exercises/Conclure.h"
 #include "followup/EnregistrerNotes.h"
 
 #include <algorithm>
@@ -284,11 +285,10 @@ void frmQuestionnaire1::CorrigerQuestion()
 
 void frmQuestionnaire1::cmdQuitter_Click()
 {
-    if (cmdVérifier.Caption == Fin) {
-        EnregistrerNote(choix_, NoteSurDix(lblPoints(0), lblPoints(1)));
-        SauverBilan(choix_);
-    }
-    Décharger();
+    if (cmdVérifier.Caption == Fin)
+        Conclure(*this, choix_, NoteSurDix(lblPoints(0), lblPoints(1)));
+    else
+        Décharger();
 }
 
 // ---- Questionnaire (2): the frame that can be dragged ------------------------------------------------------------

@@ -1,0 +1,11 @@
+#include "exercises/Conclure.h"
+
+#include "core/Ecran.h"
+#include "followup/EnregistrerNotes.h"
+
+void Conclure(Ecran& exercice, frmExercices& choix, float note)
+{
+    EnregistrerNote(choix, note);
+    SauverBilan(choix);
+    exercice.Décharger();
+}

@@ -1,0 +1,169 @@
+#include "exercises/Lacunes.h"
+
+#include <algorithm>
+#include <cassert>
+
+namespace {
+
+// The formats of the text, with those of the gaps changed; one pass over both.
+Plages<Format> FormatsAvecLacunes(const TexteRiche& texte, const std::vector<Lacune>& lacunes)
+{
+    Plages<Format> formats;
+    auto lacune = lacunes.begin();
+    texte.PourChaqueTranche(0, texte.Longueur(), [&](const Tranche& tranche) {
+        const auto ordinaire = formats.Interner(*tranche.Format_);
+        Format enLacune = *tranche.Format_;
+        enLacune.Teinte = Noir;
+        enLacune.Barré = false;
+        const auto noirci = formats.Interner(enLacune);
+        auto place = tranche.Début;
+        for (; lacune != lacunes.end() && lacune->Début < tranche.Fin; ++lacune) {
+            const auto début = std::max(place, lacune->Début);
+            const auto fin = lacune->Début + lacune->Longueur;
+            formats.Ajouter(début - place, ordinaire);
+            place = std::min(fin, tranche.Fin);
+            formats.Ajouter(place - début, noirci);
+            if (fin > tranche.Fin)
+                break; // goes on in the next run
+        }
+        formats.Ajouter(tranche.Fin - place, ordinaire);
+    });
+    return formats;
+}
+
+// One format for each paragraph of `nouveau`, that of the old text where it starts.
+Plages<FormatParagraphe> ParagraphesRestants(const TexteRiche& texte, VueTexte nouveau)
+{
+    Plages<FormatParagraphe> paragraphes;
+    std::size_t début = 0;
+    for (auto ligne = nouveau.find(u'\n'); ligne != VueTexte::npos; ligne = nouveau.find(u'\n', début)) {
+        paragraphes.Ajouter(ligne + 1 - début, paragraphes.Interner(texte.ParagrapheEn(début)));
+        début = ligne + 1;
+    }
+    paragraphes.Ajouter(nouveau.size() + 1 - début, paragraphes.Interner(texte.ParagrapheEn(début)));
+    return paragraphes;
+}
+
+} // namespace
+
+TexteRiche OuvrirLacunes(const TexteRiche& texte, const std::vector<Lacune>& lacunes)
+{
+    auto caractères = texte.Caractères();
+    for (const auto& lacune : lacunes) {
+        assert(lacune.Début + lacune.Longueur <= caractères.size());
+        std::fill_n(caractères.begin() + static_cast<std::ptrdiff_t>(lacune.Début), lacune.Longueur, Trait);
+    }
+    auto paragraphes = ParagraphesRestants(texte, caractères);
+    return {std::move(caractères), FormatsAvecLacunes(texte, lacunes), std::move(paragraphes),
+            texte.FormatEn(texte.Longueur())};
+}
+
+std::vector<Texte> MotsEnlevés(VueTexte texte, const std::vector<Lacune>& lacunes)
+{
+    std::vector<Texte> mots;
+    mots.reserve(lacunes.size());
+    for (const auto& lacune : lacunes)
+        mots.emplace_back(texte.substr(lacune.Début, lacune.Longueur));
+    return mots;
+}
+
+void RemplirListe(ComboBox& liste, std::vector<Texte> mots)
+{
+    liste.AddItems(std::move(mots));
+    if (liste.ListCount() > 0)
+        liste.Montrer(0);
+}
+
+void SélectionnerTrait(RichTextBox& boîte)
+{
+    const VueTexte texte = boîte.Text();
+    auto place = boîte.SelStart();
+    if (place >= texte.size() || texte[place] != Trait) {
+        boîte.SelLength(0);
+        return;
+    }
+    while (place > 0 && texte[place] == Trait)
+        --place;
+    const auto début = place + 1;
+    const auto fin = std::min(texte.find_first_not_of(Trait, début), texte.size());
+    boîte.Sélectionner(début, fin - début);
+}
+
+void RefuserDoubleClic(RichTextBox& boîte)
+{
+    auto& écran = boîte.EcranDe();
+    écran.ApplicationDe().Avertir(u"Clique UNE SEULE FOIS sur les traits !");
+    if (écran.EstChargé())
+        écran.ApplicationDe().état.CorrectionEnCours = true;
+}
+
+void EffacerSélectionRefusée(RichTextBox& boîte)
+{
+    auto& refusée = boîte.EcranDe().ApplicationDe().état.CorrectionEnCours;
+    if (!refusée)
+        return;
+    refusée = false;
+    boîte.SelLength(0);
+}
+
+namespace {
+
+// The word takes the place of the gap and leaves the list.
+void PlacerMot(const JeuDeLacunes& jeu)
+{
+    jeu.texte.SelColor = VertFoncé;
+    jeu.texte.SelUnderline = true;
+    jeu.texte.SelText(jeu.mots.Text);
+    if (const int index = jeu.mots.Chercher(jeu.mots.Text); index >= 0)
+        jeu.mots.RemoveItem(index);
+    if (jeu.mots.ListCount() > 0)
+        jeu.mots.Montrer(0);
+    Incrémenter(jeu.lblPoints(0));
+}
+
+} // namespace
+
+void EssayerMot(const JeuDeLacunes& jeu)
+{
+    const auto choisi = jeu.texte.SelText();
+    if (choisi.find_first_not_of(Trait) != Texte::npos)
+        return;
+    if (!choisi.empty()) {
+        auto& clé = jeu.choix.rtfTexte;
+        clé.Sélectionner(jeu.texte.SelStart(), jeu.texte.SelLength());
+        jeu.texte.SelLength(clé.SelLength());
+        if (clé.SelText() == jeu.mots.Text()) {
+            PlacerMot(jeu);
+        } else {
+            jeu.texte.SelColor = Rouge;
+            jeu.texte.SelLength(0);
+        }
+        Incrémenter(jeu.lblPoints(1));
+    }
+    if (!Contient(jeu.texte.Text(), Trait))
+        jeu.frameFin.Visible = true;
+}
+
+Arrangement BarreDeLacunes(const JeuDeLacunes& jeu, Button& ok, Image& image)
+{
+    auto& points = jeu.lblPoints;
+    return Ligne{AuMoins(720, 480, image), AuMoins(3600, 0, jeu.mots), ok, Ressort{}, points(0), points(2), points(1)};
+}
+
+Dessin DessinCrayon()
+{
+    static constexpr Couleur Bois{0x99CCFF};
+    static constexpr Couleur Gomme{0xB0A0FF};
+    return {.largeur = 48,
+            .hauteur = 32,
+            .formes = {
+                {.genre = GenreForme::Tracé, .points = {{2, 30}, {10, 30}}, .épaisseur = 2},
+                {.genre = GenreForme::Tracé, .points = {{14, 30}, {22, 30}}, .épaisseur = 2},
+                {.genre = GenreForme::Tracé, .points = {{26, 30}, {34, 30}}, .épaisseur = 2},
+                {.genre = GenreForme::Tracé, .points = {{38, 30}, {46, 30}}, .épaisseur = 2},
+                {.genre = GenreForme::Polygone, .points = {{10, 26}, {13, 18}, {18, 23}}, .fond = Bois},
+                {.genre = GenreForme::Polygone, .points = {{10, 26}, {11, 23}, {13, 25}}, .fond = Noir},
+                {.genre = GenreForme::Polygone, .points = {{13, 18}, {30, 4}, {35, 9}, {18, 23}}, .fond = Jaune},
+                {.genre = GenreForme::Polygone, .points = {{30, 4}, {33, 2}, {38, 7}, {35, 9}}, .fond = Gomme},
+            }};
+}

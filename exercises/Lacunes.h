@@ -1,0 +1,51 @@
+// Gaps: words of the pupil's text that give way to underscores, and the play of putting them back from a list.
+// A gap is as long as what it hides, so that a position is the same in the text with gaps and in the key.
+#pragma once
+#include "core/Ecran.h"
+#include "followup/frmExercices.h"
+
+#include <vector>
+
+inline constexpr char16_t Trait = u'_';
+
+struct Lacune {
+    std::size_t Début;
+    std::size_t Longueur;
+
+    friend bool operator==(const Lacune&, const Lacune&) = default;
+};
+
+// The text with each gap in black underscores that are not struck through. The gaps come in text order and don't
+// overlap. A line end in a gap goes as well: the paragraphs that it parted become one, in the format of the first.
+TexteRiche OuvrirLacunes(const TexteRiche& texte, const std::vector<Lacune>& lacunes);
+
+// What the gaps hide, gap by gap.
+std::vector<Texte> MotsEnlevés(VueTexte texte, const std::vector<Lacune>& lacunes);
+
+// What the play goes on with; it belongs to the screen.
+struct JeuDeLacunes {
+    frmExercices& choix; // holds the key
+    RichTextBox& texte;
+    ComboBox& mots;
+    Tableau<Label>& lblPoints;
+    Frame& frameFin;
+};
+
+// Puts the words in the list and shows the first.
+void RemplirListe(ComboBox& liste, std::vector<Texte> mots);
+
+// Makes of the caret a selection of the whole gap under it; of nothing, when there is none. The way back to the
+// start of a gap never looks at the first character of the text: a gap that starts there is taken from its second.
+void SélectionnerTrait(RichTextBox& boîte);
+
+// A double click is refused with a message, and the selection that it makes is wiped when it comes.
+void RefuserDoubleClic(RichTextBox& boîte);
+void EffacerSélectionRefusée(RichTextBox& boîte);
+
+// Tries the word of the list in the selected gap, counts the try, and shows the end frame once no underscore is left.
+void EssayerMot(const JeuDeLacunes& jeu);
+
+// The bar below the text: picture, list, button, points.
+Arrangement BarreDeLacunes(const JeuDeLacunes& jeu, Button& ok, Image& image);
+// Its picture: a pencil on a dotted line.
+Dessin DessinCrayon();

@@ -1,0 +1,140 @@
+#include "exercises/comprehension/frmClosures.h"
+
+#include "exercises/TexteEtBarre.h"
+#include "followup/EnregistrerNotes.h"
+
+#include <cmath>
+
+namespace {
+
+constexpr std::size_t DépartsPossibles = 80; // characters at the head of the text
+constexpr double PartTrouée = 0.9;           // the last tenth of the text stays whole
+constexpr int RangDuMotEnlevé = 7;
+// Behind the signs: backspace, tab, line feed, carriage return. The apostrophe and the hyphen stay inside a word.
+constexpr VueTexte Séparateurs = u" ?,.;:!()\x08\t\n\r\"«»";
+
+} // namespace
+
+double FinDesLacunes(VueTexte texte)
+{
+    const auto dernier = texte.find_last_not_of(u' ');
+    const auto longueur = dernier == VueTexte::npos ? 0 : dernier + 1;
+    for (double p = PartTrouée * static_cast<double>(longueur); p >= 0; p -= 1) {
+        const auto place = static_cast<std::size_t>(std::nearbyint(p)); // half to even
+        if (place < texte.size() && texte[place] == u' ')
+            return p;
+    }
+    return 0;
+}
+
+ChoixDeLacunes ChoisirLacunes(VueTexte texte, std::size_t départ)
+{
+    const double fin = FinDesLacunes(texte);
+    ChoixDeLacunes choix;
+    int compte = 0;
+    bool précédentSéparateur = false;
+    for (auto i = départ; i <= texte.size(); ++i) {
+        const bool séparateur = i == texte.size() || Contient(Séparateurs, texte[i]);
+        if (séparateur && !précédentSéparateur) { // a word has ended
+            if (compte == RangDuMotEnlevé + 1) {
+                choix.annoncées = choix.lacunes.size();
+                compte = 1;
+                if (static_cast<double>(i) >= fin)
+                    break;
+            }
+            ++compte;
+        }
+        if (!séparateur && compte == RangDuMotEnlevé) {
+            if (choix.lacunes.size() == choix.annoncées)
+                choix.lacunes.push_back({i, 0});
+            ++choix.lacunes.back().Longueur;
+        }
+        précédentSéparateur = séparateur;
+    }
+    return choix;
+}
+
+frmClosures::frmClosures(frmExercices& choix) : Ecran(choix.ApplicationDe(), "frmClosures", u"Closures"), choix_(choix)
+{
+    rtfClosures.Locked = true;
+    Text1.Locked = true;
+    Image1.Picture = DessinCrayon();
+    rtfClosures.Click = [this] {
+        SélectionnerTrait(rtfClosures);
+    };
+    rtfClosures.KeyPress = [this](Touche& touche) {
+        rtfClosures_KeyPress(touche);
+    };
+    rtfClosures.DblClick = [this] {
+        RefuserDoubleClic(rtfClosures);
+    };
+    rtfClosures.SelChange = [this] {
+        EffacerSélectionRefusée(rtfClosures);
+    };
+    cmbClosures.KeyPress = [](Touche& touche) {
+        if (touche.Caractère != 0) // nothing can be typed; the arrows go through the list
+            touche.Avaler();
+    };
+    cmdOk.Click = [this] {
+        EssayerMot(jeu_);
+    };
+    cmdQuitter.Click = [this] {
+        cmdQuitter_Click();
+    };
+}
+
+Arrangement frmClosures::Disposer()
+{
+    return TexteEtBarre(rtfClosures, BarreDeLacunes(jeu_, cmdOk, Image1), frameFin, Text1, cmdQuitter);
+}
+
+void frmClosures::Load()
+{
+    AjouterNomElève();
+    état.CorrectionEnCours = false;
+    OuvrirTrous();
+}
+
+void frmClosures::OuvrirTrous()
+{
+    const auto& clé = choix_.rtfTexte.Text();
+    const auto trous = ChoisirLacunes(clé, Tirer(application_.plateforme, DépartsPossibles));
+    auto texte = OuvrirLacunes(choix_.rtfTexte.TextRTF(), trous.lacunes);
+    texte.Formater(0, texte.Longueur(), [](Format& format) {
+        format.Barré = false;
+        format.Souligné = false;
+    });
+    rtfClosures.TextRTF(std::move(texte));
+
+    auto mots = MotsEnlevés(clé, trous.lacunes);
+    mots.resize(trous.annoncées);
+    RemplirListe(cmbClosures, std::move(mots));
+}
+
+void frmClosures::Activate()
+{
+    if (cmbClosures.ListCount() > 0)
+        return;
+    Avertir(u"Le texte est trop court pour cet exercice !");
+    Décharger();
+}
+
+void frmClosures::Resize()
+{
+    AjusterBoîte(rtfClosures);
+}
+
+void frmClosures::rtfClosures_KeyPress(Touche& touche)
+{
+    if (touche.Code != Touche::Entrée)
+        return;
+    touche.Avaler();
+    SélectionnerTrait(rtfClosures);
+}
+
+void frmClosures::cmdQuitter_Click()
+{
+    EnregistrerNote(choix_, NoteSurDix(lblPoints(0), lblPoints(1)));
+    SauverBilan(choix_);
+    Décharger();
+}

@@ -1,0 +1,43 @@
+// Texte masqué: every letter of the text is hidden; the pupil picks a place and names its letter, which then shows
+// everywhere.
+#pragma once
+#include "core/Ecran.h"
+#include "followup/frmExercices.h"
+
+class frmTexteMasqué final : public Ecran {
+public:
+    explicit frmTexteMasqué(frmExercices& choix);
+
+    RichTextBox rtfMasqué{*this, "rtfMasqué"};
+    Label Label1{*this, "Label1",
+                 u"Choisis le caractère à remplacer dans le texte, puis clique sur la lettre ou utilise le clavier."};
+    Tableau<Label> lblLettre{
+        *this,
+        "lblLettre",
+        26,
+        {.ForeColor = Bleu, .FontSize = 14, .Gras = true, .Police = u"Comic Sans MS", .Centré = true, .Bordure = true}};
+    Tableau<Label> lblPoints{*this,
+                             "lblPoints",
+                             {EtatInitial{.Caption = u"0", .BackColor = Jaune, .ForeColor = Rouge, .FontSize = 14},
+                              EtatInitial{.Caption = u"0", .BackColor = Jaune, .ForeColor = Rouge, .FontSize = 14},
+                              EtatInitial{.Caption = u" / ", .BackColor = Jaune, .ForeColor = Bleu, .FontSize = 14}}};
+    Frame frameFin{*this, "frameFin", {.Caption = u"Texte complété", .Visible = false, .BackColor = BleuClair}};
+    TextBox Text1{*this, "Text1", {.Caption = u"C'est fini !", .FontSize = 24, .Centré = true}};
+    Button cmdQuitter{*this, "cmdQuitter", {.Caption = u"&Quitter", .FontSize = 16}};
+
+private:
+    void Load() override;
+    void Unload() override;
+    void Resize() override;
+    Arrangement Disposer() override;
+
+    void rtfMasqué_Click();
+    void rtfMasqué_KeyPress(Touche& touche);
+    void cmdQuitter_Click();
+
+    void MasquerTexte();
+    void ProposerLettre(int k);
+    void DévoilerLettre(int k, VueTexte classe);
+
+    frmExercices& choix_;
+};

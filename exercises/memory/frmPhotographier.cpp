@@ -1,0 +1,199 @@
+#include "exercises/memory/frmPhotographier.h"
+
+#include "exercises/Conclure.h"
+#include "exercises/TirageVocabulaire.h"
+#include "followup/EnregistrerNotes.h"
+
+#include <algorithm>
+#include <array>
+
+namespace {
+
+constexpr VueTexte RéponsesParPartie = u"20";
+
+// From the slowest to the fastest: each level's exposure is half the one before.
+constexpr std::array<VueTexte, 4> Niveaux{u"Lent", u"Assez rapide", u"Rapide", u"Très rapide"};
+
+std::size_t NiveauDe(VueTexte légende)
+{
+    return static_cast<std::size_t>(std::find(Niveaux.begin(), Niveaux.end(), légende) - Niveaux.begin());
+}
+
+// An arrow to the right, towards the frame.
+Dessin Flèche()
+{
+    return {48,
+            32,
+            {{.genre = GenreForme::Polygone,
+              .points = {{2, 11}, {28, 11}, {28, 3}, {46, 16}, {28, 29}, {28, 21}, {2, 21}},
+              .trait = Bleu,
+              .épaisseur = 1.5,
+              .fond = Jaune}}};
+}
+
+} // namespace
+
+frmPhotographier::frmPhotographier(frmExercices& choix)
+    : Ecran(choix.ApplicationDe(), "frmPhotographier", u"Photographier"), choix_(choix)
+{
+    Image1.Picture = Flèche();
+    cmdAfficher.Click = [this] {
+        cmdAfficher_Click();
+    };
+    Chrono.Tick = [this] {
+        Chrono_Tick();
+    };
+    lblRéponse.Click([this](int i) { lblRéponse_Click(i); });
+    cmdQuitter.Click = [this] {
+        cmdQuitter_Click();
+    };
+    cmdAbandonner.Click = [this] {
+        Décharger();
+    };
+}
+
+Arrangement frmPhotographier::Disposer()
+{
+    return Pile{
+        Colonne{
+            Ligne{lblVitesse, Ressort{}, lblPoints(0), lblPoints(2), lblPoints(1)},
+            Extensible(Ligne{
+                Extensible(Colonne{Ressort{}, Ligne{AuMoins(900, 600, Image1), Extensible(AuMoins(4200, 1500, lblMot))},
+                                   cmdAfficher, Ressort{}}),
+                AuMoins(3600, 0, Colonne{Label3, Colonne{lblRéponse}, Ressort{}}),
+            }),
+            Ligne{Ressort{}, cmdQuitter},
+        },
+        Couverture{frameQuitter, Colonne{AuMoins(6000, 1200, Label2), Centré{cmdAbandonner}}},
+    };
+}
+
+void frmPhotographier::Load()
+{
+    AjouterNomElève();
+    if (CompterMotsDifférents(choix_.cmbVocabulaire) < MotsDifférentsMinimum) {
+        frameQuitter.Width = Width;
+        frameQuitter.Height = Height;
+        frameQuitter.Visible = true;
+        cmdAbandonner.SetFocus();
+        return;
+    }
+    cmdAfficher.SetFocus();
+}
+
+// ---- The flash ---------------------------------------------------------------------------------------------------
+
+void frmPhotographier::cmdAfficher_Click()
+{
+    cmdAfficher.Enabled = false;
+    EffacerRéponses();
+    const int dernière = ProposerMots() - 1;
+    const auto montrée = Tirer(application_.plateforme, static_cast<std::size_t>(dernière));
+    lblMot.Caption = lblRéponse(static_cast<int>(montrée)).Caption;
+    lblMot.ForeColor = Bleu;
+    lblMot.Refresh(); // on the display before the time runs
+    Chrono.Enabled = true;
+    if (!AttendreArrêt(Chrono))
+        return;
+}
+
+void frmPhotographier::EffacerRéponses()
+{
+    for (auto& réponse : lblRéponse) {
+        réponse.Visible = false;
+        réponse.Caption = Texte{};
+        réponse.BackColor = Blanc;
+    }
+    Repeindre();
+}
+
+int frmPhotographier::ProposerMots()
+{
+    int i = 0;
+    for (auto& mot : TirerMotsDifférents(choix_.cmbVocabulaire, lblRéponse.Nombre(), application_.plateforme)) {
+        lblRéponse(i).AutoSize = true;
+        lblRéponse(i).Caption = std::move(mot);
+        ++i;
+    }
+    return i;
+}
+
+void frmPhotographier::Chrono_Tick()
+{
+    Chrono.Enabled = false;
+    lblMot.ForeColor = Blanc;
+    lblMot.Refresh(); // the exposure ends now, whatever the proposals take to appear
+    for (auto& réponse : lblRéponse)
+        réponse.Visible = !réponse.Caption().empty();
+    lblRéponse(0).SetFocus();
+    Repeindre();
+}
+
+// ---- The answer --------------------------------------------------------------------------------------------------
+
+bool frmPhotographier::EstRépondu() const
+{
+    for (int i = 0; i < lblRéponse.Nombre(); ++i) {
+        if (lblRéponse(i).BackColor != Blanc)
+            return true;
+    }
+    return false;
+}
+
+void frmPhotographier::lblRéponse_Click(int i)
+{
+    if (EstRépondu())
+        return;
+    if (lblRéponse(i).Caption == lblMot.Caption) {
+        lblRéponse(i).BackColor = Vert;
+        Incrémenter(lblPoints(0));
+        AccélérerVitesse();
+    } else {
+        lblRéponse(i).BackColor = Rouge;
+        MontrerMotVu();
+        RalentirVitesse();
+    }
+    Incrémenter(lblPoints(1));
+    cmdAfficher.Enabled = true;
+    cmdAfficher.SetFocus();
+    if (lblPoints(1).Caption == RéponsesParPartie) {
+        cmdQuitter.Visible = true;
+        cmdQuitter.SetFocus();
+        cmdQuitter.Refresh();
+        cmdAfficher.Visible = false;
+        lblVitesse.Visible = false;
+    }
+}
+
+void frmPhotographier::MontrerMotVu()
+{
+    for (auto& réponse : lblRéponse) {
+        if (réponse.Caption == lblMot.Caption) {
+            réponse.BackColor = Jaune;
+            return;
+        }
+    }
+}
+
+void frmPhotographier::AccélérerVitesse()
+{
+    const auto niveau = NiveauDe(lblVitesse.Caption);
+    if (niveau + 1 == Niveaux.size())
+        return;
+    lblVitesse.Caption = Texte{Niveaux[niveau + 1]};
+    Chrono.Interval = Chrono.Interval / 2;
+}
+
+void frmPhotographier::RalentirVitesse()
+{
+    const auto niveau = NiveauDe(lblVitesse.Caption);
+    if (niveau == 0)
+        return;
+    lblVitesse.Caption = Texte{Niveaux[niveau - 1]};
+    Chrono.Interval = Chrono.Interval * 2;
+}
+
+void frmPhotographier::cmdQuitter_Click()
+{
+    Conclure(*this, choix_, NoteSurDix(lblPoints(0), lblPoints(1)));
+}

@@ -1,0 +1,61 @@
+// A word is flashed in a white frame; the pupil finds it among ten. Right answers halve the exposure, wrong ones double
+// it. Twenty flashes.
+#pragma once
+#include "core/Ecran.h"
+#include "followup/frmExercices.h"
+
+class frmPhotographier final : public Ecran {
+public:
+    explicit frmPhotographier(frmExercices& choix);
+
+    Image Image1{*this, "Image1", {.ToolTipText = u" Regarde bien l'endroit indiqué par la flèche. "}};
+    Label lblMot{
+        *this, "lblMot", {.BackColor = Blanc, .ForeColor = Blanc, .FontSize = 28, .Centré = true, .Bordure = true}};
+    Label Label3{*this, "Label3", {.Caption = u"Clique sur le mot que tu as vu.", .FontSize = 14, .Gras = true}};
+    Tableau<Label> lblRéponse{
+        *this, "lblRéponse", 10, {.Visible = false, .BackColor = Blanc, .ForeColor = Noir, .FontSize = 18}};
+    Label lblVitesse{*this,
+                     "lblVitesse",
+                     {.Caption = u"Assez rapide",
+                      .BackColor = Bleu,
+                      .ForeColor = Cyan,
+                      .FontSize = 14,
+                      .Gras = true,
+                      .Centré = true}};
+    Timer Chrono{*this, "Chrono", 100}; // exposure, ms
+    Button cmdAfficher{*this, "cmdAfficher", {.Caption = u"&Afficher le mot  dans le cadre blanc", .FontSize = 16}};
+    Tableau<Label> lblPoints{
+        *this,
+        "lblPoints",
+        {EtatInitial{.Caption = u"0", .BackColor = Jaune, .ForeColor = Rouge, .FontSize = 16, .Gras = true},
+         EtatInitial{.Caption = u"0", .BackColor = Jaune, .ForeColor = Rouge, .FontSize = 16, .Gras = true},
+         EtatInitial{.Caption = u" / ", .BackColor = Jaune, .ForeColor = Bleu, .FontSize = 16, .Gras = true}}};
+    Button cmdQuitter{*this, "cmdQuitter", {.Caption = u"&Quitter", .Visible = false, .FontSize = 16}};
+
+    Frame frameQuitter{*this, "frameQuitter", {.Caption = u"Pas assez de vocabulaire sélectionné", .Visible = false}};
+    Label Label2{*this,
+                 "Label2",
+                 {.Caption =
+                      u"Il doit y avoir au moins 5 mots de vocabulaire sélectionnés (en les barrant) pour lancer "
+                      u"l'exercice.",
+                  .FontSize = 16}};
+    Button cmdAbandonner{*this, "cmdAbandonner", {.Caption = u"&Abandonner", .FontSize = 16}};
+
+private:
+    void Load() override;
+    Arrangement Disposer() override;
+
+    void cmdAfficher_Click();
+    void Chrono_Tick();
+    void lblRéponse_Click(int i);
+    void cmdQuitter_Click();
+
+    void EffacerRéponses();
+    [[nodiscard]] int ProposerMots();
+    [[nodiscard]] bool EstRépondu() const;
+    void AccélérerVitesse();
+    void RalentirVitesse();
+    void MontrerMotVu();
+
+    frmExercices& choix_;
+};

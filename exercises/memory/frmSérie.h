@@ -1,0 +1,85 @@
+// A series of at most ten words in a secret order, shown once more with one more word each time; the pupil clicks the
+// words in their order. Three series at most, the best one counts.
+#pragma once
+#include "core/Ecran.h"
+#include "followup/frmExercices.h"
+
+class frmSérie final : public Ecran {
+public:
+    explicit frmSérie(frmExercices& choix);
+
+    Tableau<Label> lblMot{
+        *this,
+        "lblMot",
+        10,
+        {.Visible = false, .BackColor = Blanc, .ForeColor = Noir, .FontSize = TailleMots, .Bordure = true}};
+    Tableau<Label> lblRéponse{
+        *this, "lblRéponse", 10, {.Visible = false, .BackColor = Blanc, .ForeColor = Noir, .FontSize = TailleMots}};
+    Label lblConsigne{*this,
+                      "lblConsigne",
+                      {.Caption = u" Clique sur les mots dans l'ordre dans lequel ils sont apparus. ",
+                       .Visible = false,
+                       .FontSize = 14}};
+    Frame frameChoix{*this, "frameChoix", u"Clique sur ces mots"};
+    Tableau<Label> lblChoix{
+        *this, "lblChoix", 10, {.Visible = false, .BackColor = Blanc, .ForeColor = Bleu, .FontSize = TailleMots}};
+    Label lblCompteur{*this, "lblCompteur", {.Caption = u"0", .Visible = false}};
+    Tableau<Label> lblPoints{*this,
+                             "lblPoints",
+                             {EtatInitial{.Caption = u"0",
+                                          .ToolTipText = u" Seul le score de la meilleure série est retenu. ",
+                                          .BackColor = Jaune,
+                                          .ForeColor = Rouge,
+                                          .FontSize = 16,
+                                          .Gras = true},
+                              EtatInitial{.Caption = u"0",
+                                          .ToolTipText = u" Seul le score de la meilleure série est retenu. ",
+                                          .BackColor = Jaune,
+                                          .ForeColor = Rouge,
+                                          .FontSize = 16,
+                                          .Gras = true},
+                              EtatInitial{.Caption = u" / ",
+                                          .ToolTipText = u" Seul le score de la meilleur série est retenu. ",
+                                          .BackColor = Jaune,
+                                          .ForeColor = Bleu,
+                                          .FontSize = 16,
+                                          .Gras = true}}};
+    Button cmdVoir{*this, "cmdVoir", {.Caption = u"&Voir", .FontSize = 16}};
+    Button cmdContinuer{*this, "cmdContinuer", {.Caption = u"Série suivante", .Visible = false, .FontSize = 16}};
+
+    Frame frameQuitter{*this, "frameQuitter", {.Caption = u"Pas assez de vocabulaire sélectionné", .Visible = false}};
+    Label Label2{*this,
+                 "Label2",
+                 {.Caption =
+                      u"Il doit y avoir au moins 5 mots de vocabulaire sélectionnés (en les barrant) pour lancer "
+                      u"l'exercice.",
+                  .FontSize = 16}};
+    Button cmdAbandonner{*this, "cmdAbandonner", {.Caption = u"&Abandonner", .FontSize = 16}};
+
+private:
+    static constexpr double TailleMots = 18; // points
+
+    void Load() override;
+    void Resize() override;
+    Arrangement Disposer() override;
+
+    void cmdVoir_Click();
+    void lblChoix_Click(int c);
+    void cmdContinuer_Click();
+
+    void NouvelleSérie();
+    void ChoisirMots();
+    void CacherOrdre();
+    void ElargirCases(const Texte& mot);
+    void AllongerSuite();
+    // False: the screen was closed while the words came up.
+    [[nodiscard]] bool MontrerSuite();
+    void ViderCases();
+    void DemanderSuite();
+    [[nodiscard]] bool EstDansLaSuite(int i) const;
+    [[nodiscard]] std::optional<int> CaseARemplir() const;
+    void ProposerDeQuitter();
+    void EffacerSérie();
+
+    frmExercices& choix_;
+};

@@ -1,0 +1,102 @@
+#include "exercises/vocabulary/frmTrous.h"
+
+#include "exercises/TexteEtBarre.h"
+#include "followup/EnregistrerNotes.h"
+
+std::vector<Lacune> LacunesMarquées(const TexteRiche& texte)
+{
+    std::vector<Lacune> lacunes;
+    texte.PourChaqueTranche(0, texte.Longueur(), [&](const Tranche& tranche) {
+        if (!tranche.Format_->Barré)
+            return;
+        if (lacunes.empty() || lacunes.back().Début + lacunes.back().Longueur != tranche.Début)
+            lacunes.push_back({tranche.Début, 0});
+        lacunes.back().Longueur += tranche.Fin - tranche.Début;
+    });
+    return lacunes;
+}
+
+frmTrous::frmTrous(frmExercices& choix) : Ecran(choix.ApplicationDe(), "frmTrous", u"Texte à trous"), choix_(choix)
+{
+    rtfTrous.Locked = true;
+    Text1.Locked = true;
+    Image1.Picture = DessinCrayon();
+    rtfTrous.Click = [this] {
+        SélectionnerTrait(rtfTrous);
+    };
+    rtfTrous.KeyPress = [this](Touche& touche) {
+        rtfTrous_KeyPress(touche);
+    };
+    rtfTrous.DblClick = [this] {
+        RefuserDoubleClic(rtfTrous);
+    };
+    rtfTrous.SelChange = [this] {
+        EffacerSélectionRefusée(rtfTrous);
+    };
+    cmbTrous.KeyPress = [](Touche& touche) {
+        touche.Avaler(); // the arrows as well: here the words are picked with the mouse alone
+    };
+    cmdOk.Click = [this] {
+        EssayerMot(jeu_);
+    };
+    cmdQuitter.Click = [this] {
+        cmdQuitter_Click();
+    };
+    cmdAbandonner.Click = [this] {
+        Décharger();
+    };
+}
+
+Arrangement frmTrous::Disposer()
+{
+    auto place = TexteEtBarre(rtfTrous, BarreDeLacunes(jeu_, cmdOk, Image1), frameFin, Text1, cmdQuitter);
+    place.enfants.emplace_back(Couverture{frameQuitter, Colonne{Ressort{}, Label2, Centré{cmdAbandonner}, Ressort{}}});
+    return place;
+}
+
+void frmTrous::Load()
+{
+    AjouterNomElève();
+    état.CorrectionEnCours = false;
+    const auto trous = LacunesMarquées(choix_.rtfTexte.TextRTF());
+    if (trous.empty()) {
+        CouvrirEcran();
+        frameQuitter.Visible = true;
+        return;
+    }
+    OuvrirTrous(trous);
+    rtfTrous.Visible = true;
+}
+
+void frmTrous::OuvrirTrous(const std::vector<Lacune>& trous)
+{
+    auto texte = OuvrirLacunes(choix_.rtfTexte.TextRTF(), trous);
+    texte.Formater(0, texte.Longueur(), [](Format& format) { format.Souligné = false; });
+    rtfTrous.TextRTF(std::move(texte));
+    RemplirListe(cmbTrous, MotsEnlevés(choix_.rtfTexte.Text(), trous));
+}
+
+void frmTrous::CouvrirEcran()
+{
+    frameQuitter.Width = Width;
+    frameQuitter.Height = Height;
+}
+
+void frmTrous::Resize()
+{
+    AjusterBoîte(rtfTrous);
+    CouvrirEcran();
+}
+
+void frmTrous::rtfTrous_KeyPress(Touche& touche)
+{
+    if (touche.Code == Touche::Entrée)
+        touche.Avaler(); // would be a click at the caret
+}
+
+void frmTrous::cmdQuitter_Click()
+{
+    EnregistrerNote(choix_, NoteSurDix(lblPoints(0), lblPoints(1)));
+    SauverBilan(choix_);
+    Décharger();
+}

@@ -1,0 +1,8 @@
+// Which names a pupil may bear: the name is the stem of a file.
+#pragma once
+#include "core/Texte.h"
+
+#include <optional>
+
+// Why a trimmed name can't be the name of a pupil's file, here or on a share of another system; nothing when it can.
+std::optional<Texte> RefusDuNom(VueTexte nom);

@@ -1,0 +1,546 @@
+#include "followup/frmGestionEleves.h"
+
+#include "core/FichierChamps.h"
+#include "tests/support/Banc.h"
+
+namespace {
+
+void Valider(frmGestionEleves& écran, const Texte& nom)
+{
+    écran.cmdAjouter.Cliquer();
+    ASSERT_TRUE(écran.txtNom.Saisir(nom));
+    écran.txtNom.Taper({u'\r', Touche::Entrée});
+}
+
+// Key by key, as on a keyboard.
+void Frapper(TextBox& boîte, VueTexte touches)
+{
+    for (const char16_t c : touches) {
+        if (boîte.Taper({c, c}))
+            boîte.Saisir(boîte.Text() + c);
+    }
+}
+
+std::size_t NombreDeFichiers(const Chemin& dossier)
+{
+    return static_cast<std::size_t>(std::distance(std::filesystem::directory_iterator{dossier}, {}));
+}
+
+constexpr VueTexte QuestionDestruction = u"Destruction irréversible. Souhaitez-vous continuer ?";
+constexpr VueTexte DossierInaccessible = u"Le répertoire des fichiers \"Elèves\" n'est pas accessible.\n\n"
+                                         u"Veuillez vérifier votre connexion avant de continuer !\n";
+
+} // namespace
+
+// ---- Showing -----------------------------------------------------------------------------------------------------
+
+TEST(GestionEleves, OuvertureMontreLesNomsEtLeDossier)
+{
+    Banc banc;
+    banc.Ecrire("Zoé.bil", "");
+    banc.Ecrire("Éric.bil", "");
+    banc.Ecrire("autre.txt", "");
+    banc.état.CodeValide = true;
+    banc.état.CheminRéseau = u"/réseau";
+    auto& écran = banc.Ouvrir<frmGestionEleves>();
+
+    EXPECT_EQ(écran.Caption, u"Gestion du fichier \"élèves\"");
+    EXPECT_EQ(écran.cmbNoms.Eléments(), (std::vector<Texte>{u"Éric", u"Zoé"}));
+    EXPECT_EQ(écran.cmbNoms.Text, u"Éric");
+    EXPECT_EQ(écran.lblRéseau.Caption, DepuisChemin(banc.dossier));
+    EXPECT_EQ(écran.lblRéseau.ToolTipText, u"/réseau");
+    EXPECT_EQ(écran.dirLecteurs.Path(), DepuisChemin(banc.dossier));
+    EXPECT_FALSE(banc.état.CodeValide);
+    EXPECT_FALSE(écran.txtNom.Visible || écran.txtCode.Visible || écran.txtVérif.Visible || écran.lblCode.Visible);
+    EXPECT_FALSE(écran.drvLecteurs.Visible || écran.dirLecteurs.Visible || écran.cmdValiderCheminRéseau.Visible);
+}
+
+TEST(GestionEleves, OuvertureSansElèveNAfficheAucuneBoîte)
+{
+    Banc banc;
+    auto& écran = banc.Ouvrir<frmGestionEleves>();
+    EXPECT_EQ(écran.cmbNoms.ListCount(), 0);
+    EXPECT_TRUE(banc.plateforme.boîtesMontrées.empty());
+}
+
+TEST(GestionEleves, SansCheminLeDossierDuProgrammeSert)
+{
+    Banc banc;
+    banc.Ecrire("Paul.bil", "");
+    banc.état.CheminBilans.clear();
+    auto& écran = banc.Ouvrir<frmGestionEleves>();
+    EXPECT_EQ(écran.cmbNoms.Text, u"Paul");
+    EXPECT_EQ(banc.état.CheminBilans, banc.état.CheminAppli);
+}
+
+TEST(GestionEleves, DossierInaccessibleDemandeEtAnnulerRevientAuProgramme)
+{
+    Banc banc;
+    banc.Ecrire("Paul.bil", "");
+    banc.état.CheminBilans = banc.état.CheminAppli + u"/parti";
+    banc.AnnoncerBoîte(Texte{DossierInaccessible}, Réponse::Ok);
+    banc.AnnoncerBoîte(Texte{DossierInaccessible}, Réponse::Annuler);
+    auto& écran = banc.Ouvrir<frmGestionEleves>();
+    EXPECT_EQ(banc.plateforme.boîtesMontrées.at(0).Titre, u"CONNEXION RESEAU DEFECTUEUSE");
+    EXPECT_EQ(banc.plateforme.boîtesMontrées.at(0).Choix, Boutons::OkAnnuler);
+    EXPECT_EQ(banc.état.CheminBilans, banc.état.CheminAppli);
+    EXPECT_EQ(écran.cmbNoms.Text, u"Paul");
+}
+
+TEST(GestionEleves, DossierRevenuEntreTempsEstListé)
+{
+    Banc banc;
+    banc.état.CheminBilans = banc.état.CheminAppli + u"/parti";
+    banc.plateforme.boîtes.push_back({Texte{DossierInaccessible}, Réponse::Ok, std::nullopt, [&] {
+                                          banc.Ecrire("parti/Paul.bil", "");
+                                      }});
+    auto& écran = banc.Ouvrir<frmGestionEleves>();
+    EXPECT_EQ(écran.cmbNoms.Text, u"Paul");
+    EXPECT_EQ(banc.état.CheminBilans, banc.état.CheminAppli + u"/parti");
+}
+
+TEST(GestionEleves, DeuxMilleElèvesSontListésEnUneFois)
+{
+    Banc banc;
+    for (int i = 0; i < 2000; ++i)
+        banc.Ecrire("Élève " + std::to_string(i) + ".bil", "");
+    auto écran = std::make_unique<frmGestionEleves>(banc.application);
+    int changements = 0;
+    écran->cmbNoms.Observateur = [&] {
+        ++changements;
+    };
+    auto& gestion = *écran;
+    banc.Montrer(std::move(écran));
+    EXPECT_EQ(gestion.cmbNoms.ListCount(), 2000);
+    EXPECT_LE(changements, 5);
+}
+
+// ---- Creating ----------------------------------------------------------------------------------------------------
+
+TEST(GestionEleves, AjouterOuvreLaSaisie)
+{
+    Banc banc;
+    auto& écran = banc.Ouvrir<frmGestionEleves>();
+    écran.txtNom.Text = u"reste";
+    écran.cmdAjouter.Cliquer();
+    EXPECT_EQ(écran.txtNom.Text, u"");
+    EXPECT_TRUE(écran.txtNom.Visible && écran.lblConsigne.Visible && écran.cmdAnnuler.Visible);
+    EXPECT_EQ(écran.Focus(), &écran.txtNom);
+}
+
+TEST(GestionEleves, EntréeCréeUnFichierVide)
+{
+    Banc banc;
+    auto& écran = banc.Ouvrir<frmGestionEleves>();
+    Valider(écran, u"Zoé");
+    EXPECT_EQ(banc.Lire("Zoé.bil"), "");
+    EXPECT_EQ(écran.cmbNoms.Eléments(), (std::vector<Texte>{u"Zoé"}));
+    EXPECT_EQ(écran.cmbNoms.Text, u"Zoé");
+    EXPECT_TRUE(écran.cmbNoms.Visible);
+}
+
+TEST(GestionEleves, NomRognéPourLeFichierMaisMontréCommeSaisi)
+{
+    Banc banc;
+    auto& écran = banc.Ouvrir<frmGestionEleves>();
+    Valider(écran, u"  Paul ");
+    EXPECT_TRUE(banc.Existe("Paul.bil"));
+    EXPECT_EQ(écran.cmbNoms.Text, u"  Paul ");
+}
+
+TEST(GestionEleves, NomVideOuBlancNeFaitRien)
+{
+    Banc banc;
+    auto& écran = banc.Ouvrir<frmGestionEleves>();
+    Valider(écran, u"");
+    Valider(écran, u"   ");
+    EXPECT_EQ(NombreDeFichiers(banc.dossier), 0U);
+    EXPECT_TRUE(banc.plateforme.boîtesMontrées.empty());
+}
+
+TEST(GestionEleves, AjouterDésactivéNeCréeRien)
+{
+    Banc banc;
+    auto& écran = banc.Ouvrir<frmGestionEleves>();
+    écran.cmdAjouter.Cliquer();
+    écran.cmdAjouter.Enabled = false;
+    écran.txtNom.Saisir(u"Paul");
+    écran.txtNom.Taper({u'\r', Touche::Entrée});
+    EXPECT_FALSE(banc.Existe("Paul.bil"));
+}
+
+TEST(GestionEleves, NomDéjàPrisEstRefuséMêmeSousUneAutreCasse)
+{
+    Banc banc;
+    banc.Ecrire("Élodie.bil", "gardé");
+    auto& écran = banc.Ouvrir<frmGestionEleves>();
+    banc.AnnoncerBoîte(u"Le fichier \néLODIE.bil. existe déjà !\n");
+    Valider(écran, u" éLODIE ");
+    EXPECT_EQ(banc.plateforme.boîtesMontrées.back().Titre, u"Avertissement");
+    banc.AnnoncerBoîte(u"Le fichier \nÉlodie.bil. existe déjà !\n");
+    Valider(écran, u"Élodie");
+    EXPECT_EQ(banc.Lire("Élodie.bil"), "gardé");
+    EXPECT_EQ(NombreDeFichiers(banc.dossier), 1U);
+}
+
+TEST(GestionEleves, NomCrééEntreTempsParUneAutreMachineNEstPasEcrasé)
+{
+    Banc banc;
+    auto& écran = banc.Ouvrir<frmGestionEleves>();
+    banc.Ecrire("paul.bil", "ailleurs");
+    banc.AnnoncerBoîte(u"Le fichier \nPaul.bil. existe déjà !\n");
+    Valider(écran, u"Paul");
+    EXPECT_EQ(banc.Lire("paul.bil"), "ailleurs");
+    EXPECT_FALSE(banc.Existe("Paul.bil"));
+}
+
+TEST(GestionEleves, DossierDuMêmeNomNEstPasEcrasé)
+{
+    Banc banc;
+    auto& écran = banc.Ouvrir<frmGestionEleves>();
+    std::filesystem::create_directory(banc.dossier / "Paul.bil");
+    banc.AnnoncerBoîte(u"Le fichier \nPaul.bil. existe déjà !\n");
+    Valider(écran, u"Paul");
+    EXPECT_TRUE(std::filesystem::is_directory(banc.dossier / "Paul.bil"));
+}
+
+TEST(GestionEleves, NomImpossibleEstRefuséSansRienFaire)
+{
+    Banc banc;
+    std::filesystem::create_directory(banc.dossier / "élèves");
+    banc.état.CheminBilans = banc.état.CheminAppli + u"/élèves";
+    auto& écran = banc.Ouvrir<frmGestionEleves>();
+    for (const auto* nom :
+         {u"../Paul", u"..", u"a/b", u"a\\b", u"Paul?", u"CON", u"lpt1.x", u"Paul.", u".Paul", u"Ω"}) {
+        banc.AnnoncerBoîte(u"Le nom\n" + Texte{nom} + u"\nest refusé : …");
+        Valider(écran, nom);
+    }
+    EXPECT_EQ(NombreDeFichiers(banc.dossier), 1U);
+    EXPECT_EQ(NombreDeFichiers(banc.dossier / "élèves"), 0U);
+    EXPECT_EQ(écran.cmbNoms.ListCount(), 0);
+}
+
+TEST(GestionEleves, CréationImpossibleEstDite)
+{
+    Banc banc;
+    auto& écran = banc.Ouvrir<frmGestionEleves>();
+    banc.plateforme.échecEcriture = [](const Chemin&) {
+        return EchecFichier::Ouverture;
+    };
+    const auto fichier = DepuisChemin(banc.dossier / "Paul.bil");
+    banc.AnnoncerBoîte(MessageEchec(EchecFichier::Ouverture, fichier));
+    Valider(écran, u"Paul");
+    EXPECT_EQ(écran.cmbNoms.ListCount(), 0);
+    EXPECT_EQ(écran.txtNom.Text, u"Paul");
+}
+
+TEST(GestionEleves, FichierAMoitiéFaitNeRestePas)
+{
+    Banc banc;
+    auto& écran = banc.Ouvrir<frmGestionEleves>();
+    banc.plateforme.échecEcriture = [&](const Chemin& fichier) {
+        banc.Ecrire(EnUtf8(DepuisChemin(fichier.filename())), "");
+        return EchecFichier::Ecriture;
+    };
+    banc.AnnoncerBoîte(u"Impossible d'enregistrer…");
+    Valider(écran, u"Paul");
+    EXPECT_FALSE(banc.Existe("Paul.bil"));
+}
+
+TEST(GestionEleves, AnnulerRevientALaListe)
+{
+    Banc banc;
+    banc.Ecrire("Paul.bil", "");
+    auto& écran = banc.Ouvrir<frmGestionEleves>();
+    écran.cmdAjouter.Cliquer();
+    écran.txtNom.Saisir(u"Zo");
+    écran.cmdAnnuler.Cliquer();
+    EXPECT_FALSE(écran.txtNom.Visible || écran.lblConsigne.Visible || écran.cmdAnnuler.Visible);
+    EXPECT_TRUE(écran.cmbNoms.Visible && écran.cmdSupprimer.Visible);
+    EXPECT_EQ(écran.txtNom.Text, u"Paul");
+}
+
+TEST(GestionEleves, ChoisirUnNomCacheLeCode)
+{
+    Banc banc;
+    banc.Ecrire("Paul.bil", "");
+    banc.Ecrire("Zoé.bil", "");
+    auto& écran = banc.Ouvrir<frmGestionEleves>();
+    écran.cmdSupprimer.Cliquer();
+    écran.cmbNoms.Choisir(1);
+    EXPECT_EQ(écran.txtNom.Text, u"Zoé");
+    EXPECT_FALSE(écran.txtCode.Visible || écran.txtVérif.Visible || écran.lblCode.Visible);
+}
+
+// ---- Deleting ----------------------------------------------------------------------------------------------------
+
+TEST(GestionEleves, PremièreSuppressionCréeLeCodeEtPoseLaQuestion)
+{
+    Banc banc;
+    banc.Ecrire("Paul.bil", "");
+    auto& écran = banc.Ouvrir<frmGestionEleves>();
+    écran.cmdSupprimer.Cliquer();
+    EXPECT_EQ(écran.lblCode.Caption, u"Tapez votre code d'accès (6 chiffres ou lettres).");
+    EXPECT_EQ(écran.Focus(), &écran.txtCode);
+    Frapper(écran.txtCode, u"120388");
+    EXPECT_TRUE(écran.txtVérif.Visible);
+    EXPECT_EQ(écran.lblCode.Caption, u"Confirmez votre code.");
+    EXPECT_EQ(écran.Focus(), &écran.txtVérif);
+    EXPECT_TRUE(banc.Existe("Paul.bil"));
+
+    banc.AnnoncerBoîte(Texte{QuestionDestruction}, Réponse::Oui);
+    Frapper(écran.txtVérif, u"120388");
+    EXPECT_EQ(banc.Lire("Code.txt"), "\"120388\"\r\n");
+    EXPECT_EQ(banc.plateforme.boîtesMontrées.back().Choix, Boutons::OuiNon);
+    EXPECT_EQ(banc.plateforme.boîtesMontrées.back().Titre, u"Avertissement");
+    EXPECT_FALSE(banc.Existe("Paul.bil"));
+    EXPECT_FALSE(écran.txtCode.Visible || écran.txtVérif.Visible || écran.lblCode.Visible);
+    EXPECT_TRUE(banc.état.CodeValide);
+}
+
+TEST(GestionEleves, LeCodeVautPourTouteLaVisite)
+{
+    Banc banc;
+    banc.EcrireChamps("Code.txt", {u"123456"});
+    banc.Ecrire("Paul.bil", "");
+    banc.Ecrire("Zoé.bil", "");
+    auto& écran = banc.Ouvrir<frmGestionEleves>();
+    écran.cmdSupprimer.Cliquer();
+    banc.AnnoncerBoîte(Texte{QuestionDestruction}, Réponse::Non);
+    Frapper(écran.txtCode, u"123456");
+    EXPECT_TRUE(banc.Existe("Paul.bil"));
+    banc.AnnoncerBoîte(Texte{QuestionDestruction}, Réponse::Oui);
+    écran.cmbNoms.Choisir(1);
+    écran.cmdSupprimer.Cliquer();
+    EXPECT_FALSE(banc.Existe("Zoé.bil"));
+    EXPECT_TRUE(banc.Existe("Paul.bil"));
+    écran.cmdQuitter.Cliquer();
+    EXPECT_FALSE(écran.EstChargé());
+    EXPECT_FALSE(banc.état.CodeValide);
+}
+
+TEST(GestionEleves, SupprimerLeDernierLaisseUneListeVide)
+{
+    Banc banc;
+    banc.EcrireChamps("Code.txt", {u"123456"});
+    banc.Ecrire("Paul.bil", "");
+    auto& écran = banc.Ouvrir<frmGestionEleves>();
+    écran.cmdSupprimer.Cliquer();
+    banc.AnnoncerBoîte(Texte{QuestionDestruction}, Réponse::Oui);
+    Frapper(écran.txtCode, u"123456");
+    EXPECT_EQ(écran.cmbNoms.ListCount(), 0);
+    EXPECT_EQ(écran.cmbNoms.Text, u"");
+    écran.cmdSupprimer.Cliquer(); // nothing to ask about any more
+    EXPECT_EQ(banc.plateforme.boîtesMontrées.size(), 1U);
+    banc.AnnoncerBoîte(u"Il n'y a aucun fichier élève enregistré !");
+    banc.Montrer(std::make_unique<frmExercices>(banc.application));
+}
+
+TEST(GestionEleves, NomSaisiAvecDesBlancsSeSupprimeAussitôt)
+{
+    Banc banc;
+    banc.EcrireChamps("Code.txt", {u"123456"});
+    auto& écran = banc.Ouvrir<frmGestionEleves>();
+    Valider(écran, u" Paul ");
+    écran.cmdSupprimer.Cliquer();
+    banc.AnnoncerBoîte(Texte{QuestionDestruction}, Réponse::Oui);
+    Frapper(écran.txtCode, u"123456");
+    EXPECT_FALSE(banc.Existe("Paul.bil"));
+}
+
+TEST(GestionEleves, SuppressionImpossibleEstDite)
+{
+    Banc banc;
+    banc.EcrireChamps("Code.txt", {u"123456"});
+    banc.Ecrire("Paul.bil", "");
+    auto& écran = banc.Ouvrir<frmGestionEleves>();
+    écran.cmdSupprimer.Cliquer();
+    // A folder that isn't empty takes the file's place: it can't be removed.
+    banc.plateforme.boîtes.push_back({Texte{QuestionDestruction}, Réponse::Oui, std::nullopt, [&] {
+                                          std::filesystem::remove(banc.dossier / "Paul.bil");
+                                          banc.Ecrire("Paul.bil/x", "");
+                                      }});
+    banc.AnnoncerBoîte(u"Impossible de supprimer le fichier\n" + DepuisChemin(banc.dossier / "Paul.bil") + u"…");
+    Frapper(écran.txtCode, u"123456");
+    EXPECT_TRUE(banc.Existe("Paul.bil/x"));
+}
+
+TEST(GestionEleves, CodeErronéVideLaBoîteSansLimiteDEssais)
+{
+    Banc banc;
+    banc.EcrireChamps("Code.txt", {u"123456"});
+    banc.Ecrire("Paul.bil", "");
+    auto& écran = banc.Ouvrir<frmGestionEleves>();
+    écran.cmdSupprimer.Cliquer();
+    for (int essai = 0; essai < 5; ++essai) {
+        Frapper(écran.txtCode, u"999999");
+        EXPECT_EQ(écran.lblCode.Caption, u"Code erroné !");
+        EXPECT_EQ(écran.txtCode.Text, u"");
+        EXPECT_TRUE(écran.txtCode.Visible);
+    }
+    EXPECT_FALSE(banc.état.CodeValide);
+    banc.AnnoncerBoîte(Texte{QuestionDestruction}, Réponse::Non);
+    Frapper(écran.txtCode, u"123456");
+}
+
+TEST(GestionEleves, LeDernierChampEstLeCode)
+{
+    Banc banc;
+    banc.EcrireChamps("Code.txt", {u"111111", u"222222"});
+    auto& écran = banc.Ouvrir<frmGestionEleves>();
+    écran.cmdSupprimer.Cliquer();
+    Frapper(écran.txtCode, u"111111");
+    EXPECT_FALSE(banc.état.CodeValide);
+    Frapper(écran.txtCode, u"222222");
+    EXPECT_TRUE(banc.état.CodeValide);
+}
+
+TEST(GestionEleves, ConfirmationDifférenteRecommenceSansMessage)
+{
+    Banc banc;
+    auto& écran = banc.Ouvrir<frmGestionEleves>();
+    écran.cmdSupprimer.Cliquer();
+    Frapper(écran.txtCode, u"123456");
+    Frapper(écran.txtVérif, u"123457");
+    EXPECT_EQ(écran.txtCode.Text, u"");
+    EXPECT_EQ(écran.txtVérif.Text, u"");
+    EXPECT_FALSE(écran.txtCode.Visible || écran.txtVérif.Visible || écran.lblCode.Visible);
+    EXPECT_FALSE(banc.état.CodeValide);
+    EXPECT_FALSE(banc.Existe("Code.txt") && !banc.Lire("Code.txt")->empty());
+}
+
+TEST(GestionEleves, SeulsLesChiffresEntrentDansLeCode)
+{
+    Banc banc;
+    auto& écran = banc.Ouvrir<frmGestionEleves>();
+    for (auto* boîte : {&écran.txtCode, &écran.txtVérif}) {
+        EXPECT_FALSE(boîte->Taper({u'\b', Touche::RetourArrière}));
+        EXPECT_FALSE(boîte->Taper({u'a', 'a'}));
+        EXPECT_FALSE(boîte->Taper({u' ', ' '}));
+        EXPECT_TRUE(boîte->Taper({u'0', '0'}));
+        EXPECT_TRUE(boîte->Taper({u'9', '9'}));
+    }
+    écran.cmdSupprimer.Cliquer();
+    écran.txtCode.Saisir(u"\"1a2b"); // pasted
+    EXPECT_EQ(écran.txtCode.Text, u"12");
+}
+
+TEST(GestionEleves, SaisieInterrompueRecommenceAVide)
+{
+    Banc banc;
+    banc.Ecrire("Paul.bil", "");
+    auto& écran = banc.Ouvrir<frmGestionEleves>();
+    écran.cmdSupprimer.Cliquer();
+    Frapper(écran.txtCode, u"123456");
+    Frapper(écran.txtVérif, u"12");
+    écran.cmbNoms.Choisir(0);
+    écran.cmdSupprimer.Cliquer();
+    EXPECT_EQ(écran.txtCode.Text, u"");
+    EXPECT_EQ(écran.txtVérif.Text, u"");
+    EXPECT_FALSE(écran.txtVérif.Visible);
+    EXPECT_TRUE(écran.txtCode.Visible);
+}
+
+TEST(GestionEleves, CodeQuiNeSEcritPasEstDitEtNOuvreRien)
+{
+    Banc banc;
+    banc.Ecrire("Paul.bil", "");
+    auto& écran = banc.Ouvrir<frmGestionEleves>();
+    écran.cmdSupprimer.Cliquer();
+    Frapper(écran.txtCode, u"123456");
+    banc.plateforme.échecEcriture = [](const Chemin&) {
+        return EchecFichier::Ecriture;
+    };
+    banc.AnnoncerBoîte(MessageEchec(EchecFichier::Ecriture, DepuisChemin(banc.dossier / "Code.txt")));
+    Frapper(écran.txtVérif, u"123456");
+    EXPECT_FALSE(banc.état.CodeValide);
+    EXPECT_TRUE(banc.Existe("Paul.bil"));
+}
+
+TEST(GestionEleves, CodeIllisibleNeSeRedéfinitPas)
+{
+    Banc banc;
+    auto& écran = banc.Ouvrir<frmGestionEleves>();
+    std::filesystem::create_directory(banc.dossier / "Code.txt"); // can't be read as a file
+    écran.cmdSupprimer.Cliquer();
+    banc.AnnoncerBoîte(u"Impossible de lire le fichier…");
+    Frapper(écran.txtCode, u"123456");
+    EXPECT_FALSE(écran.txtVérif.Visible);
+}
+
+// ---- The folder --------------------------------------------------------------------------------------------------
+
+TEST(GestionEleves, ChoisirUnDossierLEcritEtLeListe)
+{
+    Banc banc;
+    banc.Ecrire("Paul.bil", "");
+    banc.Ecrire("partagé/Zoé.bil", "");
+    banc.Ecrire("Chemin.txt", "\"ancien\"\r\n");
+    auto& écran = banc.Ouvrir<frmGestionEleves>();
+    écran.cmdCheminRéseau.Cliquer();
+    EXPECT_FALSE(écran.cmdCheminRéseau.Visible);
+    EXPECT_TRUE(écran.drvLecteurs.Visible && écran.dirLecteurs.Visible && écran.cmdValiderCheminRéseau.Visible);
+    ASSERT_EQ(écran.dirLecteurs.SousDossiers(), (std::vector<Texte>{u"partagé"}));
+    écran.dirLecteurs.Ouvrir(0);
+    écran.cmdValiderCheminRéseau.Cliquer();
+
+    const auto dossier = DepuisChemin(banc.dossier / "partagé");
+    EXPECT_EQ(LireChamps(banc.dossier / "Chemin.txt"), (std::vector<Texte>{dossier}));
+    EXPECT_EQ(banc.état.CheminRéseau, dossier);
+    EXPECT_EQ(banc.état.CheminBilans, dossier);
+    EXPECT_EQ(écran.lblRéseau.Caption, dossier);
+    EXPECT_EQ(écran.lblRéseau.ToolTipText, dossier);
+    EXPECT_EQ(écran.cmbNoms.Eléments(), (std::vector<Texte>{u"Zoé"}));
+    EXPECT_TRUE(écran.cmdCheminRéseau.Visible);
+    EXPECT_FALSE(écran.drvLecteurs.Visible || écran.dirLecteurs.Visible || écran.cmdValiderCheminRéseau.Visible);
+    EXPECT_TRUE(banc.Existe("Paul.bil")); // not moved
+}
+
+TEST(GestionEleves, LecteurChoisiMontreSesDossiers)
+{
+    Banc banc;
+    auto& écran = banc.Ouvrir<frmGestionEleves>();
+    écran.cmdCheminRéseau.Cliquer();
+    écran.drvLecteurs.Choisir(0);
+    EXPECT_EQ(écran.dirLecteurs.Path(), u"/");
+}
+
+TEST(GestionEleves, LecteurVideEstIgnoré)
+{
+    Banc banc;
+    auto& écran = banc.Ouvrir<frmGestionEleves>();
+    écran.cmdCheminRéseau.Cliquer();
+    écran.drvLecteurs.Drive = u"/n'existe pas";
+    écran.drvLecteurs.Change();
+    EXPECT_EQ(écran.dirLecteurs.Path(), DepuisChemin(banc.dossier));
+}
+
+TEST(GestionEleves, CheminQuiNeSEcritPasEstDitEtLAncienReste)
+{
+    Banc banc;
+    banc.Ecrire("partagé/Zoé.bil", "");
+    auto& écran = banc.Ouvrir<frmGestionEleves>();
+    écran.cmdCheminRéseau.Cliquer();
+    écran.dirLecteurs.Ouvrir(0);
+    banc.plateforme.échecEcriture = [](const Chemin&) {
+        return EchecFichier::Ouverture;
+    };
+    banc.AnnoncerBoîte(MessageEchec(EchecFichier::Ouverture, DepuisChemin(banc.dossier / "Chemin.txt")));
+    écran.cmdValiderCheminRéseau.Cliquer();
+    EXPECT_EQ(banc.état.CheminBilans, DepuisChemin(banc.dossier));
+    EXPECT_EQ(banc.état.CheminRéseau, u"");
+    EXPECT_TRUE(écran.cmdCheminRéseau.Visible);
+}
+
+TEST(GestionEleves, DossierQueLeFichierNePeutPasGarderEstRefusé)
+{
+    Banc banc;
+    std::filesystem::create_directory(banc.dossier / "Ω");
+    auto& écran = banc.Ouvrir<frmGestionEleves>();
+    écran.cmdCheminRéseau.Cliquer();
+    écran.dirLecteurs.Ouvrir(0);
+    banc.AnnoncerBoîte(u"Le dossier\n" + DepuisChemin(banc.dossier / "Ω") + u"\nne peut pas servir…");
+    écran.cmdValiderCheminRéseau.Cliquer();
+    EXPECT_FALSE(banc.Existe("Chemin.txt"));
+    EXPECT_EQ(banc.état.CheminRéseau, u"");
+}
