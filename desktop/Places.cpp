@@ -70,8 +70,8 @@ int Superposition::heightForWidth(int largeur) const
     const int intérieure = largeur - marges.left() - marges.right();
     int hauteur = tailleMinimale.height();
     for (auto* pièce : pièces_)
-        hauteur = std::max(hauteur, pièce->hasHeightForWidth() ? pièce->heightForWidth(intérieure)
-                                                               : pièce->sizeHint().height());
+        hauteur = std::max(hauteur,
+                           pièce->hasHeightForWidth() ? pièce->heightForWidth(intérieure) : pièce->sizeHint().height());
     return hauteur + marges.top() + marges.bottom();
 }
 
