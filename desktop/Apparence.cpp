@@ -4,9 +4,12 @@
 
 #include <QApplication>
 #include <QFontMetrics>
+#include <QIcon>
 #include <QPainter>
 #include <QPainterPath>
 #include <QPalette>
+#include <QPixmap>
+#include <QPolygon>
 #include <QProxyStyle>
 
 #include <algorithm>
@@ -27,6 +30,19 @@ public:
         if (question == SH_LineEdit_PasswordCharacter)
             return u'*';
         return QProxyStyle::styleHint(question, option, widget, réponse);
+    }
+    // Every menu bar asks for this one; the style's own is a file, and reading it loads all image formats.
+    QIcon standardIcon(StandardPixmap icône, const QStyleOption* option, const QWidget* widget) const override
+    {
+        if (icône != SP_ToolBarHorizontalExtensionButton)
+            return QProxyStyle::standardIcon(icône, option, widget);
+        QPixmap image{16, 16};
+        image.fill(Qt::transparent);
+        QPainter peintre{&image};
+        peintre.setPen(QPen{Teinte::Encre, 2});
+        for (const int x : {3, 8})
+            peintre.drawPolyline(QPolygon{{QPoint{x, 4}, QPoint{x + 4, 8}, QPoint{x, 12}}});
+        return QIcon{image};
     }
 };
 

@@ -215,7 +215,8 @@ QSize Bouton::sizeHint() const
 {
     const int taille = font().pixelSize();
     const auto texte = TailleTexte(font(), text(), DrapeauxBouton, taille * 18);
-    return {std::max(texte.width() + taille * 2, taille * 6), texte.height() + taille};
+    const int minimum = text().size() > 2 ? taille * 6 : taille * 3;
+    return {std::max(texte.width() + taille * 2, minimum), texte.height() + taille};
 }
 
 QSize Bouton::minimumSizeHint() const

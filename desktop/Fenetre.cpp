@@ -463,6 +463,8 @@ void Fenêtre::RemplirMenu(QWidget* où, const std::vector<Menu>& entrées)
         où->addAction(action);
         if (entrée.option == nullptr)
             continue;
+        if (où == barre_)
+            entréesBarre_.emplace_back(entrée.option, action);
         auto& vue = *vues_.emplace_back(std::make_unique<VueMenu>(*this, *entrée.option, *action, sous));
         parElément_[entrée.option] = &vue;
     }
@@ -505,6 +507,7 @@ void Fenêtre::Synchroniser()
     }
     if (couvertures)
         SynchroniserCouvertures();
+    AjusterBarre();
     if (!ouverte_)
         return;
     if (plan_->layout() != nullptr)
@@ -584,6 +587,27 @@ void Fenêtre::Repeindre()
     QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
     repaint();
     QCursor::pos(); // a question to the display: its answer comes after the picture
+}
+
+void Fenêtre::AjusterBarre()
+{
+    if (barre_ == nullptr)
+        return;
+    const auto police = PolicePour({}, 0, false, échelle_);
+    if (barre_->font() != police)
+        barre_->setFont(police);
+    const QFontMetrics mesure{police};
+    const int bord = 2 * (mesure.averageCharWidth() + 2);
+    int largeur = 0;
+    for (const auto& [option, action] : entréesBarre_)
+        largeur += mesure.size(Qt::TextShowMnemonic, EnAffichage(option->Caption())).width() + bord;
+    // The blanks around captions spread the menus out; where there is no room they go first.
+    for (const auto& [option, action] : entréesBarre_) {
+        const auto entière = EnAffichage(option->Caption());
+        const auto montrée = largeur <= width() ? entière : QStringLiteral("  %1  ").arg(entière.trimmed());
+        if (action->text() != montrée)
+            action->setText(montrée);
+    }
 }
 
 void Fenêtre::TailleChangée()

@@ -71,6 +71,7 @@ private:
     void Observer();
 
     void TailleChangée();
+    void AjusterBarre();
     void SynchroniserFenêtre();
     void SynchroniserCouvertures();
     void DonnerFocus();
@@ -81,6 +82,7 @@ private:
     Contenu* contenu_ = nullptr; // under the menus
     QWidget* plan_ = nullptr;    // all but the frames that cover the screen
     QMenuBar* barre_ = nullptr;
+    std::vector<std::pair<MenuOption*, QAction*>> entréesBarre_;
     std::vector<std::unique_ptr<Vue>> vues_; // in the order of their making
     std::unordered_map<const Elément*, Vue*> parElément_;
     std::unordered_map<const QWidget*, Vue*> parWidget_;

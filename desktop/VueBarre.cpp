@@ -16,6 +16,11 @@ namespace {
 
 constexpr int CôtéIcône = 24;
 
+bool EstCouleur(const std::string& nom)
+{
+    return nom.find("color") != std::string::npos;
+}
+
 // What the format icons show is a letter in that format.
 QIcon DessinerIcône(const std::string& nom, const QString& bulle)
 {
@@ -54,7 +59,7 @@ QIcon DessinerIcône(const std::string& nom, const QString& bulle)
             police.setStrikeOut(true);
             police.setPixelSize(11);
         });
-    else if (nom.find("color") != std::string::npos) {
+    else if (EstCouleur(nom)) {
         static constexpr QRgb Pots[] = {0xFFE53935, 0xFFFDD835, 0xFF43A047, 0xFF1E88E5};
         peintre.setPen(Qt::NoPen);
         for (int i = 0; i < 4; ++i) {
@@ -74,7 +79,7 @@ QIcon IcôneDe(const std::string& nom, const QString& bulle)
     if (QIcon::themeName().isEmpty() || QIcon::themeName() == QStringLiteral("hicolor"))
         QIcon::setThemeName(QStringLiteral("Adwaita"));
     // Letters and lines are drawn here, in the program's ink and after the French names.
-    const bool propre = nom.rfind("format-", 0) == 0 || nom.find("color") != std::string::npos;
+    const bool propre = nom.rfind("format-", 0) == 0 || EstCouleur(nom);
     if (!propre && QIcon::hasThemeIcon(EnQString(nom)))
         return QIcon::fromTheme(EnQString(nom));
     return DessinerIcône(nom, bulle);
@@ -104,6 +109,7 @@ public:
     VueBarre(Fenêtre& fenêtre, Toolbar& barre, QWidget* parent)
         : Vue(fenêtre, barre, new QWidget{parent}), barre_(barre)
     {
+        widget->setAutoFillBackground(true); // pictures are made for a light ground, whatever the screen's
         auto* rang = new QHBoxLayout{widget};
         rang->setContentsMargins(2, 2, 2, 2);
         rang->setSpacing(1);

@@ -26,6 +26,7 @@ public:
 
     using Ecran::Attendre;
     using Ecran::AttendreArrêt;
+    using Ecran::Ouvrir;
 
 protected:
     void Load() override { Dire(auChargement); }

@@ -46,7 +46,7 @@ TEST_F(Attentes, UnÉcranDessusRendLaMainÀSaFermeture)
             suite += 's';
             Devant().close(); // the close box
         });
-        dessus.Afficher();
+        écran.Ouvrir(dessus);
         suite += 'r';
     };
     Avec(écran, [&] {
