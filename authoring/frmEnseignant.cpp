@@ -573,8 +573,7 @@ void frmEnseignant::ChargerRécents()
         return;
     for (int i = 0; i < mnuRécent.Nombre(); ++i) {
         const bool présent = i < récents.ListCount();
-        mnuRécent(i).Caption =
-            présent ? u" " + EnTexte(static_cast<long long>(i + 1)) + u" - " + récents.List(i) : Texte{};
+        mnuRécent(i).Caption = présent ? u" " + EnTexte(i + 1LL) + u" - " + récents.List(i) : Texte{};
         mnuRécent(i).Visible = présent;
     }
     mnuSépa.Visible = récents.ListCount() > 0;

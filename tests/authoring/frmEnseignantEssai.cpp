@@ -101,6 +101,7 @@ TEST(Editeur, LesMenusOntLeursLégendes)
     auto& écran = banc.écran;
     const auto légendes = [](const std::vector<Menu>& menus) {
         std::vector<Texte> noms;
+        noms.reserve(menus.size());
         for (const auto& menu : menus)
             noms.push_back(menu.option != nullptr ? menu.option->Caption() : Texte{u"-"});
         return noms;
@@ -968,6 +969,19 @@ TEST(Editeur, LaFrappeMarqueLeChangementEtFermeLaListe)
     banc.Taper(u"L");
     EXPECT_TRUE(banc.état.TexteModifié);
     EXPECT_FALSE(banc.écran.framePolices.Visible);
+}
+
+TEST(Editeur, LaFrappeSurUneSélectionMixteMontreLeFormatDeLaLettre)
+{
+    BancEditeur banc;
+    auto& boîte = banc.écran.rtfTexte;
+    boîte.Text(u"Le chat");
+    boîte.Sélectionner(0, 2);
+    boîte.SelBold = true;
+    boîte.Sélectionner(0, 7);
+    ASSERT_EQ(banc.Etat("btnGras"), Toolbar::Etat::Mixte);
+    banc.Taper(u"L");
+    EXPECT_EQ(banc.Etat("btnGras"), Toolbar::Etat::Relâché);
 }
 
 TEST(Editeur, UnClicDansLeTexteFermeLaListe)
