@@ -164,6 +164,7 @@ TEST(Editeur, UneFenêtreTropPetiteRepasseAMille)
     EXPECT_EQ(banc.écran.Height, 4000);
 }
 
+namespace {
 class Départ : public testing::TestWithParam<int> {
 protected:
     static void Partir(frmEnseignant& écran)
@@ -173,6 +174,7 @@ protected:
                           : écran.FermerParCroix();
     }
 };
+} // namespace
 INSTANTIATE_TEST_SUITE_P(Editeur, Départ, testing::Values(0, 1, 2));
 
 TEST_P(Départ, SansChangementNeDemandeRienEtOublieLesNoms)
@@ -250,7 +252,9 @@ TEST(Editeur, LaBarreALesBoutonsDansLOrdre)
                                               "btnLexique"}));
 }
 
+namespace {
 class AvecCopie : public testing::TestWithParam<const char*> {};
+} // namespace
 INSTANTIATE_TEST_SUITE_P(Editeur, AvecCopie,
                          testing::Values("btnCouper", "btnColler", "btnGras", "btnSouligné", "btnItalique",
                                          "btnVocabulaire", "btnCouleurC", "btnGauche", "btnDroite", "btnCentrer"));
@@ -274,7 +278,9 @@ TEST_P(AvecCopie, LeBoutonGardeLeTexteDAvant)
     EXPECT_EQ(banc.écran.rtfSauve.Longueur(), 0U);
 }
 
+namespace {
 class SansCopie : public testing::TestWithParam<const char*> {};
+} // namespace
 INSTANTIATE_TEST_SUITE_P(Editeur, SansCopie,
                          testing::Values("btnOuvrir", "btnEnregistrer", "btnSélectionner", "btnCopier", "btnAnnuler",
                                          "btnChercher", "btnRemplacer", "btnImprimer", "btnQuestion", "btnLexique"));
