@@ -1,6 +1,7 @@
 #include "TableEcrans.h"
 
 #include "authoring/frmEnseignant.h"
+#include "authoring/frmRechercher.h"
 #include "core/Application.h"
 #include "core/Ecran.h"
 #include "core/frmTirelune.h"
@@ -10,6 +11,7 @@
 #include "exercises/memory/frmPhotographier.h"
 #include "exercises/memory/frmPoursuite.h"
 #include "exercises/memory/frmSérie.h"
+#include "exercises/order/frmMotsEnDésordre.h"
 #include "exercises/spelling/frmPendu.h"
 #include "exercises/vocabulary/frmTrous.h"
 #include "followup/frmCodeCouleur.h"
@@ -40,6 +42,14 @@ std::unique_ptr<Ecran> SurLeChoix(Ecran& ouvreur)
     return std::make_unique<E>(dynamic_cast<frmExercices&>(ouvreur));
 }
 
+// A screen that works on the text of the editor.
+template <class E>
+std::unique_ptr<Ecran> SurLEditeur(Ecran& ouvreur)
+{
+    auto& éditeur = dynamic_cast<frmEnseignant&>(ouvreur);
+    return std::make_unique<E>(éditeur.ApplicationDe(), éditeur.rtfTexte, éditeur.rtfSauve);
+}
+
 } // namespace
 
 void RemplirTable(Application& application)
@@ -50,11 +60,13 @@ void RemplirTable(Application& application)
     table["frmEnseignant"] = SurLAccueil<frmEnseignant>;
     table["frmExercices"] = Seul<frmExercices>;
     table["frmGestionEleves"] = Seul<frmGestionEleves>;
+    table["frmMotsEnDésordre"] = SurLeChoix<frmMotsEnDésordre>;
     table["frmPendu"] = SurLeChoix<frmPendu>;
     table["frmPhotographier"] = SurLeChoix<frmPhotographier>;
     table["frmPoursuite"] = SurLeChoix<frmPoursuite>;
     table["frmProgression"] = SurLeChoix<frmProgression>;
     table["frmQuestionnaire1"] = SurLeChoix<frmQuestionnaire1>;
+    table["frmRechercher"] = SurLEditeur<frmRechercher>;
     table["frmSérie"] = SurLeChoix<frmSérie>;
     table["frmTexteMasqué"] = SurLeChoix<frmTexteMasqué>;
     table["frmTrous"] = SurLeChoix<frmTrous>;

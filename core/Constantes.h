@@ -2,6 +2,7 @@
 #pragma once
 #include "core/Texte.h"
 
+#include <cstddef>
 #include <cstdint>
 
 struct Constantes {
@@ -23,7 +24,7 @@ struct Constantes {
     Texte CheminTextes;      // where the editor's file dialogs start
     bool TexteModifié = false;
     bool ModeRechercher = false;
-    std::int16_t PositionRecherche = 0;
+    std::size_t PositionRecherche = 0; // where the next search starts: texts are longer than 16 bits count
 
     Texte LettresEtSignes;
     Texte LettresEtChiffres;
