@@ -2,7 +2,7 @@
 #pragma once
 #include "core/Plateforme.h"
 
-class PlateformeMuette final : public Plateforme {
+class PlateformeMuette : public Plateforme {
 public:
     double Horloge() override { return 0; }
     void AmorcerHasard() override {}

@@ -45,7 +45,7 @@ template <class E>
 void Ouvrir(benchmark::State& état)
 {
     Classe classe;
-    for (auto _ : état) {
+    while (état.KeepRunning()) {
         E écran{classe.choix};
         écran.Charger();
         benchmark::DoNotOptimize(écran.EstChargé());
@@ -56,7 +56,7 @@ void DévoilerE(benchmark::State& état)
 {
     Classe classe;
     const auto place = classe.choix.rtfTexte.Text().find(u'e');
-    for (auto _ : état) {
+    while (état.KeepRunning()) {
         état.PauseTiming();
         frmTexteMasqué écran{classe.choix};
         écran.Charger();

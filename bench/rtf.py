@@ -10,9 +10,9 @@ the file.
 """
 
 import argparse
+import os
 import pathlib
 import random
-import resource
 import shutil
 import subprocess
 import sys
@@ -87,19 +87,6 @@ def libreoffice(taille, hasard):
     yield "}"
 
 
-def écrire(fichier, morceaux, taille):
-    if fichier.exists() and abs(fichier.stat().st_size - taille) < taille / 10:
-        return
-    écrits = 0
-    with open(fichier, "w", encoding="ascii", newline="") as flux:
-        for morceau in morceaux:
-            if écrits < taille or morceau.startswith("}"):
-                flux.write(morceau)
-                écrits += len(morceau)
-            if morceau.startswith("}"):
-                break
-
-
 def borner(morceaux, taille):
     """The pieces up to that size, and the last one, which closes the text."""
     écrits = 0
@@ -117,10 +104,14 @@ def chronométrer(commande):
     """Seconds and peak kilobytes of one run."""
     avant = time.perf_counter()
     processus = subprocess.Popen(commande, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
-    _, statut, usage = __import__("os").wait4(processus.pid, 0)
+    _, statut, usage = os.wait4(processus.pid, 0)
     if statut != 0:
         raise SystemExit(f"{commande[0]} : code {statut}")
     return time.perf_counter() - avant, usage.ru_maxrss
+
+
+def médiane(valeurs):
+    return sorted(valeurs)[len(valeurs) // 2]
 
 
 def installer(programmes):
@@ -165,7 +156,6 @@ def main():
             nôtres.append(chronométrer([str(options.programme), fichier])[0])
             unrtf.append(chronométrer(["unrtf", "--text", fichier])[0])
             catdoc.append(chronométrer(["catdoc", fichier])[0])
-        médiane = lambda valeurs: sorted(valeurs)[len(valeurs) // 2]
         face_à_unrtf = médiane(unrtf) / médiane(nôtres)
         face_à_catdoc = médiane(catdoc) / médiane(nôtres)
         print(f"  10 Mo : {médiane(nôtres) * 1000:.1f} ms, unrtf {médiane(unrtf) * 1000:.0f} ms, "

@@ -1,38 +1,26 @@
 #include "core/LecteurRtf.h"
 
-#include "core/PagesDeCodes.h"
+#include "core/CompositionRtf.h"
+#include "core/MotsRtf.h"
+#include "core/TablesRtf.h"
 
 #include <algorithm>
 #include <array>
 #include <bit>
 #include <cstdint>
 #include <cstring>
-#include <iterator>
-#include <unordered_map>
-#include <utility>
+#include <string_view>
+#include <vector>
 
 namespace {
 
+using namespace rtf;
+
 constexpr char16_t Remplacement = 0xFFFD;
-constexpr int Windows1252 = 1252;
-constexpr int Utf8 = 65001;
 
 // Groups below that depth are counted and share the state of the last one kept.
 constexpr std::size_t ProfondeurMaximale = 10'000;
-constexpr std::size_t PolicesMaximales = 4'096;
-constexpr std::size_t NomDePoliceMaximal = 128;
-constexpr std::size_t CouleursMaximales = 65'535;
-// Beyond that many different formats only bold, italic, underline and strike-through are kept.
-constexpr std::size_t FormatsMaximaux = 16'384;
-
-constexpr int TailleParDéfaut = 24; // half points
-constexpr int TailleMaximale = 3'276;
 constexpr int RetraitMaximal = 31'680; // twips
-constexpr std::uint32_t TeinteAuto = 1U << 24U;
-
-enum Drapeau : std::uint8_t { Gras = 1, Italique = 2, Souligné = 4, Barré = 8, Caché = 16, Supprimé = 32 };
-constexpr unsigned Attributs = Gras | Italique | Souligné | Barré;
-constexpr unsigned Invisible = Caché | Supprimé;
 
 // What the characters of a group are for.
 enum class Destination : std::uint8_t {
@@ -43,270 +31,6 @@ enum class Destination : std::uint8_t {
     Muette,       // read for its control words alone
     Sautée,
 };
-
-enum class Mot : std::uint8_t {
-    Attribut,   // on, or off with a parameter 0
-    SansEffet,  // known, without effect, and never a reason to skip its group
-    Caractère,  // argument: the character
-    FinDeLigne, // argument unused, as below where none is told
-    Unicode,
-    Repli,
-    Cellule,
-    Rangée,
-    Police,
-    Taille,
-    Couleur,
-    SansSouligné,
-    Ordinaire,  // \plain
-    Alignement, // argument: the alignment
-    RetraitGauche,
-    RetraitDroit,
-    RetraitPremièreLigne,
-    Paragraphe, // \pard
-    Rouge,
-    Vert,
-    Bleu,
-    JeuDeCaractères,
-    PageDePolice,
-    PageDuDocument,
-    PageFixe, // argument: the code page
-    PoliceParDéfaut,
-    TableDesPolices,
-    TableDesCouleurs,
-    DeuxVersions,
-    VersionUnicode,
-    PropriétésImbriquées,
-    Binaire,
-    Puce, // text of a list's bullet or number
-    Sauter,
-};
-
-struct Entrée {
-    std::string_view mot;
-    Mot sens;
-    char16_t argument = 0;
-};
-
-constexpr auto Mots = std::to_array<Entrée>({
-    {"b", Mot::Attribut, Gras},
-    {"i", Mot::Attribut, Italique},
-    {"ul", Mot::Attribut, Souligné},
-    {"uld", Mot::Attribut, Souligné},
-    {"uldash", Mot::Attribut, Souligné},
-    {"uldashd", Mot::Attribut, Souligné},
-    {"uldashdd", Mot::Attribut, Souligné},
-    {"uldb", Mot::Attribut, Souligné},
-    {"ulhwave", Mot::Attribut, Souligné},
-    {"ulldash", Mot::Attribut, Souligné},
-    {"ulth", Mot::Attribut, Souligné},
-    {"ulthd", Mot::Attribut, Souligné},
-    {"ulthdash", Mot::Attribut, Souligné},
-    {"ulthdashd", Mot::Attribut, Souligné},
-    {"ulthdashdd", Mot::Attribut, Souligné},
-    {"ulthldash", Mot::Attribut, Souligné},
-    {"ululdbwave", Mot::Attribut, Souligné},
-    {"ulw", Mot::Attribut, Souligné},
-    {"ulwave", Mot::Attribut, Souligné},
-    {"ulnone", Mot::SansSouligné},
-    {"strike", Mot::Attribut, Barré},
-    {"striked", Mot::Attribut, Barré},
-    {"v", Mot::Attribut, Caché},
-    {"deleted", Mot::Attribut, Supprimé},
-    {"plain", Mot::Ordinaire},
-    {"f", Mot::Police},
-    {"fs", Mot::Taille},
-    {"cf", Mot::Couleur},
-
-    {"pard", Mot::Paragraphe},
-    {"ql", Mot::Alignement, static_cast<char16_t>(Alignement::Gauche)},
-    {"qr", Mot::Alignement, static_cast<char16_t>(Alignement::Droite)},
-    {"qc", Mot::Alignement, static_cast<char16_t>(Alignement::Centre)},
-    {"qj", Mot::Alignement, static_cast<char16_t>(Alignement::Justifié)},
-    {"li", Mot::RetraitGauche},
-    {"ri", Mot::RetraitDroit},
-    {"fi", Mot::RetraitPremièreLigne},
-
-    {"par", Mot::FinDeLigne},
-    {"line", Mot::FinDeLigne},
-    {"lbr", Mot::FinDeLigne},
-    {"sect", Mot::FinDeLigne},
-    {"page", Mot::FinDeLigne},
-    {"column", Mot::FinDeLigne},
-    {"cell", Mot::Cellule},
-    {"nestcell", Mot::Cellule},
-    {"row", Mot::Rangée},
-    {"nestrow", Mot::Rangée},
-    {"u", Mot::Unicode},
-    {"uc", Mot::Repli},
-    {"tab", Mot::Caractère, u'\t'},
-    {"emdash", Mot::Caractère, 0x2014},
-    {"endash", Mot::Caractère, 0x2013},
-    {"lquote", Mot::Caractère, 0x2018},
-    {"rquote", Mot::Caractère, 0x2019},
-    {"ldblquote", Mot::Caractère, 0x201C},
-    {"rdblquote", Mot::Caractère, 0x201D},
-    {"bullet", Mot::Caractère, 0x2022},
-    {"enspace", Mot::Caractère, 0x2002},
-    {"emspace", Mot::Caractère, 0x2003},
-    {"qmspace", Mot::Caractère, 0x2005},
-    {"zwbo", Mot::Caractère, 0x200B},
-    {"zwnbo", Mot::Caractère, 0x2060},
-    {"zwnj", Mot::Caractère, 0x200C},
-    {"zwj", Mot::Caractère, 0x200D},
-    {"ltrmark", Mot::Caractère, 0x200E},
-    {"rtlmark", Mot::Caractère, 0x200F},
-
-    {"ansi", Mot::PageFixe, Windows1252},
-    {"mac", Mot::PageFixe, 10000},
-    {"pc", Mot::PageFixe, 437},
-    {"pca", Mot::PageFixe, 850},
-    {"ansicpg", Mot::PageDuDocument},
-    {"deff", Mot::PoliceParDéfaut},
-    {"fonttbl", Mot::TableDesPolices},
-    {"fcharset", Mot::JeuDeCaractères},
-    {"cpg", Mot::PageDePolice},
-    {"colortbl", Mot::TableDesCouleurs},
-    {"red", Mot::Rouge},
-    {"green", Mot::Vert},
-    {"blue", Mot::Bleu},
-
-    {"field", Mot::SansEffet},
-    {"fldrslt", Mot::SansEffet},
-    {"upr", Mot::DeuxVersions},
-    {"ud", Mot::VersionUnicode},
-    {"nesttableprops", Mot::PropriétésImbriquées},
-    {"bin", Mot::Binaire},
-
-    // Destinations that are no part of the text. Those that always come behind \* need no mention.
-    {"aftncn", Mot::Sauter},
-    {"aftnsep", Mot::Sauter},
-    {"aftnsepc", Mot::Sauter},
-    {"annotation", Mot::Sauter},
-    {"atnauthor", Mot::Sauter},
-    {"atndate", Mot::Sauter},
-    {"atnicn", Mot::Sauter},
-    {"atnid", Mot::Sauter},
-    {"atnparent", Mot::Sauter},
-    {"atnref", Mot::Sauter},
-    {"atntime", Mot::Sauter},
-    {"atrfend", Mot::Sauter},
-    {"atrfstart", Mot::Sauter},
-    {"background", Mot::Sauter},
-    {"bkmkend", Mot::Sauter},
-    {"bkmkstart", Mot::Sauter},
-    {"colorschememapping", Mot::Sauter},
-    {"comment", Mot::Sauter},
-    {"datafield", Mot::Sauter},
-    {"datastore", Mot::Sauter},
-    {"do", Mot::Sauter},
-    {"docvar", Mot::Sauter},
-    {"falt", Mot::Sauter},
-    {"ffdeftext", Mot::Sauter},
-    {"ffname", Mot::Sauter},
-    {"filetbl", Mot::Sauter},
-    {"fldinst", Mot::Sauter},
-    {"fldtype", Mot::Sauter},
-    {"fname", Mot::Sauter},
-    {"fontemb", Mot::Sauter},
-    {"fontfile", Mot::Sauter},
-    {"footer", Mot::Sauter},
-    {"footerf", Mot::Sauter},
-    {"footerl", Mot::Sauter},
-    {"footerr", Mot::Sauter},
-    {"footnote", Mot::Sauter},
-    {"formfield", Mot::Sauter},
-    {"ftncn", Mot::Sauter},
-    {"ftnsep", Mot::Sauter},
-    {"ftnsepc", Mot::Sauter},
-    {"generator", Mot::Sauter},
-    {"header", Mot::Sauter},
-    {"headerf", Mot::Sauter},
-    {"headerl", Mot::Sauter},
-    {"headerr", Mot::Sauter},
-    {"info", Mot::Sauter},
-    {"keycode", Mot::Sauter},
-    {"latentstyles", Mot::Sauter},
-    {"listoverridetable", Mot::Sauter},
-    {"listtable", Mot::Sauter},
-    {"listtext", Mot::Puce},
-    {"nextfile", Mot::Sauter},
-    {"nonesttables", Mot::Sauter},
-    {"nonshppict", Mot::Sauter},
-    {"objdata", Mot::Sauter},
-    {"object", Mot::Sauter},
-    {"panose", Mot::Sauter},
-    {"pict", Mot::Sauter},
-    {"pn", Mot::Sauter},
-    {"pntext", Mot::Puce},
-    {"pntxta", Mot::Sauter},
-    {"pntxtb", Mot::Sauter},
-    {"private", Mot::Sauter},
-    {"revtbl", Mot::Sauter},
-    {"rxe", Mot::Sauter},
-    {"shpinst", Mot::Sauter},
-    {"shppict", Mot::Sauter},
-    {"shprslt", Mot::Sauter},
-    {"stylesheet", Mot::Sauter},
-    {"tc", Mot::Sauter},
-    {"tcn", Mot::Sauter},
-    {"template", Mot::Sauter},
-    {"themedata", Mot::Sauter},
-    {"txe", Mot::Sauter},
-    {"userprops", Mot::Sauter},
-    {"xe", Mot::Sauter},
-    {"xmlnstbl", Mot::Sauter},
-});
-
-constexpr std::uint64_t AllongerClé(std::uint64_t clé, char lettre)
-{
-    return clé << 5U ^ (static_cast<std::uint64_t>(lettre) & 0x1FU);
-}
-
-// Perfect hash of the control words: one multiplication, one look, one comparison.
-struct Dictionnaire {
-    static constexpr unsigned Bits = 12;
-    static constexpr std::uint8_t Vide = 0xFF;
-
-    std::uint64_t facteur = 0;
-    std::array<std::uint8_t, 1U << Bits> rangs{};
-    std::array<std::uint64_t, Mots.size()> clés{};
-
-    [[nodiscard]] constexpr std::size_t Place(std::uint64_t clé) const
-    {
-        return static_cast<std::size_t>(clé * facteur >> (64U - Bits));
-    }
-    [[nodiscard]] constexpr bool Ranger()
-    {
-        rangs.fill(Vide);
-        for (std::size_t i = 0; i < Mots.size(); ++i) {
-            std::uint64_t clé = 0;
-            for (const char lettre : Mots[i].mot)
-                clé = AllongerClé(clé, lettre);
-            clés[i] = clé;
-            auto& rang = rangs[Place(clé)];
-            if (rang != Vide)
-                return false;
-            rang = static_cast<std::uint8_t>(i);
-        }
-        return true;
-    }
-    constexpr Dictionnaire()
-    {
-        static_assert(Mots.size() < Vide);
-        facteur = 0x9E3779B97F4A7C15U;
-        while (!Ranger())
-            facteur = facteur * 6364136223846793005U + 2U; // stays odd
-    }
-    // The key holds twelve letters; a longer word is compared letter by letter.
-    [[nodiscard]] const Entrée* Trouver(std::uint64_t clé, std::string_view mot) const
-    {
-        const auto rang = rangs[Place(clé)];
-        if (rang == Vide || clés[rang] != clé || Mots[rang].mot.size() != mot.size())
-            return nullptr;
-        return mot.size() <= 12 || Mots[rang].mot == mot ? &Mots[rang] : nullptr;
-    }
-};
-constexpr Dictionnaire LeDictionnaire;
 
 enum class Classe : std::uint8_t { Simple, Haute, Ignorée, Barre, Ouvrante, Fermante };
 
@@ -371,107 +95,6 @@ unsigned PremiersSimples(const char* octets)
     return static_cast<unsigned>(std::countr_zero(trouvés)) / 8;
 }
 
-// A code page of one byte to a character has a table; the others are known by their number.
-struct Encodage {
-    int numéro = 0; // 0: that of the document
-    const MoitiéHaute* table = nullptr;
-};
-
-Encodage EncodageDe(int numéro)
-{
-    switch (numéro) {
-    case 932:
-    case 936:
-    case 949:
-    case 950:
-    case 1361:
-    case Utf8:
-        return {numéro, nullptr};
-    default:
-        const auto* const table = TrouverPageDeCodes(numéro);
-        return table == nullptr ? Encodage{} : Encodage{numéro, table};
-    }
-}
-
-// Code page of a font's character set; 0 where the set tells none.
-int PageDuJeu(int jeu)
-{
-    switch (jeu) {
-    case 0:
-    case 2: // symbols: most stand where Windows has its own
-        return Windows1252;
-    case 77:
-        return 10000;
-    case 78:
-    case 128:
-        return 932;
-    case 79:
-    case 129:
-        return 949;
-    case 80:
-    case 134:
-        return 936;
-    case 81:
-    case 136:
-        return 950;
-    case 85:
-        return 10006;
-    case 86:
-        return 10081;
-    case 88:
-        return 10029;
-    case 89:
-        return 10007;
-    case 130:
-        return 1361;
-    case 161:
-        return 1253;
-    case 162:
-        return 1254;
-    case 163:
-        return 1258;
-    case 177:
-        return 1255;
-    case 178:
-        return 1256;
-    case 186:
-        return 1257;
-    case 204:
-        return 1251;
-    case 222:
-        return 874;
-    case 238:
-        return 1250;
-    case 254:
-        return 437;
-    case 255:
-        return 850;
-    default:
-        return 0;
-    }
-}
-
-// Halves of surrogate pairs that stand alone become U+FFFD.
-void RemplacerDemiesPaires(Texte& texte)
-{
-    for (std::size_t i = 0; i < texte.size(); ++i) {
-        const char16_t c = texte[i];
-        if (c < 0xD800 || c > 0xDFFF)
-            continue;
-        if (c < 0xDC00 && i + 1 < texte.size() && texte[i + 1] >= 0xDC00 && texte[i + 1] <= 0xDFFF)
-            ++i;
-        else
-            texte[i] = Remplacement;
-    }
-}
-
-struct Paragraphe {
-    std::int16_t gauche = 0;
-    std::int16_t droit = 0;
-    std::int16_t première = 0;
-    Alignement alignement = Alignement::Gauche;
-};
-
 // What a group restores at its end.
 struct État {
     std::uint16_t police = 0; // index in the fonts read; 0: the default one
@@ -483,28 +106,12 @@ struct État {
     Paragraphe paragraphe;
 };
 
-// A character format in one number: attributes, size, colour, number of the font's name.
-using Clé = std::uint64_t;
-constexpr unsigned DécalageTaille = 4;
-constexpr unsigned DécalageTeinte = 16;
-constexpr unsigned DécalagePolice = 41;
-constexpr Clé CléSansTable = Clé{TailleParDéfaut} << DécalageTaille | Clé{TeinteAuto} << DécalageTeinte;
-
 class Lecteur {
 public:
     explicit Lecteur(std::string_view octets);
     TexteRiche Lire();
 
 private:
-    struct PoliceLue {
-        std::uint16_t nom = 0; // 0: Format's own
-        Encodage encodage;
-    };
-    struct Parcouru { // a remembered format
-        Clé clé = ~Clé{0};
-        Plages<Format>::Numéro numéro = 0;
-    };
-
     void Passage();
     void Commande();
     void MotDeCommande(bool étoile);
@@ -530,84 +137,40 @@ private:
     char16_t SuiteUtf8(unsigned premier, char16_t& seconde);
     void Unicode(int code);
     void FinirLaLigne();
-    void FinirLeParagraphe(const Paragraphe& paragraphe);
     void Cellule();
     void Rangée();
 
     void Préparer();
-    void PrendreFormat(Clé clé);
     [[nodiscard]] Clé CléDe(unsigned attributs) const;
-    [[nodiscard]] Format FormatDe(Clé clé) const;
-    Plages<Format>::Numéro NuméroDe(Clé clé);
-    Plages<FormatParagraphe>::Numéro NuméroDe(const Paragraphe& paragraphe);
-
-    void Poser(char16_t c);
-    void Vider();
-    [[nodiscard]] std::size_t Position() const { return texte_.size() + rempli_; }
-    [[nodiscard]] bool FinitParUnRetour() const;
-
-    [[nodiscard]] const PoliceLue& PoliceEnCours() const
-    {
-        return polices_[état_.police == 0 ? parDéfaut_ : état_.police];
-    }
-    void CaractèreDePolice(char16_t c);
-    void CommencerPolice(int numéro);
-    void TerminerPolice();
-    void ChoisirPoliceParDéfaut();
-    [[nodiscard]] std::uint16_t RangDePolice(int numéro) const;
-    void TerminerCouleur();
 
     const char* p_;
     const char* fin_;
-
-    État état_;
     const char* ligneDePuce_; // end of the first paragraph of a list item met as a bullet
 
+    État état_;
     std::vector<État> pile_;
     std::size_t groupesEnTrop_ = 0;
-    bool visible_ = true;
 
     Encodage document_ = EncodageDe(Windows1252);
-    int numéroParDéfaut_ = -1;
-    std::uint16_t parDéfaut_ = 0;
-    std::vector<PoliceLue> polices_{PoliceLue{}};
-    std::vector<std::uint16_t> rangsDesPolices_; // by number; 0: none
-    std::vector<Texte> noms_{Format{}.Police};
-    std::unordered_map<Texte, std::uint16_t> rangsDesNoms_{{Format{}.Police, 0}};
-    PoliceLue policeEnCours_;
-    int numéroEnCours_ = -1; // font being defined; -1: none
-    Texte nomEnCours_;
+    TableDesPolices polices_;
+    TableDesCouleurs couleurs_;
+    Composition composition_;
 
-    std::vector<std::uint32_t> couleurs_;
-    std::uint32_t teinteEnCours_ = TeinteAuto;
-
-    // The text, by way of a small buffer.
-    Texte texte_;
-    std::array<char16_t, 4096> tampon_{};
-    std::size_t rempli_ = 0;
-    bool demiesPaires_ = false;
-
-    bool àPréparer_ = true; // the format may have changed, or a tab is due, before the next character
-    bool celluleFinie_ = false;
     Clé cléDeLaCellule_ = 0;
-    bool enRangée_ = false;
     Paragraphe paragrapheDeLaRangée_;
-
-    Plages<Format> formats_;
-    Clé cléEnCours_ = ~Clé{0};
-    Plages<Format>::Numéro numéroDuFormat_ = 0;
-    std::size_t débutDuFormat_ = 0;
-    std::array<Parcouru, 64> parcourus_{};
-
-    Plages<FormatParagraphe> paragraphes_;
-    std::size_t débutDuParagraphe_ = 0;
+    bool enRangée_ = false;
+    bool celluleFinie_ = false;
+    bool àPréparer_ = true; // the format may have changed, or a tab is due, before the next character
+    bool visible_ = true;
 };
 
+// No byte yields more than one character.
 Lecteur::Lecteur(std::string_view octets)
-    : p_(octets.data()), fin_(p_ + std::min(octets.size(), TexteRiche::LongueurMaximale)), ligneDePuce_(p_)
+    : p_(octets.data()),
+      fin_(p_ + std::min(octets.size(), TexteRiche::LongueurMaximale)),
+      ligneDePuce_(p_),
+      composition_(polices_, static_cast<std::size_t>(fin_ - p_))
 {
-    // No byte yields more than one character; pages that stay unused cost nothing.
-    texte_.reserve(static_cast<std::size_t>(fin_ - p_));
 }
 
 TexteRiche Lecteur::Lire()
@@ -638,17 +201,7 @@ TexteRiche Lecteur::Lire()
             break;
         }
     }
-    const auto dernière = CléDe(état_.drapeaux);
-    Vider();
-    formats_.Ajouter(texte_.size() - débutDuFormat_, numéroDuFormat_);
-    FinirLeParagraphe(état_.paragraphe);
-    paragraphes_.Ajouter(1, NuméroDe(état_.paragraphe));
-    if (demiesPaires_)
-        RemplacerDemiesPaires(texte_);
-    if (texte_.capacity() / 2 > texte_.size())
-        texte_.shrink_to_fit();
-    formats_.RendreLaMarge();
-    return {std::move(texte_), std::move(formats_), std::move(paragraphes_), FormatDe(dernière)};
+    return composition_.Achever(état_.paragraphe, CléDe(état_.drapeaux));
 }
 
 // A run of plain bytes, at once.
@@ -666,8 +219,8 @@ void Lecteur::Passage()
     if (àPréparer_)
         Préparer();
     const char* p = p_;
-    const char* const limite = p + std::min(static_cast<std::size_t>(fin_ - p), tampon_.size() - rempli_);
-    char16_t* sortie = tampon_.data() + rempli_;
+    const char* const limite = p + std::min(static_cast<std::size_t>(fin_ - p), composition_.Libres());
+    char16_t* sortie = composition_.Place();
     do {
         // Eight at a time; what lies behind the last plain one is overwritten later.
         const auto simples = limite - p >= 8 ? PremiersSimples(p) : 0;
@@ -682,10 +235,8 @@ void Lecteur::Passage()
         if (simples < 8)
             break;
     } while (p != limite && ClasseDe(*p) == Classe::Simple);
-    rempli_ += static_cast<std::size_t>(p - p_);
+    composition_.Avancer(static_cast<std::size_t>(p - p_));
     p_ = p;
-    if (rempli_ == tampon_.size())
-        Vider();
 }
 
 // Behind a backslash.
@@ -784,9 +335,9 @@ void Lecteur::Exécuter(const Entrée& entrée, int paramètre, bool donné)
         break;
     case Mot::Police:
         if (état_.destination == Destination::Polices)
-            CommencerPolice(paramètre);
+            polices_.Commencer(paramètre);
         else
-            état_.police = RangDePolice(paramètre);
+            état_.police = polices_.Rang(paramètre);
         àPréparer_ = true;
         break;
     case Mot::Taille:
@@ -797,7 +348,7 @@ void Lecteur::Exécuter(const Entrée& entrée, int paramètre, bool donné)
         àPréparer_ = true;
         break;
     case Mot::Couleur:
-        if (paramètre >= 0 && paramètre < static_cast<int>(CouleursMaximales))
+        if (paramètre >= 0 && paramètre < 0xFFFF)
             état_.couleur = static_cast<std::uint16_t>(paramètre);
         àPréparer_ = true;
         break;
@@ -826,20 +377,14 @@ void Lecteur::Exécuter(const Entrée& entrée, int paramètre, bool donné)
         break;
     case Mot::Rouge:
     case Mot::Vert:
-    case Mot::Bleu: {
-        const auto décalage = 8U * (static_cast<unsigned>(entrée.sens) - static_cast<unsigned>(Mot::Rouge));
-        const auto composante = static_cast<std::uint32_t>(std::clamp(paramètre, 0, 255)) << décalage;
-        teinteEnCours_ = (teinteEnCours_ & ~TeinteAuto & ~(0xFFU << décalage)) | composante;
+    case Mot::Bleu:
+        couleurs_.Composante(static_cast<unsigned>(entrée.sens) - static_cast<unsigned>(Mot::Rouge), paramètre);
         break;
-    }
     case Mot::JeuDeCaractères:
-        // A code page told for the font is worth more than its character set, wherever it stands.
-        if (policeEnCours_.encodage.numéro == 0)
-            policeEnCours_.encodage = EncodageDe(PageDuJeu(paramètre));
+        polices_.JeuDeCaractères(paramètre);
         break;
     case Mot::PageDePolice:
-        if (const auto encodage = EncodageDe(paramètre); encodage.numéro != 0)
-            policeEnCours_.encodage = encodage;
+        polices_.PageDeCodes(paramètre);
         break;
     case Mot::PageDuDocument:
         if (const auto encodage = EncodageDe(paramètre); encodage.numéro != 0)
@@ -849,15 +394,14 @@ void Lecteur::Exécuter(const Entrée& entrée, int paramètre, bool donné)
         document_ = EncodageDe(entrée.argument);
         break;
     case Mot::PoliceParDéfaut:
-        numéroParDéfaut_ = paramètre;
-        ChoisirPoliceParDéfaut();
+        polices_.ParDéfaut(paramètre);
+        àPréparer_ = true;
         break;
     case Mot::TableDesPolices:
         Entrer(Destination::Polices);
         break;
     case Mot::TableDesCouleurs:
-        teinteEnCours_ = TeinteAuto;
-        couleurs_.clear();
+        couleurs_.Vider();
         Entrer(Destination::Couleurs);
         break;
     case Mot::DeuxVersions:
@@ -950,7 +494,7 @@ void Lecteur::Ouvrir()
 bool Lecteur::Fermer()
 {
     if (état_.destination == Destination::Polices)
-        TerminerPolice();
+        polices_.Terminer();
     if (groupesEnTrop_ > 0) {
         --groupesEnTrop_;
         return true;
@@ -1070,16 +614,16 @@ void Lecteur::Caractère(char16_t c)
 {
     if (visible_) {
         // A line feed that completes a pair takes the format of the first half.
-        const bool complète = c == u'\n' && !celluleFinie_ && FinitParUnRetour();
+        const bool complète = c == u'\n' && !celluleFinie_ && composition_.FinitParUnRetour();
         if (àPréparer_ && !complète)
             Préparer();
-        Poser(c);
+        composition_.Poser(c);
         if (c == u'\n')
-            FinirLeParagraphe(état_.paragraphe);
+            composition_.FinirLeParagraphe(état_.paragraphe);
     } else if (état_.destination == Destination::Polices) {
-        CaractèreDePolice(c);
+        c == u';' ? polices_.Terminer() : polices_.Nommer(c);
     } else if (état_.destination == Destination::Couleurs && c == u';') {
-        TerminerCouleur();
+        couleurs_.Terminer();
     }
 }
 
@@ -1090,8 +634,9 @@ void Lecteur::Octet(unsigned octet)
         Caractère(static_cast<char16_t>(octet));
         return;
     }
-    const auto& police = état_.destination == Destination::Polices ? policeEnCours_ : PoliceEnCours();
-    const auto& encodage = police.encodage.numéro == 0 ? document_ : police.encodage;
+    const bool nom = état_.destination == Destination::Polices;
+    const auto& propre = nom ? polices_.EncodageEnCours() : polices_.EncodageDuRang(état_.police);
+    const auto& encodage = propre.numéro == 0 ? document_ : propre;
     if (encodage.table != nullptr) {
         Caractère((*encodage.table)[octet - 0x80]);
     } else if (encodage.numéro == Utf8) {
@@ -1146,7 +691,8 @@ char16_t Lecteur::SuiteUtf8(unsigned premier, char16_t& seconde)
     if (code > 0x10FFFF || (suites == 2 && code < 0x800) || (suites == 3 && code < 0x10000))
         return Remplacement;
     if (code < 0x10000) {
-        demiesPaires_ = demiesPaires_ || (code >= 0xD800 && code <= 0xDFFF);
+        if (code >= 0xD800 && code <= 0xDFFF)
+            composition_.SignalerDemiePaire();
         return static_cast<char16_t>(code);
     }
     seconde = static_cast<char16_t>(0xDC00 + (code & 0x3FFU));
@@ -1158,9 +704,10 @@ void Lecteur::Unicode(int code)
     if (code < 0)
         code += 0x10000; // signed 16 bits
     const auto c = code < 0 || code > 0xFFFF ? Remplacement : static_cast<char16_t>(code);
-    demiesPaires_ = demiesPaires_ || (c >= 0xD800 && c <= 0xDFFF);
+    if (c >= 0xD800 && c <= 0xDFFF)
+        composition_.SignalerDemiePaire();
     if (état_.destination == Destination::Polices && c == u';')
-        nomEnCours_ += c; // written out, it belongs to the name
+        polices_.Nommer(c); // written out, it belongs to the name
     else
         Caractère(c);
     if (état_.repli == 1 && p_ != fin_ && *p_ == '?') // the usual one
@@ -1175,18 +722,9 @@ void Lecteur::FinirLaLigne()
         return;
     if (àPréparer_)
         Préparer();
-    Poser(u'\r');
-    Poser(u'\n');
-    FinirLeParagraphe(état_.paragraphe);
-}
-
-void Lecteur::FinirLeParagraphe(const Paragraphe& paragraphe)
-{
-    const auto position = Position();
-    if (position == débutDuParagraphe_)
-        return;
-    paragraphes_.Ajouter(position - débutDuParagraphe_, NuméroDe(paragraphe));
-    débutDuParagraphe_ = position;
+    composition_.Poser(u'\r');
+    composition_.Poser(u'\n');
+    composition_.FinirLeParagraphe(état_.paragraphe);
 }
 
 // The tab is due only once more of the row follows. It and the end of the row are nobody's marked text.
@@ -1210,10 +748,10 @@ void Lecteur::Rangée()
     if (!lue || (état_.drapeaux & Invisible) != 0)
         return;
     celluleFinie_ = false;
-    PrendreFormat(CléDe(état_.drapeaux & ~static_cast<unsigned>(Barré)));
-    Poser(u'\r');
-    Poser(u'\n');
-    FinirLeParagraphe(enRangée_ ? paragrapheDeLaRangée_ : état_.paragraphe);
+    composition_.PrendreFormat(CléDe(état_.drapeaux & ~static_cast<unsigned>(Barré)));
+    composition_.Poser(u'\r');
+    composition_.Poser(u'\n');
+    composition_.FinirLeParagraphe(enRangée_ ? paragrapheDeLaRangée_ : état_.paragraphe);
     enRangée_ = false;
     àPréparer_ = true;
 }
@@ -1222,133 +760,17 @@ void Lecteur::Préparer()
 {
     if (celluleFinie_) {
         celluleFinie_ = false;
-        PrendreFormat(cléDeLaCellule_);
-        Poser(u'\t');
+        composition_.PrendreFormat(cléDeLaCellule_);
+        composition_.Poser(u'\t');
     }
-    PrendreFormat(CléDe(état_.drapeaux));
+    composition_.PrendreFormat(CléDe(état_.drapeaux));
     àPréparer_ = false;
-}
-
-void Lecteur::PrendreFormat(Clé clé)
-{
-    if (clé == cléEnCours_)
-        return;
-    const auto position = Position();
-    formats_.Ajouter(position - débutDuFormat_, numéroDuFormat_);
-    débutDuFormat_ = position;
-    cléEnCours_ = clé;
-    numéroDuFormat_ = NuméroDe(clé);
 }
 
 Clé Lecteur::CléDe(unsigned attributs) const
 {
-    const Clé teinte = état_.couleur < couleurs_.size() ? couleurs_[état_.couleur] : TeinteAuto;
-    return (attributs & Attributs) | Clé{état_.taille} << DécalageTaille | teinte << DécalageTeinte |
-           Clé{PoliceEnCours().nom} << DécalagePolice;
-}
-
-Format Lecteur::FormatDe(Clé clé) const
-{
-    const auto teinte = static_cast<std::uint32_t>(clé >> DécalageTeinte & (2U * TeinteAuto - 1));
-    return {.Police = noms_[clé >> DécalagePolice],
-            .Taille = static_cast<double>(clé >> DécalageTaille & 0xFFFU) / 2,
-            .Teinte = teinte == TeinteAuto ? CouleurAuto : Couleur{teinte},
-            .Gras = (clé & Gras) != 0,
-            .Italique = (clé & Italique) != 0,
-            .Souligné = (clé & Souligné) != 0,
-            .Barré = (clé & Barré) != 0};
-}
-
-Plages<Format>::Numéro Lecteur::NuméroDe(Clé clé)
-{
-    auto& parcouru = parcourus_[(clé * 0x9E3779B97F4A7C15U >> 58U)];
-    if (parcouru.clé != clé) {
-        const bool plein = formats_.NombreDeValeurs() >= FormatsMaximaux;
-        parcouru = {clé, formats_.Interner(FormatDe(plein ? (clé & Attributs) | CléSansTable : clé))};
-    }
-    return parcouru.numéro;
-}
-
-Plages<FormatParagraphe>::Numéro Lecteur::NuméroDe(const Paragraphe& paragraphe)
-{
-    return paragraphes_.Interner({.Alignement_ = paragraphe.alignement,
-                                  .RetraitGauche = paragraphe.gauche,
-                                  .RetraitDroit = paragraphe.droit,
-                                  .RetraitPremièreLigne = paragraphe.première});
-}
-
-void Lecteur::Poser(char16_t c)
-{
-    tampon_[rempli_++] = c;
-    if (rempli_ == tampon_.size())
-        Vider();
-}
-
-void Lecteur::Vider()
-{
-    texte_.append(tampon_.data(), rempli_);
-    rempli_ = 0;
-}
-
-bool Lecteur::FinitParUnRetour() const
-{
-    if (rempli_ > 0)
-        return tampon_[rempli_ - 1] == u'\r';
-    return !texte_.empty() && texte_.back() == u'\r';
-}
-
-void Lecteur::CaractèreDePolice(char16_t c)
-{
-    if (c == u';')
-        TerminerPolice();
-    else if (numéroEnCours_ >= 0 && nomEnCours_.size() < NomDePoliceMaximal)
-        nomEnCours_ += c;
-}
-
-void Lecteur::CommencerPolice(int numéro)
-{
-    TerminerPolice();
-    numéroEnCours_ = numéro >= 0 && numéro <= 0xFFFF ? numéro : -1;
-}
-
-void Lecteur::TerminerPolice()
-{
-    const auto numéro = static_cast<std::size_t>(numéroEnCours_);
-    if (numéroEnCours_ >= 0 && polices_.size() < PolicesMaximales) {
-        RemplacerDemiesPaires(nomEnCours_);
-        auto nom = Rogner(nomEnCours_);
-        if (!nom.empty())
-            policeEnCours_.nom = rangsDesNoms_.try_emplace(nom, static_cast<std::uint16_t>(noms_.size())).first->second;
-        if (policeEnCours_.nom == noms_.size())
-            noms_.push_back(std::move(nom));
-        if (rangsDesPolices_.size() <= numéro)
-            rangsDesPolices_.resize(numéro + 1);
-        rangsDesPolices_[numéro] = static_cast<std::uint16_t>(polices_.size());
-        polices_.push_back(policeEnCours_);
-        ChoisirPoliceParDéfaut();
-    }
-    numéroEnCours_ = -1;
-    nomEnCours_.clear();
-    policeEnCours_ = {};
-}
-
-void Lecteur::ChoisirPoliceParDéfaut()
-{
-    parDéfaut_ = RangDePolice(numéroParDéfaut_);
-    àPréparer_ = true;
-}
-
-std::uint16_t Lecteur::RangDePolice(int numéro) const
-{
-    const bool connu = numéro >= 0 && static_cast<std::size_t>(numéro) < rangsDesPolices_.size();
-    return connu ? rangsDesPolices_[static_cast<std::size_t>(numéro)] : std::uint16_t{0};
-}
-
-void Lecteur::TerminerCouleur()
-{
-    if (couleurs_.size() < CouleursMaximales)
-        couleurs_.push_back(teinteEnCours_);
-    teinteEnCours_ = TeinteAuto;
+    return (attributs & Attributs) | Clé{état_.taille} << DécalageTaille |
+           Clé{couleurs_.Teinte(état_.couleur)} << DécalageTeinte | Clé{polices_.Nom(état_.police)} << DécalagePolice;
 }
 
 } // namespace

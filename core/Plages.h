@@ -35,9 +35,8 @@ public:
             Rehacher(std::max<std::size_t>(16, 4 * (valeurs_.size() + 1)));
         auto alvéole = Alvéole(valeur);
         if (alvéoles_[alvéole] == Libre) {
-            const Valeur copie = valeur; // the argument may stand in the table that grows
             alvéoles_[alvéole] = static_cast<Numéro>(valeurs_.size());
-            valeurs_.push_back(std::move(copie));
+            valeurs_.push_back(valeur);
         }
         return alvéoles_[alvéole];
     }
@@ -120,11 +119,11 @@ public:
 
     friend bool operator==(const Plages& a, const Plages& b)
     {
-        return a.longueur_ == b.longueur_ &&
-               std::equal(a.plages_.begin(), a.plages_.end(), b.plages_.begin(), b.plages_.end(),
-                          [&](const Plage& x, const Plage& y) {
-                              return x.Début == y.Début && a.valeurs_[x.Numéro_] == b.valeurs_[y.Numéro_];
-                          });
+        return a.longueur_ == b.longueur_ && std::equal(a.plages_.begin(), a.plages_.end(), b.plages_.begin(),
+                                                        b.plages_.end(), [&](const Plage& x, const Plage& y) {
+                                                            return x.Début == y.Début &&
+                                                                   a.valeurs_[x.Numéro_] == b.valeurs_[y.Numéro_];
+                                                        });
     }
 
 private:

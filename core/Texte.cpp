@@ -46,11 +46,12 @@ std::string NombreEnTête(VueTexte texte, bool virgule, std::size_t& lus)
     return chiffre ? nombre : std::string{};
 }
 
-double Convertir(const std::string& nombre)
+// Nothing without a digit, and out of all measure.
+std::optional<double> Convertir(const std::string& nombre)
 {
     double valeur = 0;
-    std::from_chars(nombre.data(), nombre.data() + nombre.size(), valeur);
-    return valeur;
+    const auto [fin, erreur] = std::from_chars(nombre.data(), nombre.data() + nombre.size(), valeur);
+    return erreur == std::errc{} ? std::optional{valeur} : std::nullopt;
 }
 
 } // namespace
@@ -197,7 +198,8 @@ double Valeur(VueTexte texte)
 {
     const auto début = std::find_if_not(texte.begin(), texte.end(), EstBlanc);
     std::size_t lus = 0;
-    return Convertir(NombreEnTête(texte.substr(static_cast<std::size_t>(début - texte.begin())), false, lus));
+    return Convertir(NombreEnTête(texte.substr(static_cast<std::size_t>(début - texte.begin())), false, lus))
+        .value_or(0);
 }
 
 std::optional<double> LireNombre(VueTexte texte)
@@ -217,6 +219,9 @@ Texte EnTexte(long long nombre)
 
 Texte EnTexte(float nombre, char16_t séparateurDécimal)
 {
+    static constexpr float PlusPetitAvecChiffres = 1e-4F; // smaller ones would take an exponent
+    if (std::abs(nombre) < PlusPetitAvecChiffres)
+        return u"0";
     std::array<char, 64> tampon{};
     const auto [fin, erreur] =
         std::to_chars(tampon.data(), tampon.data() + tampon.size(), nombre, std::chars_format::general, 7);

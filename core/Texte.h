@@ -36,7 +36,7 @@ double Valeur(VueTexte texte);
 // A whole text that is a number, comma or point as decimal separator, blanks around it allowed.
 std::optional<double> LireNombre(VueTexte texte);
 Texte EnTexte(long long nombre);
-// Seven significant digits, no trailing zero: the shape of a single-precision score.
+// Seven significant digits, no trailing zero: the shape of a single-precision score. Below a ten-thousandth: 0.
 Texte EnTexte(float nombre, char16_t séparateurDécimal);
 
 // True when the character stands in the set; the rules test words by sets held in strings.

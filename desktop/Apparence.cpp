@@ -159,9 +159,9 @@ void Peindre(QPainter& peintre, const Dessin& dessin, const QRectF& place)
         if (fond.isValid())
             peintre.fillPath(chemin, fond);
         if (!forme.trait.EstAutomatique()) {
-            peintre.strokePath(chemin, QPen{EnQColor(forme.trait, {}),
-                                            std::max(1.0, forme.épaisseur * std::min(sx, sy)), Qt::SolidLine,
-                                            Qt::RoundCap, Qt::RoundJoin});
+            peintre.strokePath(chemin,
+                               QPen{EnQColor(forme.trait, {}), std::max(1.0, forme.épaisseur * std::min(sx, sy)),
+                                    Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin});
         }
     }
     peintre.restore();

@@ -104,8 +104,7 @@ void Etiquette::paintEvent(QPaintEvent* /*événement*/)
     if (fond.isValid()) {
         peintre.setPen(bordure || arrondie ? QPen{Teinte::BordPanneau} : QPen{Qt::NoPen});
         peintre.setBrush(fond);
-        coin > 0 ? peintre.drawRoundedRect(place, coin, coin)
-                 : peintre.drawRect(bordure ? place : QRectF{rect()});
+        coin > 0 ? peintre.drawRoundedRect(place, coin, coin) : peintre.drawRect(bordure ? place : QRectF{rect()});
     }
     if (bordure) {
         peintre.setPen(QPen{Teinte::Encre, 2});
@@ -160,8 +159,8 @@ void Etiquette::mouseDoubleClickEvent(QMouseEvent* événement)
 
 void Etiquette::keyPressEvent(QKeyEvent* événement)
 {
-    const bool touche = événement->key() == Qt::Key_Space || événement->key() == Qt::Key_Return ||
-                        événement->key() == Qt::Key_Enter;
+    const bool touche =
+        événement->key() == Qt::Key_Space || événement->key() == Qt::Key_Return || événement->key() == Qt::Key_Enter;
     if (clic && touche && !événement->isAutoRepeat())
         clic();
     else
@@ -271,9 +270,18 @@ void Panneau::Titrer(const QString& titre)
     update();
 }
 
+QFont Panneau::PoliceTitre() const
+{
+    QFont police = font();
+    police.setBold(true);
+    if (couvrant) // it says why nothing else is there
+        police.setPixelSize(police.pixelSize() * 3 / 2);
+    return police;
+}
+
 int Panneau::HauteurTitre() const
 {
-    return titre_.isEmpty() ? 0 : Interligne(font()) + 6;
+    return titre_.isEmpty() ? 0 : Interligne(PoliceTitre()) + (couvrant ? font().pixelSize() * 2 : 6);
 }
 
 void Panneau::AjusterMarges()
@@ -307,10 +315,8 @@ void Panneau::paintEvent(QPaintEvent* /*événement*/)
     }
     if (titre_.isEmpty())
         return;
-    QFont gras = font();
-    gras.setBold(true);
     const QRect bande{8, 2, width() - 16, HauteurTitre() - 2};
-    peintre.setFont(AjusterPolice(gras, titre_, bande.size(), Qt::AlignVCenter));
+    peintre.setFont(AjusterPolice(PoliceTitre(), titre_, bande.size(), Qt::AlignVCenter));
     peintre.setPen(encre.isValid() ? encre : Teinte::Encre);
     peintre.drawText(bande, Qt::AlignVCenter | (couvrant ? Qt::AlignHCenter : Qt::AlignLeft), titre_);
 }

@@ -107,6 +107,7 @@ public:
     std::function<void(QPoint)> dépôt;
 
     void Titrer(const QString& titre);
+    [[nodiscard]] QFont PoliceTitre() const;
     [[nodiscard]] int HauteurTitre() const;
     void AjusterMarges();
 

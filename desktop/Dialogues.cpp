@@ -149,7 +149,9 @@ std::optional<Couleur> CouleurChoisie(const QColorDialog& dialogue)
 
 std::unique_ptr<QFontDialog> CréerDialoguePolice(const ChoixPolice& départ, QWidget* parent)
 {
+    // The dialog lists what the machine has: it starts on the stand-in of a font that is missing.
     auto police = PolicePour(départ.Nom, 0, départ.Gras.value_or(false), 1);
+    police.setFamily(QFontInfo{police}.family());
     police.setPointSizeF(départ.Taille > 0 ? départ.Taille : 12);
     police.setItalic(départ.Italique.value_or(false));
     auto dialogue = std::make_unique<QFontDialog>(police, parent);
@@ -165,7 +167,6 @@ std::optional<ChoixPolice> PoliceChoisie(const QFontDialog& dialogue, const Choi
     const auto police = dialogue.selectedFont();
     ChoixPolice choix;
     choix.Nom = DepuisQString(police.family());
-    // The stand-in of a font that this machine lacks is not a choice.
     const bool inchangée = QFontInfo{PolicePour(départ.Nom, 0, false, 1)}.family() == QFontInfo{police}.family();
     if (inchangée)
         choix.Nom = départ.Nom;

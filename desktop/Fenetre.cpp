@@ -181,8 +181,7 @@ void Fenêtre::Remplir(QWidget* cadre, const Arrangement& contenu)
         boîte->addWidget(place.widget);
     }
     if (cadre == plan_ && cadre->layout() != nullptr) {
-        const bool vide = contenu.genre == Disposition::Libre || contenu.genre == Disposition::Pile;
-        const int bord = vide ? 0 : 8;
+        const int bord = contenu.genre == Disposition::Libre ? 0 : 8;
         cadre->layout()->setContentsMargins(bord, bord, bord, bord);
         cadre->layout()->setSizeConstraint(QLayout::SetNoConstraint);
     }
@@ -691,6 +690,7 @@ bool Fenêtre::Filtrer(QObject* visé, QEvent* événement)
     }
     if (événement->type() != QEvent::KeyPress && événement->type() != QEvent::InputMethod)
         return false;
+    Synchroniser();
     // A key that nobody takes climbs from the focused widget to those around it; it is looked at once.
     auto* cible = focusWidget() != nullptr ? focusWidget() : this;
     if (visé != cible)

@@ -4,8 +4,12 @@
 
 Superposition::~Superposition()
 {
-    for (auto* pièce : pièces_)
+    // Out of the list first: a layout that goes takes itself out of the one it is in.
+    while (!pièces_.empty()) {
+        auto* pièce = pièces_.back();
+        pièces_.pop_back();
         delete pièce;
+    }
 }
 
 void Superposition::Ajouter(QWidget* un)
@@ -66,8 +70,8 @@ int Superposition::heightForWidth(int largeur) const
     const int intérieure = largeur - marges.left() - marges.right();
     int hauteur = tailleMinimale.height();
     for (auto* pièce : pièces_)
-        hauteur = std::max(hauteur, pièce->hasHeightForWidth() ? pièce->heightForWidth(intérieure)
-                                                               : pièce->sizeHint().height());
+        hauteur = std::max(hauteur,
+                           pièce->hasHeightForWidth() ? pièce->heightForWidth(intérieure) : pièce->sizeHint().height());
     return hauteur + marges.top() + marges.bottom();
 }
 

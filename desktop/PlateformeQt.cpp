@@ -66,7 +66,8 @@ double PlateformeQt::Horloge()
 void PlateformeQt::AmorcerHasard()
 {
     // The clock alone would give the same draw again and again within one of its ticks.
-    const auto maintenant = static_cast<unsigned long long>(std::chrono::system_clock::now().time_since_epoch().count());
+    const auto maintenant =
+        static_cast<unsigned long long>(std::chrono::system_clock::now().time_since_epoch().count());
     std::seed_seq graine{static_cast<unsigned>(maintenant), static_cast<unsigned>(maintenant >> 32U),
                          static_cast<unsigned>(++amorces_), static_cast<unsigned>(dés_())};
     dés_.seed(graine);
@@ -101,7 +102,10 @@ void PlateformeQt::MontrerDialogue(QDialog& dialogue)
     if (devant != nullptr)
         devant->Synchroniser();
     const Séjour séjour{*this,
-                        {devant != nullptr ? &devant->EcranDe() : nullptr, nullptr, [&dialogue] { dialogue.reject(); }},
+                        {devant != nullptr ? &devant->EcranDe() : nullptr, nullptr,
+                         [&dialogue] {
+                             dialogue.reject();
+                         }},
                         false};
     dialogue.exec();
 }
@@ -109,7 +113,9 @@ void PlateformeQt::MontrerDialogue(QDialog& dialogue)
 Réponse PlateformeQt::AfficherBoîte(const Boîte& boîte)
 {
     if (terminé_)
-        return boîte.Choix == Boutons::Ok ? Réponse::Ok : boîte.Choix == Boutons::OuiNon ? Réponse::Non : Réponse::Annuler;
+        return boîte.Choix == Boutons::Ok       ? Réponse::Ok
+               : boîte.Choix == Boutons::OuiNon ? Réponse::Non
+                                                : Réponse::Annuler;
     BoîteMessage message{boîte, Devant()};
     MontrerDialogue(message);
     return message.Donnée();
@@ -232,7 +238,12 @@ void PlateformeQt::AfficherModal(Ecran& écran)
         Fenêtre fenêtre{*this, écran};
         fenêtres_.push_back(&fenêtre);
         QEventLoop boucle;
-        const Séjour séjour{*this, {&écran, nullptr, [&boucle] { boucle.quit(); }}, false};
+        const Séjour séjour{*this,
+                            {&écran, nullptr,
+                             [&boucle] {
+                                 boucle.quit();
+                             }},
+                            false};
         for (auto* minuterie : écran.Minuteries())
             RéglerMinuterie(*minuterie);
         fenêtre.Ouvrir(dessous);
@@ -288,7 +299,12 @@ bool PlateformeQt::Attendre(Ecran& écran, std::chrono::milliseconds durée)
     Repeindre(écran);
     {
         QEventLoop boucle;
-        const Séjour séjour{*this, {&écran, nullptr, [&boucle] { boucle.quit(); }}, true};
+        const Séjour séjour{*this,
+                            {&écran, nullptr,
+                             [&boucle] {
+                                 boucle.quit();
+                             }},
+                            true};
         QTimer fin;
         fin.setTimerType(Qt::PreciseTimer);
         fin.setSingleShot(true);
@@ -312,7 +328,12 @@ bool PlateformeQt::AttendreArrêt(Timer& minuterie)
     if (minuterie.EnMarche()) {
         Armer(minuterie);
         QEventLoop boucle;
-        const Séjour séjour{*this, {&écran, &minuterie, [&boucle] { boucle.quit(); }}, false};
+        const Séjour séjour{*this,
+                            {&écran, &minuterie,
+                             [&boucle] {
+                                 boucle.quit();
+                             }},
+                            false};
         boucle.exec();
     }
     return écran.EstChargé() && !terminé_;
@@ -335,10 +356,13 @@ void PlateformeQt::RéglerMinuterie(Timer& minuterie)
 
 void PlateformeQt::Armer(Timer& minuterie)
 {
-    auto& place = minuteries_.try_emplace(&minuterie, nullptr, [](QTimer* une) {
-        une->stop();
-        une->deleteLater(); // it may be the one that is ticking
-    }).first->second;
+    auto& place = minuteries_
+                      .try_emplace(&minuterie, nullptr,
+                                   [](QTimer* une) {
+                                       une->stop();
+                                       une->deleteLater(); // it may be the one that is ticking
+                                   })
+                      .first->second;
     if (!place) {
         place.reset(new QTimer);
         place->setTimerType(Qt::PreciseTimer);
@@ -402,8 +426,10 @@ bool PlateformeQt::eventFilter(QObject* visé, QEvent* événement)
     }
     if (entréeJetée_)
         return true;
-    if (auto* devant = Devant(); devant != nullptr && visé->isWidgetType() &&
-                                 static_cast<QWidget*>(visé)->window() == devant)
+    if (événement->type() == QEvent::ContextMenu)
+        ChargerTraductions();
+    if (auto* devant = Devant();
+        devant != nullptr && visé->isWidgetType() && static_cast<QWidget*>(visé)->window() == devant)
         return devant->Filtrer(visé, événement);
     return false;
 }

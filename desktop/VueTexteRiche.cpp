@@ -180,8 +180,7 @@ private:
     // The keyboard's way of clicking: arrows lead to a character, Enter and the space bar click it.
     void Jouer(QKeyEvent& événement)
     {
-        if (événement.key() == Qt::Key_Return || événement.key() == Qt::Key_Enter ||
-            événement.key() == Qt::Key_Space) {
+        if (événement.key() == Qt::Key_Return || événement.key() == Qt::Key_Enter || événement.key() == Qt::Key_Space) {
             clavier_ = true;
             if (vue_.Agissante())
                 vue_.boîte_.Cliquer(vue_.DepuisWidget(std::min(visé_, document()->characterCount() - 1)));
@@ -189,9 +188,12 @@ private:
             return;
         }
         using Pas = QTextCursor::MoveOperation;
-        static constexpr std::pair<int, Pas> Chemins[] = {
-            {Qt::Key_Left, Pas::PreviousCharacter}, {Qt::Key_Right, Pas::NextCharacter}, {Qt::Key_Up, Pas::Up},
-            {Qt::Key_Down, Pas::Down},              {Qt::Key_Home, Pas::StartOfLine},    {Qt::Key_End, Pas::EndOfLine}};
+        static constexpr std::pair<int, Pas> Chemins[] = {{Qt::Key_Left, Pas::PreviousCharacter},
+                                                          {Qt::Key_Right, Pas::NextCharacter},
+                                                          {Qt::Key_Up, Pas::Up},
+                                                          {Qt::Key_Down, Pas::Down},
+                                                          {Qt::Key_Home, Pas::StartOfLine},
+                                                          {Qt::Key_End, Pas::EndOfLine}};
         const auto* pas = std::find_if(std::begin(Chemins), std::end(Chemins),
                                        [&](const auto& un) { return un.first == événement.key(); });
         if (pas == std::end(Chemins)) {
@@ -422,10 +424,9 @@ void VueTexteRiche::Remplacer(const Retouche& retouche)
     curseur.setPosition(début);
     curseur.setPosition(fin, QTextCursor::KeepAnchor);
     curseur.removeSelectedText();
-    boîte_.TextRTF().PourChaqueTranche(
-        retouche.début, retouche.début + retouche.nouveaux, [&](const Tranche& tranche) {
-            curseur.insertText(Affiché(tranche.Début, tranche.Fin), FormatDe(*tranche.Format_));
-        });
+    boîte_.TextRTF().PourChaqueTranche(retouche.début, retouche.début + retouche.nouveaux, [&](const Tranche& tranche) {
+        curseur.insertText(Affiché(tranche.Début, tranche.Fin), FormatDe(*tranche.Format_));
+    });
     curseur.endEditBlock();
     MettreParagraphes(premier, curseur.blockNumber());
 }
@@ -516,6 +517,9 @@ void VueTexteRiche::Reprendre(int position, int retirés, int ajoutés)
     for (int i = 0; i < retirés && fin < texte.size(); ++i)
         fin += VueTexte{texte}.substr(fin, 2) == FinDeLigne ? 2 : 1;
 
+    // The widget shows the characters; their formats come from the element, like all formats.
+    retouches_.Noter(début, arrivé.size(), arrivé.size());
+    fenêtre_.Marquer(*this);
     // What only was laid out anew, or has another format, is no edit.
     std::size_t pareils = 0;
     const VueTexte ancien = VueTexte{texte}.substr(début, fin - début);
@@ -534,11 +538,7 @@ void VueTexteRiche::Reprendre(int position, int retirés, int ajoutés)
     arrivé = arrivé.substr(pareils, arrivé.size() - pareils - derrière);
     if (partis == 0 && arrivé.empty())
         return;
-    const auto longueur = arrivé.size();
     const auto format = FormatTapé(début, partis);
-    // The widget shows the characters; their formats come from the element, like all formats.
-    retouches_.Noter(début, longueur, longueur);
-    fenêtre_.Marquer(*this);
     boîte_.Editer(début, partis, TexteRiche{std::move(arrivé), format});
 }
 

@@ -20,8 +20,7 @@
 #include <algorithm>
 #include <cassert>
 
-Vue::Vue(Fenêtre& fenêtre, Elément& élément_, QWidget* widget_)
-    : élément(élément_), widget(widget_), fenêtre_(fenêtre)
+Vue::Vue(Fenêtre& fenêtre, Elément& élément_, QWidget* widget_) : élément(élément_), widget(widget_), fenêtre_(fenêtre)
 {
     if (widget == nullptr)
         return;
@@ -136,12 +135,13 @@ public:
             étiquette_.update();
         }
         const auto pointeur = label_.MousePointer == Pointeur::Sablier ? Qt::WaitCursor
-                              : label_.Click                            ? Qt::PointingHandCursor
-                                                                        : Qt::ArrowCursor;
+                              : label_.Click                           ? Qt::PointingHandCursor
+                                                                       : Qt::ArrowCursor;
         if (étiquette_.cursor().shape() != pointeur)
             étiquette_.setCursor(pointeur);
         Vue::Synchroniser();
-        if (label_.ToolTipText().empty())
+        // Assistive tools read what it says, rather than its tip: a label has nothing else to be read by.
+        if (étiquette_.accessibleDescription() != étiquette_.text())
             étiquette_.setAccessibleDescription(étiquette_.text());
     }
 
@@ -160,9 +160,7 @@ private:
 class VueImage final : public Vue {
 public:
     VueImage(Fenêtre& fenêtre, Image& image, QWidget* parent)
-        : Vue(fenêtre, image, new ImageDessinée{parent}),
-          image_(image),
-          dessinée_(static_cast<ImageDessinée&>(*widget))
+        : Vue(fenêtre, image, new ImageDessinée{parent}), image_(image), dessinée_(static_cast<ImageDessinée&>(*widget))
     {
         if (!image.Click)
             return;
@@ -390,11 +388,13 @@ void VueChamp::Modifier(const QString& texte)
 {
     if (!Agissante())
         return;
-    if (const int curseur = curseurAvant_; !boîte_.Saisir(DepuisQString(texte))) {
-        const QSignalBlocker silence{ligne_};
-        ligne_.setText(EnQString(boîte_.Text()));
-        ligne_.setCursorPosition(curseur);
-    }
+    const int curseur = curseurAvant_;
+    NoterSélection(); // first: handlers may choose another
+    if (boîte_.Saisir(DepuisQString(texte)))
+        return;
+    const QSignalBlocker silence{ligne_};
+    ligne_.setText(EnQString(boîte_.Text()));
+    ligne_.setCursorPosition(curseur);
     NoterSélection();
 }
 
@@ -501,9 +501,10 @@ private:
         const auto avant = VueTexte{boîte_.Text()}.substr(0, position);
         return static_cast<int>(avant.size() - static_cast<std::size_t>(std::count(avant.begin(), avant.end(), u'\r')));
     }
-    [[nodiscard]] std::size_t DepuisWidget(int position) const
+    [[nodiscard]] std::size_t DepuisWidget(int position) const { return Compter(boîte_.Text(), position); }
+    // The place in the text of a position that counts line ends once.
+    static std::size_t Compter(VueTexte texte, int position)
     {
-        const VueTexte texte = boîte_.Text();
         std::size_t i = 0;
         for (; position > 0 && i < texte.size(); ++i)
             position -= texte[i] == u'\r' ? 0 : 1;
@@ -515,10 +516,18 @@ private:
             return;
         auto texte = zone_.toPlainText();
         texte.replace(u'\n', QStringLiteral("\r\n"));
-        if (!boîte_.Saisir(DepuisQString(texte)))
-            fenêtre_.Marquer(*this); // shows again what the element holds
-        else
-            NoterSélection();
+        const auto début = boîte_.SelStart();
+        const auto longueur = boîte_.SelLength();
+        const auto curseur = zone_.textCursor();
+        const VueTexte avant =
+            VueTexte{reinterpret_cast<const char16_t*>(texte.utf16()), static_cast<std::size_t>(texte.size())};
+        boîte_.SelStart.Noter(Compter(avant, curseur.position()));
+        boîte_.SelLength.Noter(0);
+        if (boîte_.Saisir(DepuisQString(texte)))
+            return;
+        boîte_.SelStart.Noter(début);
+        boîte_.SelLength.Noter(longueur);
+        fenêtre_.Marquer(*this); // shows again what the element holds
     }
     void NoterSélection()
     {
@@ -538,6 +547,14 @@ private:
 bool EstFrappe(const Touche& touche)
 {
     return touche.Caractère != 0; // arrows move in the list whatever becomes of typed keys
+}
+
+// The toolkit gives the value of a drop-down list as its accessible name: its own name goes into its description.
+void Nommer(QComboBox& liste)
+{
+    const auto description = (liste.objectName() + u' ' + liste.toolTip()).trimmed();
+    if (liste.accessibleDescription() != description)
+        liste.setAccessibleDescription(description);
 }
 
 class VueCombo final : public Vue {
@@ -599,6 +616,7 @@ public:
             liste_.update();
         }
         Vue::Synchroniser();
+        Nommer(liste_);
     }
 
 private:
@@ -610,17 +628,14 @@ private:
 class VueListe final : public Vue {
 public:
     VueListe(Fenêtre& fenêtre, ListBox& éléments, QWidget* parent)
-        : Vue(fenêtre, éléments, new QListWidget{parent}), source_(éléments), liste_(static_cast<QListWidget&>(*widget))
+        : Vue(fenêtre, éléments, new Rangées{*this, parent}),
+          source_(éléments),
+          liste_(static_cast<QListWidget&>(*widget))
     {
         liste_.setUniformItemSizes(true);
         QObject::connect(&liste_, &QListWidget::itemClicked, [this] {
-            // An arrow key has told its choice already.
             if (Agissante())
                 source_.Choisir(liste_.currentRow());
-        });
-        QObject::connect(&liste_, &QListWidget::currentRowChanged, [this](int index) {
-            if (Agissante() && index >= 0 && !liste_.underMouse())
-                source_.Choisir(index);
         });
         QObject::connect(&liste_, &QListWidget::itemDoubleClicked, [this] {
             if (Agissante() && source_.Enabled && source_.EstAtteignable() && source_.DblClick)
@@ -653,6 +668,24 @@ public:
     }
 
 private:
+    class Rangées final : public QListWidget {
+    public:
+        Rangées(VueListe& vue, QWidget* parent) : QListWidget(parent), vue_(vue) {}
+
+    protected:
+        // Arrows choose as a click does.
+        void keyPressEvent(QKeyEvent* événement) override
+        {
+            const int avant = currentRow();
+            QListWidget::keyPressEvent(événement);
+            if (currentRow() != avant && vue_.Agissante())
+                vue_.source_.Choisir(currentRow());
+        }
+
+    private:
+        VueListe& vue_;
+    };
+
     ListBox& source_;
     QListWidget& liste_;
     std::vector<Texte> montrés_;
@@ -680,6 +713,7 @@ public:
         liste_.addItems(textes);
         liste_.setCurrentIndex(static_cast<int>(textes.indexOf(EnQString(source_.Drive()))));
         Vue::Synchroniser();
+        Nommer(liste_);
     }
 
 private:

@@ -22,6 +22,7 @@ void ListerNoms(const FileListBox& liste, ComboBox& noms)
 {
     static constexpr std::size_t LongueurExtension = 4;
     std::vector<Texte> racines;
+    racines.reserve(static_cast<std::size_t>(liste.ListCount()));
     for (int i = 0; i < liste.ListCount(); ++i)
         racines.push_back(liste.List(i).substr(0, liste.List(i).size() - LongueurExtension));
     noms.Clear();

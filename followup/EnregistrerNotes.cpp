@@ -5,11 +5,13 @@
 
 #include <algorithm>
 #include <cassert>
+#include <cmath>
 
 std::optional<float> LireNote(const Texte& cellule)
 {
+    static constexpr double HorsDeMesure = 1e9; // only damage makes such a number
     const auto nombre = LireNombre(cellule);
-    return nombre ? std::optional{static_cast<float>(*nombre)} : std::nullopt;
+    return nombre && std::abs(*nombre) < HorsDeMesure ? std::optional{static_cast<float>(*nombre)} : std::nullopt;
 }
 
 Couleur CouleurDeNote(float note)
@@ -63,6 +65,15 @@ std::optional<float> MoyenneColonne(const frmExercices& choix, int colonne)
         }
     }
     return nombre == 0 ? std::nullopt : std::optional{somme / static_cast<float>(nombre)};
+}
+
+void MontrerVitesseMoyenne(frmExercices& choix)
+{
+    const auto moyenne = MoyenneColonne(choix, ColonneVitesse);
+    if (!moyenne)
+        return;
+    choix.fgRésultats.TextMatrix(0, ColonneVitesse, EnTexte(static_cast<long long>(*moyenne)));
+    choix.lblVitesseMoyenne.Caption = choix.fgRésultats.TextMatrix(0, ColonneVitesse);
 }
 
 int RangéeDuTexte(frmExercices& choix, const Texte& titre)

@@ -27,15 +27,19 @@ bool SauverBilan(frmExercices& choix);
 // Row of the text of that title (the last of several is never reached), made at the end when there is none yet.
 int RangéeDuTexte(frmExercices& choix, const Texte& titre);
 
-// A score cell as a number; nothing when it is empty or no number: the exercise counts as not done.
+// A score cell as a number; nothing when it is empty, no number or out of all measure: the exercise
+// counts as not done.
 std::optional<float> LireNote(const Texte& cellule);
 
 // Mean of the numbers of a column over rows 1 to the last; nothing when there is none.
 std::optional<float> MoyenneColonne(const frmExercices& choix, int colonne);
 
+// The whole part of the mean speed goes in row 0 and on the chooser; nothing changes while no speed is known.
+void MontrerVitesseMoyenne(frmExercices& choix);
+
 Couleur CouleurDeNote(float note);
 
-// Points gained of points possible, on ten, not rounded.
+// Points gained of points possible, on ten, not rounded; 0 when none was possible.
 float NoteSurDix(const Label& gagnés, const Label& possibles);
 
 // First four characters of a score's text, with a point as decimal separator: cut, not rounded.

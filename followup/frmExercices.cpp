@@ -179,14 +179,18 @@ void frmExercices::ChargerBilan()
 
 void frmExercices::RangerChamps(const std::vector<Texte>& champs)
 {
-    const auto textes = static_cast<int>(std::count(champs.begin(), champs.end(), Marqueur));
+    // A cell is written trimmed: what would then open a record opens one now.
+    const auto ouvre = [](const Texte& champ) {
+        return Rogner(champ) == Marqueur;
+    };
+    const auto textes = static_cast<int>(std::count_if(champs.begin(), champs.end(), ouvre));
     fgRésultats.Rows(textes + 1);
     std::vector<Texte> titres;
     bool abîmé = false;
     int rangée = 0;
     int colonne = 0;
     for (const auto& champ : champs) {
-        if (champ == Marqueur) {
+        if (ouvre(champ)) {
             ++rangée;
             colonne = 0;
             continue;
@@ -233,16 +237,10 @@ void frmExercices::GarderCopie()
 void frmExercices::CalculerMoyennes()
 {
     const auto séparateur = application_.plateforme.SéparateurDécimal();
-    for (int colonne = ColonneVitesse; colonne < NombreColonnes; ++colonne) {
-        const auto moyenne = MoyenneColonne(*this, colonne);
-        if (!moyenne)
-            continue;
-        if (colonne == ColonneVitesse) {
-            fgRésultats.TextMatrix(0, colonne, EnTexte(static_cast<long long>(*moyenne)));
-            lblVitesseMoyenne.Caption = fgRésultats.TextMatrix(0, colonne);
-        } else {
+    MontrerVitesseMoyenne(*this);
+    for (int colonne = PremièreColonneNote; colonne < NombreColonnes; ++colonne) {
+        if (const auto moyenne = MoyenneColonne(*this, colonne))
             fgRésultats.TextMatrix(0, colonne, EnTexte(*moyenne, séparateur));
-        }
     }
 }
 
@@ -308,6 +306,13 @@ Texte DossierDuTexte(Texte fichier, const Texte& titre)
     return Rogner(fichier.replace(place, longueur, longueur, u' '));
 }
 
+// The title is a cell of the pupil's file, one line of it.
+bool PeutServirDeTitre(VueTexte titre)
+{
+    return !titre.empty() && titre != Marqueur && TientDansUnChamp(titre) && !Contient(titre, u'\r') &&
+           !Contient(titre, u'\n');
+}
+
 } // namespace
 
 void frmExercices::cmdCharger_Click()
@@ -321,7 +326,7 @@ void frmExercices::cmdCharger_Click()
         return;
     const auto titreFichier = DepuisChemin(EnChemin(*choisi).filename());
     const auto titre = titreFichier.substr(0, titreFichier.find(u'.'));
-    if (Rogner(titre).empty() || titre == Marqueur || !TientDansUnChamp(titre)) {
+    if (!PeutServirDeTitre(Rogner(titre))) {
         Avertir(u"Le nom de ce fichier ne peut pas servir de titre. Demande à ton enseignant de le renommer.");
         return;
     }

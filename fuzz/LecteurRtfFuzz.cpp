@@ -1,6 +1,6 @@
 // Reads any bytes as a text. What was read obeys the text's own rules, and comes back equal once written and read.
 //
-//     LecteurRtfFuzz -dict=fuzz/rtf.dict CORPUS tests/donnees
+//     tests/outils/fuzzer build/fuzz/fuzz/LecteurRtfFuzz FOLDER
 #include "core/EcrivainRtf.h"
 #include "core/LecteurRtf.h"
 

@@ -1,4 +1,5 @@
-# Installs what is missing from Debian's packages. Sourced by run, test and bench/demarrage:
+# shellcheck shell=bash
+# Installs what is missing from Debian's packages. Sourced by run and test, or by hand:
 #
 #   . tools/installer.sh
 #   installer construction bureau

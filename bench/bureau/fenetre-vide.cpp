@@ -2,7 +2,7 @@
 #include <QApplication>
 #include <QWidget>
 
-int main(int argc, char **argv)
+int main(int argc, char** argv)
 {
     QApplication application(argc, argv);
     QWidget fenêtre;

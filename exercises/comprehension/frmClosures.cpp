@@ -1,5 +1,6 @@
 #include "exercises/comprehension/frmClosures.h"
 
+#include "exercises/Conclure.h"
 #include "exercises/TexteEtBarre.h"
 #include "followup/EnregistrerNotes.h"
 
@@ -19,7 +20,9 @@ double FinDesLacunes(VueTexte texte)
 {
     const auto dernier = texte.find_last_not_of(u' ');
     const auto longueur = dernier == VueTexte::npos ? 0 : dernier + 1;
-    for (double p = PartTrouée * static_cast<double>(longueur); p >= 0; p -= 1) {
+    const double départ = PartTrouée * static_cast<double>(longueur);
+    for (std::size_t recul = 0; static_cast<double>(recul) <= départ; ++recul) {
+        const double p = départ - static_cast<double>(recul);
         const auto place = static_cast<std::size_t>(std::nearbyint(p)); // half to even
         if (place < texte.size() && texte[place] == u' ')
             return p;
@@ -124,17 +127,13 @@ void frmClosures::Resize()
     AjusterBoîte(rtfClosures);
 }
 
-void frmClosures::rtfClosures_KeyPress(Touche& touche)
+void frmClosures::rtfClosures_KeyPress(const Touche& touche)
 {
-    if (touche.Code != Touche::Entrée)
-        return;
-    touche.Avaler();
-    SélectionnerTrait(rtfClosures);
+    if (touche.Code == Touche::Entrée)
+        SélectionnerTrait(rtfClosures);
 }
 
 void frmClosures::cmdQuitter_Click()
 {
-    EnregistrerNote(choix_, NoteSurDix(lblPoints(0), lblPoints(1)));
-    SauverBilan(choix_);
-    Décharger();
+    Conclure(*this, choix_, NoteSurDix(lblPoints(0), lblPoints(1)));
 }

@@ -27,7 +27,7 @@ private:
     Arrangement Disposer() override;
 
     void cmdQuitter_Click();
-    void rtfClosures_KeyPress(Touche& touche);
+    void rtfClosures_KeyPress(const Touche& touche);
     void OuvrirTrous();
 
     frmExercices& choix_;

@@ -184,10 +184,7 @@ void frmQuestionnaire1::EnregistrerVitesse(double secondes)
     const int rangée = RangéeDuTexte(choix_, Rogner(choix_.lblTexte.Caption));
     choix_.lblVitesse.Caption = vitesse;
     grille.TextMatrix(rangée, ColonneVitesse, vitesse);
-    if (const auto moyenne = MoyenneColonne(choix_, ColonneVitesse)) {
-        grille.TextMatrix(0, ColonneVitesse, EnTexte(static_cast<long long>(*moyenne)));
-        choix_.lblVitesseMoyenne.Caption = grille.TextMatrix(0, ColonneVitesse);
-    }
+    MontrerVitesseMoyenne(choix_);
     SauverBilan(choix_);
 }
 
@@ -265,7 +262,7 @@ bool frmQuestionnaire1::EstDernièreQuestion() const
 bool frmQuestionnaire1::RéponseJuste(int rangée) const
 {
     for (int i = 0; i < NombreChoix; ++i) {
-        const int drapeau = static_cast<int>(Valeur(fgQuestions.TextMatrix(rangée, ColonneDrapeau(i))));
+        const double drapeau = Valeur(fgQuestions.TextMatrix(rangée, ColonneDrapeau(i)));
         if (chkRéponse(i).Visible && drapeau != chkRéponse(i).Value)
             return false;
     }

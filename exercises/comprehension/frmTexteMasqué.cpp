@@ -2,6 +2,7 @@
 
 #include "core/Fonctions.h"
 #include "exercises/ClassesDeLettres.h"
+#include "exercises/Conclure.h"
 #include "exercises/TexteEtBarre.h"
 #include "followup/EnregistrerNotes.h"
 
@@ -128,7 +129,5 @@ void frmTexteMasqué::DévoilerLettre(int k, VueTexte classe)
 
 void frmTexteMasqué::cmdQuitter_Click()
 {
-    EnregistrerNote(choix_, NoteSurDix(lblPoints(0), lblPoints(1)));
-    SauverBilan(choix_);
-    Décharger();
+    Conclure(*this, choix_, NoteSurDix(lblPoints(0), lblPoints(1)));
 }

@@ -58,8 +58,9 @@ Arrangement frmPhotographier::Disposer()
         Colonne{
             Ligne{lblVitesse, Ressort{}, lblPoints(0), lblPoints(2), lblPoints(1)},
             Extensible(Ligne{
-                Extensible(Colonne{Ressort{}, Ligne{AuMoins(900, 600, Image1), Extensible(AuMoins(4200, 1500, lblMot))},
-                                   cmdAfficher, Ressort{}}),
+                Extensible(Colonne{
+                    Ressort{}, Extensible(Ligne{AuMoins(900, 600, Image1), Extensible(AuMoins(4200, 1500, lblMot))}),
+                    cmdAfficher, Ressort{}}),
                 AuMoins(3600, 0, Colonne{Label3, Colonne{lblRéponse}, Ressort{}}),
             }),
             Ligne{Ressort{}, cmdQuitter},
@@ -93,8 +94,7 @@ void frmPhotographier::cmdAfficher_Click()
     lblMot.ForeColor = Bleu;
     lblMot.Refresh(); // on the display before the time runs
     Chrono.Enabled = true;
-    if (!AttendreArrêt(Chrono))
-        return;
+    static_cast<void>(AttendreArrêt(Chrono)); // the tick does the rest, and nothing is left to do here
 }
 
 void frmPhotographier::EffacerRéponses()

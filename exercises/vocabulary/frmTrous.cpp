@@ -1,5 +1,6 @@
 #include "exercises/vocabulary/frmTrous.h"
 
+#include "exercises/Conclure.h"
 #include "exercises/TexteEtBarre.h"
 #include "followup/EnregistrerNotes.h"
 
@@ -96,7 +97,5 @@ void frmTrous::rtfTrous_KeyPress(Touche& touche)
 
 void frmTrous::cmdQuitter_Click()
 {
-    EnregistrerNote(choix_, NoteSurDix(lblPoints(0), lblPoints(1)));
-    SauverBilan(choix_);
-    Décharger();
+    Conclure(*this, choix_, NoteSurDix(lblPoints(0), lblPoints(1)));
 }

@@ -167,12 +167,14 @@ class Element:
 
     @property
     def texte(self):
-        """What it shows: the contents of a text box, else its value, else its caption."""
+        """What it shows: the contents of a text box, the value of a list, the caption of a label."""
         contenu = self.accessible.get_text_iface()
         if contenu is not None and not self.role.endswith("button"):
             return Atspi.Text.get_text(contenu, 0, Atspi.Text.get_character_count(contenu))
         if self.role == "combo box":
             return self.nom
+        if self.role == "label":
+            return self.accessible.get_description()
         return self.accessible.get_description() or self.nom
 
     def descendants(self):
@@ -267,7 +269,9 @@ class Pilote:
                     return resultat
             except GLib.Error:
                 # A widget went away while it was looked at, or the program is busy.
-                pass
+                if self.programme.poll() is not None:
+                    raise Absent(f"the program has ended, with code {self.programme.returncode}; "
+                                 f"still not: {quoi}") from None
             if time.monotonic() > fin:
                 raise Absent(f"after {delai:.0f} s, still not: {quoi}")
             time.sleep(PAS)

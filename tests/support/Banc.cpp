@@ -91,13 +91,15 @@ std::optional<Texte> PlateformeEssai::DemanderFichierAEnregistrer(const Dialogue
     return Prendre(fichiers, "dialogue de fichier");
 }
 
-std::optional<Couleur> PlateformeEssai::DemanderCouleur(Couleur)
+std::optional<Couleur> PlateformeEssai::DemanderCouleur(Couleur départ)
 {
+    couleursProposées.push_back(départ);
     return Prendre(couleurs, "dialogue de couleur");
 }
 
-std::optional<ChoixPolice> PlateformeEssai::DemanderPolice(const ChoixPolice&)
+std::optional<ChoixPolice> PlateformeEssai::DemanderPolice(const ChoixPolice& départ)
 {
+    policesProposées.push_back(départ);
     return Prendre(choixPolices, "dialogue de police");
 }
 

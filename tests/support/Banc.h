@@ -81,6 +81,8 @@ public:
     std::vector<DialogueFichier> dialogues;
     std::vector<std::string> écransMontrés;
     std::vector<std::pair<Texte, Texte>> imprimés; // whole text, selection
+    std::vector<Couleur> couleursProposées;        // what the dialogs started with
+    std::vector<ChoixPolice> policesProposées;
     Texte pressePapiers;
     int repeints = 0;
     std::function<void(Ecran&)> auRepeint; // looks at what is painted

@@ -9,6 +9,7 @@ inline std::vector<Texte> Mots(int nombre)
 {
     static constexpr int Base = 10;
     std::vector<Texte> mots;
+    mots.reserve(static_cast<std::size_t>(nombre));
     for (int i = 0; i < nombre; ++i)
         mots.push_back(u"mot" + EnTexte(static_cast<long long>(i / Base)) + EnTexte(static_cast<long long>(i % Base)));
     return mots;

@@ -1,0 +1,53 @@
+// Any bytes read as fields, in both modes; what is written of them reads back equal.
+#include "core/FichierChamps.h"
+
+#include <algorithm>
+#include <cstdint>
+#include <cstdlib>
+
+namespace {
+
+void Exiger(bool vrai)
+{
+    if (!vrai)
+        std::abort();
+}
+
+bool TientSurUneLigne(const Texte& champ)
+{
+    return !Contient(champ, u'\r') && !Contient(champ, u'\n');
+}
+
+void RelireEgal(std::vector<Texte> champs, Valeurs valeurs)
+{
+    std::erase_if(champs, [&](const Texte& champ) {
+        return Contient(champ, u'"') || (valeurs == Valeurs::SurUneLigne && !TientSurUneLigne(champ));
+    });
+    const auto octets = ComposerChamps(champs);
+    Exiger(octets.has_value()); // what came out of Windows-1252 goes back
+    Exiger(DécouperChamps(*octets, valeurs) == champs);
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* données, std::size_t taille)
+{
+    const std::string_view octets{reinterpret_cast<const char*>(données), taille};
+    for (const auto valeurs : {Valeurs::SurPlusieursLignes, Valeurs::SurUneLigne}) {
+        auto champs = DécouperChamps(octets, valeurs);
+        if (valeurs == Valeurs::SurUneLigne)
+            Exiger(std::all_of(champs.begin(), champs.end(), TientSurUneLigne));
+        RelireEgal(std::move(champs), valeurs);
+    }
+    // Values as a screen would hand them over: the input cut at every NUL.
+    std::vector<Texte> champs{Texte{}};
+    for (const char octet : octets) {
+        if (octet == '\0')
+            champs.emplace_back();
+        else
+            champs.back() += static_cast<char16_t>(static_cast<unsigned char>(octet) & 0x7FU);
+    }
+    RelireEgal(champs, Valeurs::SurPlusieursLignes);
+    RelireEgal(std::move(champs), Valeurs::SurUneLigne);
+    return 0;
+}

@@ -1,0 +1,35 @@
+#include "authoring/NomFichier.h"
+
+#include <gtest/gtest.h>
+
+TEST(NomFichier, CoupeAuPremierCaractèreQuiNeConvientPas)
+{
+    EXPECT_EQ(CouperNomFichier(u"Le chat de l'île"), u"Le chat de l'île");
+    EXPECT_EQ(CouperNomFichier(u"Le chat. Il dort"), u"Le chat");
+    EXPECT_EQ(CouperNomFichier(u"Chapitre 1"), u"Chapitre ");
+    EXPECT_EQ(CouperNomFichier(u"Peut-être"), u"Peut");
+    EXPECT_EQ(CouperNomFichier(u"Un Éléphant"), u"Un ");
+    EXPECT_EQ(CouperNomFichier(u"où"), u"o");
+    EXPECT_EQ(CouperNomFichier(u"../secret"), u"");
+    EXPECT_EQ(CouperNomFichier(u""), u"");
+}
+
+TEST(NomFichier, ToutesLesLettresAccentuéesPrévuesConviennent)
+{
+    EXPECT_EQ(CouperNomFichier(u"àâçéèêëîïôöûü"), u"àâçéèêëîïôöûü");
+}
+
+TEST(NomFichier, ProposeLesPremiersMots)
+{
+    EXPECT_EQ(NomProposé(u"   Il était une fois un petit chat gris.\r\nFin"), u"Il était une fois un peti.rtf");
+    EXPECT_EQ(NomProposé(u"Le chat"), u"Le chat.rtf");
+    EXPECT_EQ(NomProposé(u"Le chat \r\ndort"), u"Le chat.rtf");
+}
+
+TEST(NomFichier, TexteVideOuSansDébutDonneLExtensionSeule)
+{
+    EXPECT_EQ(NomProposé(u""), u".rtf");
+    EXPECT_EQ(NomProposé(u"     "), u".rtf");
+    EXPECT_EQ(NomProposé(u"\r\nLe chat"), u".rtf");
+    EXPECT_EQ(NomProposé(u"\tLe chat"), u".rtf");
+}

@@ -1,0 +1,130 @@
+#include "core/FichierChamps.h"
+
+#include "core/Fichiers.h"
+#include "tests/support/Banc.h"
+
+namespace {
+
+using Champs = std::vector<Texte>;
+
+Champs SurUneLigne(std::string_view octets)
+{
+    return DécouperChamps(octets, Valeurs::SurUneLigne);
+}
+
+} // namespace
+
+TEST(FichierChamps, RienDonneRien)
+{
+    for (const auto* octets : {"", " ", "\r\n\r\n", "\t \n"}) {
+        EXPECT_TRUE(DécouperChamps(octets).empty());
+        EXPECT_TRUE(SurUneLigne(octets).empty());
+    }
+    EXPECT_EQ(ComposerChamps({}), "");
+}
+
+TEST(FichierChamps, EcritUnChampParLigneEntreGuillemets)
+{
+    EXPECT_EQ(ComposerChamps({u"*", u"été", u"", u" œ "}), "\"*\"\r\n\"\xE9t\xE9\"\r\n\"\"\r\n\" \x9C \"\r\n");
+    EXPECT_FALSE(ComposerChamps({u"a", u"Ω"}).has_value());
+}
+
+TEST(FichierChamps, CeQuiEstEcritSeRelit)
+{
+    const Champs champs{u"*", u"", u"a,b", u"l'été", u" blancs ", u"\t", u"deux\r\nlignes", u"\r\n", u"*", u"œ€"};
+    EXPECT_EQ(DécouperChamps(*ComposerChamps(champs)), champs);
+    const Champs simples{u"*", u"", u"a,b", u" blancs ", u"\t", u"*", u"fin"};
+    EXPECT_EQ(SurUneLigne(*ComposerChamps(simples)), simples);
+}
+
+TEST(FichierChamps, DéfinitionSurPlusieursLignesSurvit)
+{
+    const Champs champs{u"*", u"chat", u"Animal.\r\nIl miaule.\n\nEt dort.", u""};
+    EXPECT_EQ(DécouperChamps(*ComposerChamps(champs)), champs);
+}
+
+TEST(FichierChamps, ToutesLesFinsDeLigne)
+{
+    for (const auto* octets : {"\"a\"\r\n\"b\"\r\n", "\"a\"\n\"b\"\n", "\"a\"\r\"b\"", "\n\n\"a\"\r\n\n\"b\""}) {
+        EXPECT_EQ(DécouperChamps(octets), (Champs{u"a", u"b"}));
+        EXPECT_EQ(SurUneLigne(octets), (Champs{u"a", u"b"}));
+    }
+}
+
+TEST(FichierChamps, VirguleSépareEtBlancsDevantSePassent)
+{
+    EXPECT_EQ(DécouperChamps("\"a\" , \"b\",c, d \r\n  e"), (Champs{u"a", u"b", u"c", u"d", u"e"}));
+    EXPECT_EQ(DécouperChamps("a,,b"), (Champs{u"a", u"", u"b"}));
+    EXPECT_EQ(SurUneLigne("\"a\",\"b\""), (Champs{u"a", u"b"}));
+    EXPECT_EQ(SurUneLigne("6,5\n7"), (Champs{u"6,5", u"7"})); // a comma is part of the number there
+}
+
+TEST(FichierChamps, GuillemetIntérieurNeFermePas)
+{
+    EXPECT_EQ(DécouperChamps("\"dit \"oui\" fort\"\r\n\"b\""), (Champs{u"dit \"oui\" fort", u"b"}));
+    EXPECT_EQ(SurUneLigne("\"dit \"oui\" fort\"\r\n\"b\""), (Champs{u"dit \"oui\" fort", u"b"}));
+}
+
+TEST(FichierChamps, GuillemetJamaisFermé)
+{
+    EXPECT_EQ(DécouperChamps("\"a\r\nb"), (Champs{u"a\r\nb"})); // to the end
+    EXPECT_EQ(SurUneLigne("\"a\r\nb\r\n\"c\""), (Champs{u"a", u"b", u"c"}));
+    EXPECT_EQ(SurUneLigne("\""), (Champs{u""}));
+    EXPECT_EQ(DécouperChamps("\""), (Champs{u""}));
+    EXPECT_EQ(SurUneLigne("\"\r\n\"\r\n"), (Champs{u"", u""}));
+}
+
+TEST(FichierChamps, OctetNulEtOctetsNonAttribuésRestent)
+{
+    const std::string octets{"\"a\0b\x81\"\r\n", 8};
+    EXPECT_EQ(DécouperChamps(octets), (Champs{Texte{u'a', u'\0', u'b', 0x81}}));
+}
+
+TEST(FichierChamps, AstérisqueNEstUnMarqueurQueSeul)
+{
+    EXPECT_EQ(Marqueur, u"*");
+    EXPECT_EQ(DécouperChamps("\"**\"\r\n\"* a\"\r\n*"), (Champs{u"**", u"* a", u"*"}));
+}
+
+TEST(FichierChamps, FichierAbsentOuVide)
+{
+    Banc banc;
+    EXPECT_FALSE(LireChamps(banc.dossier / "absent.dat").has_value());
+    EXPECT_FALSE(LireChamps(banc.dossier).has_value());
+    EXPECT_EQ(LireChamps(banc.Ecrire("vide.dat", "")), Champs{});
+}
+
+TEST(FichierChamps, CeQuiTientDansUnChamp)
+{
+    EXPECT_TRUE(TientDansUnChamp(u""));
+    EXPECT_TRUE(TientDansUnChamp(u"l'œuf, « à point »"));
+    EXPECT_FALSE(TientDansUnChamp(u"dit \"oui\""));
+    EXPECT_FALSE(TientDansUnChamp(u"Ω"));
+}
+
+TEST(FichierChamps, BlancsEtGuillemetsEnFouleSeLisentEnTempsLinéaire)
+{
+    // A million quotes, none of which closes the value: one pass, or the test would never end.
+    std::string octets = "\"";
+    for (int i = 0; i < 1000000; ++i)
+        octets += "\" x";
+    EXPECT_EQ(DécouperChamps(octets).size(), 1U);
+    EXPECT_EQ(SurUneLigne(octets).size(), 1U);
+    std::string lignes;
+    for (int i = 0; i < 200000; ++i)
+        lignes += "\"a\n";
+    EXPECT_EQ(SurUneLigne(lignes).size(), 200000U);
+}
+
+TEST(FichierChamps, LeQuestionnaireFourniSeRelitOctetPourOctet)
+{
+    const Chemin textes = Chemin{DOSSIER_SOURCES} / "textes";
+    for (const auto& entrée : std::filesystem::directory_iterator{textes}) {
+        if (entrée.path().extension() != ".qst")
+            continue;
+        const auto champs = LireChamps(entrée.path());
+        ASSERT_TRUE(champs.has_value());
+        EXPECT_EQ(champs->size() % 11, 0U);
+        EXPECT_EQ(ComposerChamps(*champs), LireFichier(entrée.path()));
+    }
+}

@@ -1,0 +1,126 @@
+#include "core/Fichiers.h"
+
+#include "followup/EnregistrerNotes.h"
+#include "tests/support/Banc.h"
+
+#include <csignal>
+
+#include <sys/resource.h>
+
+namespace {
+
+// A disk with room for that many bytes: writing more fails half way.
+class DisquePlein {
+public:
+    explicit DisquePlein(rlim_t octets) : signal_(std::signal(SIGXFSZ, SIG_IGN))
+    {
+        ::getrlimit(RLIMIT_FSIZE, &limite_);
+        auto courte = limite_;
+        courte.rlim_cur = octets;
+        ::setrlimit(RLIMIT_FSIZE, &courte);
+    }
+    DisquePlein(const DisquePlein&) = delete;
+    DisquePlein& operator=(const DisquePlein&) = delete;
+    ~DisquePlein()
+    {
+        ::setrlimit(RLIMIT_FSIZE, &limite_);
+        static_cast<void>(std::signal(SIGXFSZ, signal_));
+    }
+
+private:
+    rlimit limite_{};
+    void (*signal_)(int);
+};
+
+} // namespace
+
+TEST(Fichiers, RéécritEtRelit)
+{
+    Banc banc;
+    const auto fichier = banc.dossier / "été.bin";
+    std::string octets;
+    for (int i = 0; i < 300000; ++i)
+        octets += static_cast<char>(i);
+    EXPECT_FALSE(RéécrireFichier(fichier, octets));
+    EXPECT_EQ(LireFichier(fichier), octets);
+    EXPECT_FALSE(RéécrireFichier(fichier, "court")); // nothing of the longer one is left
+    EXPECT_EQ(LireFichier(fichier), "court");
+    EXPECT_FALSE(RéécrireFichier(fichier, ""));
+    EXPECT_EQ(LireFichier(fichier), "");
+}
+
+TEST(Fichiers, AbsentOuDossierNeSeLitPas)
+{
+    Banc banc;
+    EXPECT_FALSE(LireFichier(banc.dossier / "absent").has_value());
+    EXPECT_FALSE(LireFichier(banc.dossier).has_value());
+}
+
+TEST(Fichiers, DossierAbsentEstUnEchecDOuverture)
+{
+    Banc banc;
+    EXPECT_EQ(RéécrireFichier(banc.dossier / "absent" / "a.txt", "a"), EchecFichier::Ouverture);
+    banc.Ecrire("plein/x", "");
+    EXPECT_EQ(RéécrireFichier(banc.dossier / "plein", "a"), EchecFichier::Ouverture);
+    EXPECT_TRUE(banc.Existe("plein/x"));
+}
+
+TEST(Fichiers, DisquePleinEstUnEchecDEcriture)
+{
+    Banc banc;
+    const auto fichier = banc.dossier / "a.txt";
+    {
+        const DisquePlein disque{4096};
+        EXPECT_EQ(RéécrireFichier(fichier, std::string(10000, 'a')), EchecFichier::Ecriture);
+        EXPECT_FALSE(RéécrireFichier(fichier, std::string(4096, 'a')));
+    }
+    EXPECT_FALSE(RéécrireFichier(fichier, std::string(10000, 'b')));
+    EXPECT_EQ(LireFichier(fichier), std::string(10000, 'b'));
+}
+
+TEST(Fichiers, DisquePleinPendantUnBilanSeDitEtSeRattrape)
+{
+    Banc banc;
+    banc.Texte_(u"Un texte.", Texte(5000, u'a'));
+    banc.Index(0);
+    EnregistrerNote(banc.Choix(), 5);
+    {
+        const DisquePlein disque{1000};
+        banc.AnnoncerBoîte(MessageEchec(EchecFichier::Ecriture, DepuisChemin(banc.dossier / "Léa.bil")));
+        EXPECT_FALSE(SauverBilan(banc.Choix()));
+    }
+    EXPECT_TRUE(SauverBilan(banc.Choix()));
+    EXPECT_GT(banc.Lire("Léa.bil")->size(), 5000U);
+}
+
+TEST(Fichiers, Windows1252SelonLaTable)
+{
+    const Texte haut = u"€\u0081‚ƒ„…†‡ˆ‰Š‹Œ\u008DŽ\u008F\u0090‘’“”•–—˜™š›œ\u009DžŸ";
+    std::string octets;
+    for (int code = 0; code < 256; ++code)
+        octets += static_cast<char>(code);
+    const auto texte = DepuisWindows1252(octets);
+    ASSERT_EQ(texte.size(), 256U);
+    for (std::size_t code = 0; code < 256; ++code) {
+        const bool table = code >= 0x80 && code < 0xA0;
+        EXPECT_EQ(texte[code], table ? haut[code - 0x80] : static_cast<char16_t>(code)) << code;
+    }
+    EXPECT_EQ(EnWindows1252(texte), octets);
+}
+
+TEST(Fichiers, HorsDeWindows1252NeDevientJamaisUnPointDInterrogation)
+{
+    for (const auto* texte : {u"Ω", u"e\u0301", u"\U0001F600", u"ł", u"\uFFFD", u"\u0100"}) {
+        EXPECT_FALSE(EnWindows1252(texte).has_value());
+        EXPECT_FALSE(TientEnWindows1252(texte));
+    }
+    EXPECT_TRUE(TientEnWindows1252(u"œ€Ÿ"));
+    EXPECT_TRUE(TientEnWindows1252(u""));
+}
+
+TEST(Fichiers, LeMessageNommeLeFichier)
+{
+    EXPECT_NE(MessageEchec(EchecFichier::Ouverture, u"/a/b.bil").find(u"/a/b.bil"), Texte::npos);
+    EXPECT_NE(MessageEchec(EchecFichier::Ecriture, u"/a/b.bil").find(u"/a/b.bil"), Texte::npos);
+    EXPECT_NE(MessageEchec(EchecFichier::Ecriture, u"a"), MessageEchec(EchecFichier::Ouverture, u"a"));
+}

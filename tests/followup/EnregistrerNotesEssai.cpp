@@ -1,0 +1,289 @@
+#include "followup/EnregistrerNotes.h"
+
+#include "core/FichierChamps.h"
+#include "tests/support/Banc.h"
+
+#include <array>
+#include <cstdlib>
+
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace {
+
+constexpr VueTexte DossierInaccessible = u"Le répertoire des fichiers \"Elèves\" n'est pas accessible.\n\n"
+                                         u"Veuillez vérifier votre connexion avant de continuer !\n";
+
+void Noter(Banc& banc, int exercice, float note)
+{
+    banc.Index(exercice);
+    EnregistrerNote(banc.Choix(), note);
+}
+
+void Titre(Banc& banc, const Texte& titre)
+{
+    banc.Choix().lblTexte.Caption = u" " + titre + u" ";
+}
+
+} // namespace
+
+// ---- Scores in the grid ------------------------------------------------------------------------------------------
+
+TEST(EnregistrerNotes, PremierExerciceFaitUneRangéeEtTrenteEtUneLignes)
+{
+    Banc banc;
+    banc.Texte_(u"Un texte.", u"Le chat");
+    Noter(banc, 3, 7.5F);
+    ASSERT_TRUE(SauverBilan(banc.Choix()));
+    EXPECT_EQ(banc.Choix().fgRésultats.Rows(), 2);
+    const auto octets = banc.Lire("Léa.bil").value_or("");
+    EXPECT_EQ(std::count(octets.begin(), octets.end(), '\n'), 31);
+    EXPECT_TRUE(octets.starts_with("\"*\"\r\n\"Le chat\"\r\n\"\"\r\n\"\"\r\n\"\"\r\n\"\"\r\n\"7,5\"\r\n"));
+    EXPECT_TRUE(octets.ends_with("\"\"\r\n"));
+}
+
+TEST(EnregistrerNotes, SecondeNoteRemplaceLaPremièreMêmeMeilleure)
+{
+    Banc banc;
+    banc.Texte_(u"Un texte.");
+    Noter(banc, 0, 9);
+    Noter(banc, 0, 4);
+    EXPECT_EQ(banc.Choix().fgRésultats.Rows(), 2);
+    EXPECT_EQ(banc.Note(0), u"4");
+    EXPECT_EQ(banc.Choix().fgRésultats.TextMatrix(0, PremièreColonneNote), u"4");
+    EXPECT_EQ(banc.Choix().lblMoyenne(0).Caption, u"4");
+}
+
+TEST(EnregistrerNotes, MoyenneSurTousLesTextes)
+{
+    Banc banc;
+    banc.Texte_(u"Un texte.", u"A");
+    Noter(banc, 26, 10);
+    Titre(banc, u"B");
+    Noter(banc, 26, 5);
+    Titre(banc, u"C");
+    Noter(banc, 25, 1); // another exercise doesn't count
+    EXPECT_EQ(banc.Choix().fgRésultats.TextMatrix(0, 28), u"7,5");
+    EXPECT_EQ(banc.Choix().lblMoyenne(26).Caption, u"7.5");
+    EXPECT_EQ(banc.Choix().lblMoyenne(26).BackColor, Vert);
+    EXPECT_EQ(banc.Choix().lblExo(26).BackColor, Jaune);
+}
+
+TEST(EnregistrerNotes, CouleursAuxBornes)
+{
+    const std::vector<std::pair<float, Couleur>> attendues{{0, Rouge}, {2.99F, Rouge}, {3, Orange}, {4.99F, Orange},
+                                                           {5, Jaune}, {6.99F, Jaune}, {7, Vert},   {8.99F, Vert},
+                                                           {9, Cyan},  {10, Cyan}};
+    for (const auto& [note, teinte] : attendues)
+        EXPECT_EQ(CouleurDeNote(note), teinte) << note;
+}
+
+TEST(EnregistrerNotes, InfoBulleCoupéeSansArrondir)
+{
+    Banc banc;
+    banc.Texte_(u"Un texte.");
+    Noter(banc, 1, 10);
+    EXPECT_EQ(banc.Choix().lblExo(1).ToolTipText, u"10");
+    Noter(banc, 1, 6.6666F);
+    EXPECT_EQ(banc.Choix().lblExo(1).ToolTipText, u"6.66");
+    Noter(banc, 1, 20.0F / 3);
+    EXPECT_EQ(banc.Note(1), u"6,666667");
+    EXPECT_EQ(banc.Choix().lblExo(1).ToolTipText, u"6.66");
+    Noter(banc, 1, 0);
+    EXPECT_EQ(banc.Choix().lblExo(1).ToolTipText, u"0");
+}
+
+TEST(EnregistrerNotes, TitresQuiDiffèrentParLaCasseFontDeuxRangées)
+{
+    Banc banc;
+    banc.Texte_(u"Un texte.", u"Le Chat");
+    Noter(banc, 0, 5);
+    Titre(banc, u"Le chat");
+    Noter(banc, 0, 6);
+    EXPECT_EQ(banc.Choix().fgRésultats.Rows(), 3);
+}
+
+TEST(EnregistrerNotes, MêmeTitreDansDeuxDossiersPartageSaRangée)
+{
+    Banc banc;
+    banc.Texte_(u"Un texte.");
+    Noter(banc, 0, 5);
+    banc.état.CheminTexteElève = u"/ailleurs/";
+    Noter(banc, 0, 6);
+    EXPECT_EQ(banc.Choix().fgRésultats.Rows(), 2);
+}
+
+TEST(EnregistrerNotes, PointDécimalSelonLaMachine)
+{
+    Banc banc;
+    banc.plateforme.séparateur = u'.';
+    banc.Texte_(u"Un texte.");
+    Noter(banc, 0, 6.25F);
+    EXPECT_EQ(banc.Note(0), u"6.25");
+    EXPECT_EQ(banc.Choix().lblExo(0).ToolTipText, u"6.25");
+}
+
+TEST(EnregistrerNotes, RienDePossibleFaitZéro)
+{
+    Banc banc;
+    auto& choix = banc.Choix();
+    choix.lblVitesse.Caption = u"0";
+    choix.lblIndex.Caption = u"0";
+    EXPECT_EQ(NoteSurDix(choix.lblVitesse, choix.lblIndex), 0);
+    choix.lblVitesse.Caption = u"5";
+    choix.lblIndex.Caption = u"8";
+    EXPECT_EQ(NoteSurDix(choix.lblVitesse, choix.lblIndex), 6.25F);
+}
+
+TEST(EnregistrerNotes, CelluleQuiNEstPasUnNombreCompteCommeNonFaite)
+{
+    for (const auto* cellule : {u"", u"abc", u"7a", u"--", u"1,2,3", u"1e5", u"9999999999999999999999999999", u"*"})
+        EXPECT_FALSE(LireNote(cellule).has_value()) << EnUtf8(cellule);
+    EXPECT_EQ(LireNote(u"6,5"), 6.5F);
+    EXPECT_EQ(LireNote(u" 6.5 "), 6.5F);
+}
+
+// ---- The file ----------------------------------------------------------------------------------------------------
+
+TEST(SauverBilan, SansRéseauLeDossierDuProgrammeSert)
+{
+    Banc banc;
+    banc.Texte_(u"Un texte.");
+    Noter(banc, 0, 5);
+    banc.état.CheminBilans = u"/ailleurs";
+    EXPECT_TRUE(SauverBilan(banc.Choix()));
+    EXPECT_EQ(banc.état.CheminBilans, banc.état.CheminAppli);
+    EXPECT_FALSE(banc.Lire("Léa.bil")->empty());
+}
+
+TEST(SauverBilan, DossierPerduEnCoursDeRouteOkRéessaie)
+{
+    Banc banc;
+    std::filesystem::create_directory(banc.dossier / "réseau");
+    banc.Texte_(u"Un texte.");
+    banc.état.CheminRéseau = banc.état.CheminAppli + u"/réseau";
+    Noter(banc, 0, 5);
+    ASSERT_TRUE(SauverBilan(banc.Choix()));
+    std::filesystem::remove_all(banc.dossier / "réseau");
+    banc.AnnoncerBoîte(Texte{DossierInaccessible}, Réponse::Ok);
+    banc.plateforme.boîtes.push_back({Texte{DossierInaccessible}, Réponse::Ok, u"CONNEXION RESEAU DEFECTUEUSE", [&] {
+                                          std::filesystem::create_directory(banc.dossier / "réseau");
+                                      }});
+    Noter(banc, 0, 6);
+    EXPECT_TRUE(SauverBilan(banc.Choix()));
+    EXPECT_TRUE(banc.Lire("réseau/Léa.bil")->find("\"6\"") != std::string::npos);
+}
+
+TEST(SauverBilan, AnnulerEnregistreSurPlaceEtLeSuivantRevientAuRéseau)
+{
+    Banc banc;
+    banc.Texte_(u"Un texte.");
+    banc.état.CheminRéseau = banc.état.CheminAppli + u"/réseau";
+    Noter(banc, 0, 5);
+    banc.AnnoncerBoîte(Texte{DossierInaccessible}, Réponse::Annuler);
+    EXPECT_TRUE(SauverBilan(banc.Choix()));
+    EXPECT_EQ(banc.plateforme.boîtesMontrées.back().Choix, Boutons::OkAnnuler);
+    EXPECT_EQ(banc.état.CheminBilans, banc.état.CheminAppli);
+    EXPECT_EQ(banc.état.CheminRéseau, banc.état.CheminAppli + u"/réseau");
+    EXPECT_FALSE(banc.Lire("Léa.bil")->empty());
+
+    std::filesystem::create_directory(banc.dossier / "réseau");
+    EXPECT_TRUE(SauverBilan(banc.Choix()));
+    EXPECT_TRUE(banc.Existe("réseau/Léa.bil"));
+    EXPECT_EQ(banc.état.CheminBilans, banc.état.CheminRéseau);
+}
+
+TEST(SauverBilan, AucunDossierNAccepteLeDitEtGardeTout)
+{
+    Banc banc;
+    banc.Texte_(u"Un texte.");
+    Noter(banc, 0, 5);
+    banc.plateforme.échecEcriture = [](const Chemin&) {
+        return EchecFichier::Ouverture;
+    };
+    banc.AnnoncerBoîte(Texte{DossierInaccessible}, Réponse::Annuler);
+    const auto fichier = DepuisChemin(banc.dossier / "Léa.bil");
+    banc.AnnoncerBoîte(MessageEchec(EchecFichier::Ouverture, fichier));
+    EXPECT_FALSE(SauverBilan(banc.Choix()));
+    EXPECT_FALSE(banc.Choix().BilanEnregistré);
+
+    banc.plateforme.échecEcriture = nullptr;
+    Noter(banc, 1, 8);
+    EXPECT_TRUE(SauverBilan(banc.Choix()));
+    EXPECT_TRUE(banc.Choix().BilanEnregistré);
+    EXPECT_NE(banc.Lire("Léa.bil")->find("\"5\"\r\n\"8\""), std::string::npos);
+}
+
+TEST(SauverBilan, EcritureQuiEchoueAprèsOuvertureNommeLeFichier)
+{
+    Banc banc;
+    banc.Texte_(u"Un texte.");
+    Noter(banc, 0, 5);
+    banc.plateforme.échecEcriture = [](const Chemin&) {
+        return EchecFichier::Ecriture;
+    };
+    banc.AnnoncerBoîte(MessageEchec(EchecFichier::Ecriture, DepuisChemin(banc.dossier / "Léa.bil")));
+    EXPECT_FALSE(SauverBilan(banc.Choix()));
+    EXPECT_EQ(banc.Note(0), u"5");
+    banc.plateforme.échecEcriture = nullptr;
+    EXPECT_TRUE(SauverBilan(banc.Choix()));
+    EXPECT_NE(banc.Lire("Léa.bil")->find("\"5\""), std::string::npos);
+}
+
+TEST(SauverBilan, FermerLeChoixRéessaieCeQuiNAPasPuSEcrire)
+{
+    Banc banc;
+    banc.Texte_(u"Un texte.");
+    Noter(banc, 0, 5);
+    banc.plateforme.échecEcriture = [](const Chemin&) {
+        return EchecFichier::Ecriture;
+    };
+    banc.AnnoncerBoîte(u"Impossible d'enregistrer…");
+    EXPECT_FALSE(SauverBilan(banc.Choix()));
+    banc.plateforme.échecEcriture = nullptr;
+    banc.Choix().cmdQuitter.Cliquer();
+    EXPECT_NE(banc.Lire("Léa.bil")->find("\"5\""), std::string::npos);
+}
+
+// ---- Many machines -----------------------------------------------------------------------------------------------
+
+TEST(SauverBilan, HuitMachinesEnregistrentEnsembleSansSeGêner)
+{
+    static constexpr int Machines = 8;
+    static constexpr int Enregistrements = 200;
+    Banc banc;
+    // Each time another length, so that a leftover of an earlier save would show.
+    const auto contenu = [](int machine, int fois) {
+        std::vector<Texte> champs;
+        for (int texte = 0; texte <= fois % 7; ++texte) {
+            champs.emplace_back(Marqueur);
+            champs.push_back(u"Texte " + EnTexte(static_cast<long long>(texte)));
+            champs.insert(champs.end(), NombreColonnes - 1, EnTexte(static_cast<long long>(machine * 1000 + fois)));
+        }
+        return ComposerChamps(champs).value();
+    };
+    const auto fichier = [&](int machine) {
+        return EnChemin(FichierBilan(banc.état.CheminBilans, u"Élève " + EnTexte(static_cast<long long>(machine))));
+    };
+    std::array<pid_t, Machines> enfants{};
+    for (int machine = 0; machine < Machines; ++machine) {
+        enfants[static_cast<std::size_t>(machine)] = ::fork();
+        if (enfants[static_cast<std::size_t>(machine)] != 0)
+            continue;
+        int échecs = 0;
+        for (int fois = 0; fois < Enregistrements; ++fois) {
+            const auto octets = contenu(machine, fois);
+            if (RéécrireFichier(fichier(machine), octets) || LireFichier(fichier(machine)) != octets)
+                ++échecs;
+        }
+        ::_exit(échecs == 0 ? EXIT_SUCCESS : EXIT_FAILURE);
+    }
+    for (const auto enfant : enfants) {
+        ASSERT_GT(enfant, 0);
+        int fin = -1;
+        EXPECT_EQ(::waitpid(enfant, &fin, 0), enfant);
+        EXPECT_EQ(fin, 0);
+    }
+    for (int machine = 0; machine < Machines; ++machine)
+        EXPECT_EQ(LireFichier(fichier(machine)), contenu(machine, Enregistrements - 1));
+}

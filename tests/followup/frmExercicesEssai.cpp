@@ -1,0 +1,548 @@
+#include "followup/frmExercices.h"
+
+#include "core/EcrivainRtf.h"
+#include "core/FichierChamps.h"
+#include "exercises/comprehension/frmQuestionnaire1.h"
+#include "followup/EnregistrerNotes.h"
+#include "tests/support/Banc.h"
+
+namespace {
+
+constexpr VueTexte AFaire = u" A faire ";
+constexpr VueTexte DossierInaccessible = u"Le répertoire des fichiers \"Elèves\" n'est pas accessible.\n\n"
+                                         u"Veuillez vérifier votre connexion avant de continuer !\n";
+constexpr int PetitsTitres = 5000;
+
+// A record of 30 fields with its marker.
+std::vector<Texte> Fiche(Texte titre, Texte vitesse, std::vector<Texte> notes = {})
+{
+    std::vector<Texte> champs{Texte{Marqueur}, std::move(titre), std::move(vitesse)};
+    champs.insert(champs.end(), notes.begin(), notes.end());
+    champs.resize(NombreColonnes + 1);
+    return champs;
+}
+
+std::vector<Texte> Fiches(std::initializer_list<std::vector<Texte>> fiches)
+{
+    std::vector<Texte> champs;
+    for (const auto& fiche : fiches)
+        champs.insert(champs.end(), fiche.begin(), fiche.end());
+    return champs;
+}
+
+// A chooser with that pupil file, signed in.
+class Connexion {
+public:
+    explicit Connexion(Banc& banc, std::string_view octets = {}) : choix_(banc.application)
+    {
+        banc.Ecrire("Zoé.bil", octets);
+        Ouvrir();
+    }
+    Connexion(Banc& banc, const std::vector<Texte>& champs) : Connexion(banc, *ComposerChamps(champs)) {}
+    Connexion(const Connexion&) = delete;
+    Connexion& operator=(const Connexion&) = delete;
+    ~Connexion() { choix_.Décharger(); }
+
+    frmExercices* operator->() { return &choix_; }
+    frmExercices& operator*() { return choix_; }
+
+private:
+    void Ouvrir()
+    {
+        choix_.Charger();
+        choix_.Dimensionner(12000, 9000);
+        choix_.Activer();
+        choix_.cmdOk.Cliquer();
+    }
+    frmExercices choix_;
+};
+
+Texte EcrireTexte(Banc& banc, const std::string& nom, const TexteRiche& texte)
+{
+    return DepuisChemin(banc.Ecrire(nom, EcrireRtf(texte)));
+}
+
+Texte Long(std::size_t caractères = 300)
+{
+    return Texte(caractères, u'a');
+}
+
+void ChargerTexte(Banc& banc, frmExercices& choix, const Texte& fichier)
+{
+    banc.AnnoncerFichier(fichier);
+    choix.cmdCharger.Cliquer();
+}
+
+} // namespace
+
+// ---- Signing in --------------------------------------------------------------------------------------------------
+
+TEST(Exercices, ListeLesElèvesSousLeCadre)
+{
+    Banc banc;
+    banc.Ecrire("Zoé.bil", "");
+    banc.Ecrire("Éva & Tom.bil", "");
+    banc.Ecrire("texte.rtf", "");
+    auto& choix = banc.Ouvrir<frmExercices>();
+    EXPECT_EQ(choix.Caption, u"Choix des exercices");
+    EXPECT_EQ(choix.cmbNoms.Eléments(), (std::vector<Texte>{u"Éva & Tom", u"Zoé"}));
+    EXPECT_EQ(choix.cmbNoms.Text, u"Éva & Tom");
+    EXPECT_TRUE(choix.frameElève.Visible);
+    EXPECT_EQ(choix.frameElève.Width, choix.Width());
+    EXPECT_EQ(choix.frameElève.Height, choix.Height());
+    choix.cmdCharger.Cliquer(); // under the frame: no dialog
+    choix.lblExo(0).Cliquer();
+    EXPECT_TRUE(banc.plateforme.dialogues.empty());
+}
+
+TEST(Exercices, SansElèveLeDitEtSeConnecteSansNom)
+{
+    Banc banc;
+    banc.AnnoncerBoîte(u"Il n'y a aucun fichier élève enregistré !");
+    auto& choix = banc.Ouvrir<frmExercices>();
+    EXPECT_TRUE(choix.frameElève.Visible);
+    choix.cmdOk.Cliquer();
+    EXPECT_EQ(banc.état.NomElève, u"");
+    EXPECT_FALSE(choix.frameElève.Visible);
+}
+
+TEST(Exercices, PremierDépartSansCheminListeLeDossierDuProgramme)
+{
+    Banc banc;
+    banc.Ecrire("Zoé.bil", "");
+    banc.état.CheminBilans.clear();
+    EXPECT_EQ(banc.Ouvrir<frmExercices>().cmbNoms.Text, u"Zoé");
+}
+
+TEST(Exercices, DossierInaccessibleRéessaiePuisRevientAuProgramme)
+{
+    Banc banc;
+    banc.Ecrire("Zoé.bil", "");
+    banc.état.CheminBilans = u"/parti";
+    banc.AnnoncerBoîte(Texte{DossierInaccessible}, Réponse::Ok);
+    banc.AnnoncerBoîte(Texte{DossierInaccessible}, Réponse::Annuler);
+    auto& choix = banc.Ouvrir<frmExercices>();
+    EXPECT_EQ(banc.plateforme.boîtesMontrées.back().Titre, u"CONNEXION RESEAU DEFECTUEUSE");
+    EXPECT_EQ(banc.état.CheminBilans, banc.état.CheminAppli);
+    EXPECT_EQ(choix.cmbNoms.Text, u"Zoé");
+}
+
+TEST(Exercices, NouvelElèveNARien)
+{
+    Banc banc;
+    Connexion choix{banc};
+    EXPECT_EQ(banc.état.NomElève, u"Zoé");
+    EXPECT_EQ(choix->Caption, u"Choix des exercices / Zoé");
+    EXPECT_FALSE(choix->frameElève.Visible);
+    EXPECT_EQ(choix->fgRésultats.Rows(), 1);
+    EXPECT_EQ(choix->cmbTextes.ListCount(), 0);
+    for (int i = 0; i < NombreExercices; ++i) {
+        EXPECT_EQ(choix->lblExo(i).BackColor, Blanc);
+        EXPECT_EQ(choix->lblExo(i).ToolTipText, AFaire);
+        EXPECT_EQ(choix->lblMoyenne(i).Caption, u"");
+        EXPECT_EQ(choix->lblExo(i).Caption, Exercices[static_cast<std::size_t>(i)].libellé);
+    }
+}
+
+// ---- The pupil's file --------------------------------------------------------------------------------------------
+
+TEST(Bilan, RelitCeQuIlAEcrit)
+{
+    Banc banc;
+    const auto champs = Fiches({Fiche(u"Le chat", u"120", {u"10", u"", u"6,666667"}), Fiche(u"L'été", u"", {u"5"})});
+    Connexion choix{banc, champs};
+    ASSERT_EQ(choix->fgRésultats.Rows(), 3);
+    EXPECT_EQ(choix->fgRésultats.TextMatrix(0, 2), u"7,5");
+    EXPECT_EQ(choix->fgRésultats.TextMatrix(0, 1), u"120");
+    EXPECT_EQ(choix->lblVitesseMoyenne.Caption, u"120");
+    EXPECT_EQ(choix->lblMoyenne(0).Caption, u"7.5");
+    EXPECT_EQ(choix->lblMoyenne(2).Caption, u"6.66");
+    EXPECT_EQ(choix->lblMoyenne(2).BackColor, Jaune);
+    EXPECT_EQ(choix->lblMoyenne(1).BackColor, Blanc);
+    EXPECT_EQ(choix->cmbTextes.Eléments(), (std::vector<Texte>{u"Le chat", u"L'été"}));
+    EXPECT_EQ(choix->cmbTextes.Text, u"L'été"); // the last one, painted
+    EXPECT_EQ(choix->lblExo(0).BackColor, Jaune);
+    EXPECT_EQ(choix->lblExo(0).ToolTipText, u"5");
+    EXPECT_EQ(choix->lblExo(2).ToolTipText, AFaire);
+    EXPECT_TRUE(SauverBilan(*choix));
+    EXPECT_EQ(LireChamps(banc.dossier / "Zoé.bil"), champs);
+}
+
+TEST(Bilan, VitesseMoyenneEstLaPartieEntière)
+{
+    Banc banc;
+    Connexion choix{banc, Fiches({Fiche(u"A", u"100"), Fiche(u"B", u"101"), Fiche(u"C", u"")})};
+    EXPECT_EQ(choix->fgRésultats.TextMatrix(0, ColonneVitesse), u"100");
+    EXPECT_EQ(choix->lblVitesseMoyenne.Caption, u"100");
+}
+
+TEST(Bilan, VirguleEtPointSeLisentTousDeux)
+{
+    Banc banc;
+    Connexion choix{banc, Fiches({Fiche(u"A", u"", {u"6,5"}), Fiche(u"B", u"", {u"7.5"})})};
+    EXPECT_EQ(choix->lblMoyenne(0).Caption, u"7");
+    EXPECT_TRUE(SauverBilan(*choix));
+    EXPECT_NE(banc.Lire("Zoé.bil")->find("\"7,5\""), std::string::npos); // this machine's own separator
+}
+
+TEST(Bilan, FicheTropCourteLaisseDesCellulesVides)
+{
+    Banc banc;
+    Connexion choix{banc, std::vector<Texte>{u"*", u"A", u"100", u"5", u"*", u"B"}};
+    ASSERT_EQ(choix->fgRésultats.Rows(), 3);
+    EXPECT_EQ(choix->fgRésultats.TextMatrix(1, 2), u"5");
+    EXPECT_EQ(choix->fgRésultats.TextMatrix(1, 28), u"");
+    EXPECT_EQ(choix->fgRésultats.TextMatrix(2, 0), u"B");
+    EXPECT_TRUE(banc.plateforme.boîtesMontrées.empty());
+}
+
+TEST(Bilan, FicheTropLongueSeLitEtLeFichierEstGardé)
+{
+    Banc banc;
+    auto fiche = Fiche(u"A", u"100", {u"5"});
+    fiche.emplace_back(u"de trop");
+    const auto champs = Fiches({fiche, Fiche(u"B", u"90")});
+    banc.AnnoncerBoîte(u"Le fichier des résultats\n…");
+    Connexion choix{banc, champs};
+    EXPECT_EQ(choix->fgRésultats.Rows(), 3);
+    EXPECT_EQ(choix->fgRésultats.TextMatrix(2, 0), u"B");
+    EXPECT_EQ(LireChamps(banc.dossier / "Zoé.bil.abîmé1"), champs);
+}
+
+TEST(Bilan, SansAstérisqueEnTêteLeDébutEstPasséEtGardé)
+{
+    Banc banc;
+    banc.Ecrire("Zoé.bil.abîmé1", "d'avant");
+    banc.AnnoncerBoîte(u"Le fichier des résultats\n…");
+    Connexion choix{banc, Fiches({{u"perdu", u"12"}, Fiche(u"A", u"100")})};
+    EXPECT_EQ(choix->fgRésultats.Rows(), 2);
+    EXPECT_EQ(choix->cmbTextes.Eléments(), (std::vector<Texte>{u"A"}));
+    EXPECT_EQ(banc.Lire("Zoé.bil.abîmé1"), "d'avant");
+    EXPECT_TRUE(banc.Existe("Zoé.bil.abîmé2"));
+}
+
+TEST(Bilan, LettresPourNoteComptentCommeNonFait)
+{
+    Banc banc;
+    Connexion choix{banc, Fiches({Fiche(u"A", u"vite", {u"bien", u"8"}), Fiche(u"B", u"80", {u"4", u"très bien"})})};
+    EXPECT_EQ(choix->lblMoyenne(0).Caption, u"4");
+    EXPECT_EQ(choix->lblMoyenne(1).Caption, u"8");
+    EXPECT_EQ(choix->lblExo(1).BackColor, Blanc);
+    EXPECT_EQ(choix->lblExo(1).ToolTipText, AFaire);
+    EXPECT_EQ(choix->lblVitesseMoyenne.Caption, u"80");
+}
+
+TEST(Bilan, ToutesLesFinsDeLigneSeLisent)
+{
+    for (const auto* fin : {"\r\n", "\n", "\r"}) {
+        Banc banc;
+        std::string octets;
+        for (const auto* champ : {"*", "A", "100", "5"})
+            octets += '"' + std::string{champ} + '"' + fin;
+        Connexion choix{banc, octets};
+        EXPECT_EQ(choix->fgRésultats.Rows(), 2);
+        EXPECT_EQ(choix->fgRésultats.TextMatrix(1, 2), u"5");
+    }
+}
+
+TEST(Bilan, GuillemetSeulNeToucheQueSaLigne)
+{
+    Banc banc;
+    Connexion choix{banc, std::string_view{"\"*\"\r\n\"Le chat\r\n\"100\"\r\n\"\r\n\"6\"\r\n\"*\"\r\n\"B\"\r\n"}};
+    ASSERT_EQ(choix->fgRésultats.Rows(), 3);
+    EXPECT_EQ(choix->fgRésultats.TextMatrix(1, 0), u"Le chat");
+    EXPECT_EQ(choix->fgRésultats.TextMatrix(1, 1), u"100");
+    EXPECT_EQ(choix->fgRésultats.TextMatrix(1, 2), u"");
+    EXPECT_EQ(choix->fgRésultats.TextMatrix(1, 3), u"6");
+    EXPECT_EQ(choix->fgRésultats.TextMatrix(2, 0), u"B");
+}
+
+TEST(Bilan, AstérisqueEntreBlancsOuvreUneFicheDèsLaLecture)
+{
+    Banc banc;
+    Connexion choix{banc, std::vector<Texte>{u"*", u"A", u" * ", u"B"}};
+    ASSERT_EQ(choix->fgRésultats.Rows(), 3);
+    EXPECT_TRUE(SauverBilan(*choix));
+    EXPECT_EQ(LireChamps(banc.dossier / "Zoé.bil"), Fiches({Fiche(u"A", u""), Fiche(u"B", u"")}));
+}
+
+TEST(Bilan, OctetsQuelconquesEtNulsNeCassentRien)
+{
+    Banc banc;
+    banc.plateforme.boîtes.push_back({u"…", Réponse::Ok, std::nullopt, {}});
+    std::string octets;
+    for (int i = 0; i < 4096; ++i)
+        octets += static_cast<char>(i * 37 % 256);
+    octets += std::string(100, '\0');
+    Connexion choix{banc, octets};
+    EXPECT_TRUE(SauverBilan(*choix));
+    EXPECT_EQ(banc.Lire("Zoé.bil.abîmé1"), octets);
+}
+
+TEST(Bilan, NombreDémesuréCompteCommeNonFait)
+{
+    Banc banc;
+    Connexion choix{banc, Fiches({Fiche(u"A", Texte(400, u'9'), {Texte(30, u'9')})})};
+    EXPECT_EQ(choix->lblVitesseMoyenne.Caption, u"");
+    EXPECT_EQ(choix->lblExo(0).ToolTipText, AFaire);
+}
+
+TEST(Bilan, FichierDisparuCommenceAVide)
+{
+    Banc banc;
+    banc.Ecrire("Zoé.bil", "");
+    auto& choix = banc.Ouvrir<frmExercices>();
+    std::filesystem::remove(banc.dossier / "Zoé.bil");
+    choix.cmdOk.Cliquer();
+    EXPECT_EQ(choix.fgRésultats.Rows(), 1);
+}
+
+TEST(Bilan, FichierIllisibleEstDit)
+{
+    Banc banc;
+    banc.Ecrire("Zoé.bil", "");
+    auto& choix = banc.Ouvrir<frmExercices>();
+    std::filesystem::remove(banc.dossier / "Zoé.bil");
+    std::filesystem::create_directory(banc.dossier / "Zoé.bil");
+    banc.AnnoncerBoîte(u"Impossible de lire le fichier\n" + DepuisChemin(banc.dossier / "Zoé.bil"));
+    choix.cmdOk.Cliquer();
+    EXPECT_EQ(choix.fgRésultats.Rows(), 1);
+}
+
+TEST(Bilan, CinqMilleTextes)
+{
+    Banc banc;
+    std::vector<Texte> champs;
+    for (int i = 0; i < PetitsTitres; ++i) {
+        const auto fiche = Fiche(u"Texte " + EnTexte(static_cast<long long>(i)), u"100", {u"4", u"8"});
+        champs.insert(champs.end(), fiche.begin(), fiche.end());
+    }
+    Connexion choix{banc, champs};
+    EXPECT_EQ(choix->fgRésultats.Rows(), PetitsTitres + 1);
+    EXPECT_EQ(choix->lblMoyenne(0).Caption, u"4");
+    EXPECT_EQ(choix->lblVitesseMoyenne.Caption, u"100");
+    EXPECT_EQ(choix->cmbTextes.Text, u"Texte 4999");
+    EXPECT_TRUE(SauverBilan(*choix));
+    EXPECT_EQ(LireChamps(banc.dossier / "Zoé.bil"), champs);
+}
+
+// ---- Choosing among the texts ------------------------------------------------------------------------------------
+
+TEST(Exercices, ChoisirUnTexteMontreSesRésultatsSansLeCharger)
+{
+    Banc banc;
+    Connexion choix{banc, Fiches({Fiche(u"A", u"90", {u"10"}), Fiche(u"B", u"80", {u"2"})})};
+    choix->cmbTextes.Choisir(0);
+    EXPECT_EQ(choix->lblExo(0).BackColor, Cyan);
+    EXPECT_EQ(choix->lblVitesse.Caption, u"90");
+    EXPECT_EQ(choix->lblTexte.Caption, u"");
+    banc.AnnoncerBoîte(u"Vous devez d'abord ouvrir un fichier texte !");
+    choix->lblExo(0).Cliquer();
+}
+
+TEST(Exercices, LesExercicesSuiventLeTexteChargéPasLeTexteMontré)
+{
+    Banc banc;
+    Connexion choix{banc, Fiches({Fiche(u"A", u"90", {u"10"}), Fiche(u"B", u"80", {u"2"})})};
+    ChargerTexte(banc, *choix, EcrireTexte(banc, "B.rtf", TexteRiche{Long()}));
+    choix->cmbTextes.Choisir(0);
+    EXPECT_EQ(choix->lblTexte.Caption, u" B ");
+    choix->lblIndex.Caption = u"0";
+    EnregistrerNote(*choix, 4);
+    EXPECT_EQ(choix->fgRésultats.TextMatrix(1, 2), u"10");
+    EXPECT_EQ(choix->fgRésultats.TextMatrix(2, 2), u"4");
+    EXPECT_EQ(choix->lblExo(0).BackColor, Orange); // the loaded text's score
+}
+
+TEST(Exercices, ChoisirUnTexteSansFicheEffaceLesCouleurs)
+{
+    Banc banc;
+    Connexion choix{banc, Fiches({Fiche(u"A", u"90", {u"10"})})};
+    ChargerTexte(banc, *choix, EcrireTexte(banc, "Neuf.rtf", TexteRiche{Long()}));
+    choix->cmbTextes.Choisir(0);
+    EXPECT_EQ(choix->lblExo(0).BackColor, Cyan);
+    choix->cmbTextes.Choisir(1);
+    EXPECT_EQ(choix->lblExo(0).BackColor, Blanc);
+    EXPECT_EQ(choix->lblExo(0).ToolTipText, AFaire);
+}
+
+// ---- Loading a text ----------------------------------------------------------------------------------------------
+
+TEST(Exercices, ChargerUnTexteNeuf)
+{
+    Banc banc;
+    Connexion choix{banc};
+    const auto fichier = EcrireTexte(banc, "textes/Le chat.rtf", TexteRiche{Long()});
+    ChargerTexte(banc, *choix, fichier);
+    EXPECT_EQ(banc.plateforme.dialogues.back().Titre, u"Ouvrir un fichier texte");
+    EXPECT_EQ(banc.plateforme.dialogues.back().Filtre, u"Textes RTF|*.rtf");
+    EXPECT_EQ(banc.plateforme.dialogues.back().Dossier, banc.état.CheminAppli);
+    EXPECT_EQ(choix->lblTexte.Caption, u" Le chat ");
+    EXPECT_TRUE(choix->lblTexte.Visible);
+    EXPECT_EQ(choix->lblVitesse.Caption, u"");
+    EXPECT_EQ(choix->cmbTextes.Text, u"Le chat");
+    EXPECT_EQ(choix->rtfTexte.Text(), Long());
+    EXPECT_EQ(banc.état.CheminTexteElève, banc.état.CheminAppli + u"/textes/");
+
+    banc.AnnoncerFichier(std::nullopt); // cancelled: all stays, and the dialog starts in the text's folder
+    choix->cmdCharger.Cliquer();
+    EXPECT_EQ(banc.plateforme.dialogues.back().Dossier, banc.état.CheminTexteElève);
+    EXPECT_EQ(choix->lblTexte.Caption, u" Le chat ");
+}
+
+TEST(Exercices, ChargerUnTexteDéjàEtudiéMontreSesNotesEtSaVitesse)
+{
+    Banc banc;
+    Connexion choix{banc, Fiches({Fiche(u"Le chat", u"90", {u"10"}), Fiche(u"B", u"", {u"2"})})};
+    ChargerTexte(banc, *choix, EcrireTexte(banc, "Le chat.rtf", TexteRiche{Long()}));
+    EXPECT_EQ(choix->lblVitesse.Caption, u"90");
+    EXPECT_EQ(choix->lblExo(0).BackColor, Cyan);
+    EXPECT_EQ(choix->cmbTextes.ListCount(), 2);
+    ChargerTexte(banc, *choix, EcrireTexte(banc, "B.rtf", TexteRiche{Long()}));
+    EXPECT_EQ(choix->lblVitesse.Caption, u""); // the cell as it stands
+    EXPECT_EQ(choix->lblExo(0).BackColor, Rouge);
+}
+
+TEST(Exercices, TitreCoupéAuPremierPoint)
+{
+    Banc banc;
+    Connexion choix{banc};
+    ChargerTexte(banc, *choix, EcrireTexte(banc, "Le.chat.rtf", TexteRiche{Long()}));
+    EXPECT_EQ(choix->lblTexte.Caption, u" Le ");
+    EXPECT_EQ(banc.état.CheminTexteElève, banc.état.CheminAppli + u"/");
+}
+
+TEST(Exercices, DossierNomméCommeLeTexteEstEffacéALaPlaceDuTitre)
+{
+    Banc banc;
+    Connexion choix{banc};
+    ChargerTexte(banc, *choix, EcrireTexte(banc, "Le chat.rtf/Le chat.rtf", TexteRiche{Long()}));
+    EXPECT_EQ(banc.état.CheminTexteElève, banc.état.CheminAppli + u"/            Le chat.rtf");
+    EXPECT_EQ(choix->lblTexte.Caption, u" Le chat ");
+}
+
+TEST(Exercices, TitreQueLeBilanNePeutPasGarderEstRefusé)
+{
+    for (const auto* nom : {"Ωmega.rtf", "dit \"oui\".rtf", "*.rtf", " * .rtf", ".rtf", "deux\nlignes.rtf"}) {
+        Banc banc;
+        Connexion choix{banc};
+        banc.AnnoncerBoîte(u"Le nom de ce fichier ne peut pas servir de titre…");
+        ChargerTexte(banc, *choix, EcrireTexte(banc, nom, TexteRiche{Long()}));
+        EXPECT_EQ(choix->lblTexte.Caption, u"");
+        EXPECT_EQ(choix->rtfTexte.Text(), u"");
+    }
+}
+
+TEST(Exercices, FichierIllisibleLaisseToutEnPlace)
+{
+    Banc banc;
+    Connexion choix{banc};
+    ChargerTexte(banc, *choix, EcrireTexte(banc, "A.rtf", TexteRiche{Long()}));
+    banc.plateforme.boîtes.push_back(
+        {u"Impossible de lire ce format de fichier !", Réponse::Ok, u"Erreur lors de l'ouverture", {}});
+    ChargerTexte(banc, *choix, DepuisChemin(banc.Ecrire("B.rtf", "pas du RTF")));
+    EXPECT_EQ(choix->lblTexte.Caption, u" A ");
+    EXPECT_EQ(choix->rtfTexte.Text(), Long());
+}
+
+TEST(Exercices, LesMotsMarquésFontLeVocabulaire)
+{
+    Banc banc;
+    Connexion choix{banc};
+    TexteRiche texte{u"un zèbre et un âne et un âne"};
+    const auto barrer = [](Format& format) {
+        format.Barré = true;
+    };
+    texte.Formater(3, 5, barrer);
+    texte.Formater(15, 3, barrer);
+    texte.Formater(25, 3, barrer); // ends the text
+    ChargerTexte(banc, *choix, EcrireTexte(banc, "A.rtf", texte));
+    EXPECT_EQ(choix->cmbVocabulaire.Eléments(), (std::vector<Texte>{u"âne", u"âne", u"zèbre"}));
+    ChargerTexte(banc, *choix, EcrireTexte(banc, "B.rtf", TexteRiche{Long()}));
+    EXPECT_EQ(choix->cmbVocabulaire.ListCount(), 0);
+}
+
+// ---- The click on an exercise ------------------------------------------------------------------------------------
+
+TEST(Exercices, DeuxCentCinquanteCaractèresSuffisentUnDeMoinsNon)
+{
+    Banc banc;
+    Connexion choix{banc};
+    const Texte blancs(40, u' ');
+    ChargerTexte(banc, *choix, EcrireTexte(banc, "A.rtf", TexteRiche{blancs + Long(249) + blancs}));
+    banc.AnnoncerBoîte(u"Le texte est trop court !");
+    choix->lblExo(0).Cliquer();
+    EXPECT_EQ(choix->lblIndex.Caption, u"");
+    ChargerTexte(banc, *choix, EcrireTexte(banc, "A.rtf", TexteRiche{blancs + Long(250) + blancs}));
+    banc.QuandOuvert<frmQuestionnaire1>([](frmQuestionnaire1&) {});
+    choix->lblExo(0).Cliquer();
+    EXPECT_EQ(choix->lblIndex.Caption, u"0");
+}
+
+TEST(Exercices, SansTexteAucunExercice)
+{
+    Banc banc;
+    Connexion choix{banc};
+    for (int i = 0; i < NombreExercices; ++i) {
+        banc.AnnoncerBoîte(u"Vous devez d'abord ouvrir un fichier texte !");
+        choix->lblExo(i).Cliquer();
+    }
+}
+
+TEST(Exercices, SansVitesseLeQuestionnaireUnPasseEnPremier)
+{
+    Banc banc;
+    Connexion choix{banc};
+    ChargerTexte(banc, *choix, EcrireTexte(banc, "A.rtf", TexteRiche{Long()}));
+    for (int i = 1; i < NombreExercices; ++i) {
+        banc.AnnoncerBoîte(u"Tu dois faire l'exercice - QUESTIONNAIRE 1 - avant tous les autres.");
+        choix->lblExo(i).Cliquer();
+        EXPECT_EQ(banc.plateforme.boîtesMontrées.back().Titre, u"Avertissement");
+        EXPECT_FALSE(choix->lblExo(i).Bordure);
+        EXPECT_EQ(choix->lblExo(i).MousePointer, Pointeur::Normal);
+        EXPECT_EQ(choix->lblIndex.Caption, EnTexte(static_cast<long long>(i)));
+    }
+}
+
+TEST(Exercices, QuestionnaireDeuxVeutSonFichier)
+{
+    Banc banc;
+    Connexion choix{banc, Fiches({Fiche(u"A", u"90")})};
+    ChargerTexte(banc, *choix, EcrireTexte(banc, "A.rtf", TexteRiche{Long()}));
+    banc.AnnoncerBoîte(u"Je ne trouve pas de questionnaire associé au texte !");
+    choix->lblExo(1).Cliquer();
+    EXPECT_FALSE(choix->lblExo(1).Bordure);
+    EXPECT_FALSE(banc.Existe("A.qst"));
+    banc.EcrireChamps("A.qst", {u"Pourquoi ?", u"Oui.", u"1"});
+    banc.QuandOuvert<frmQuestionnaire1>([&](frmQuestionnaire1&) {
+        EXPECT_TRUE(choix->lblExo(1).Bordure);
+        EXPECT_EQ(choix->lblExo(1).MousePointer, Pointeur::Sablier);
+    });
+    choix->lblExo(1).Cliquer();
+    EXPECT_FALSE(choix->lblExo(1).Bordure);
+    EXPECT_EQ(choix->lblExo(1).MousePointer, Pointeur::Normal);
+}
+
+TEST(Exercices, EcranInconnuLeDitEtNeChangeRien)
+{
+    Banc banc;
+    banc.application.écrans.erase("frmPendu");
+    Connexion choix{banc, Fiches({Fiche(u"A", u"90")})};
+    ChargerTexte(banc, *choix, EcrireTexte(banc, "A.rtf", TexteRiche{Long()}));
+    banc.AnnoncerBoîte(u"L'exercice « Le pendu » n'est pas encore là.");
+    choix->lblExo(21).Cliquer();
+    EXPECT_FALSE(choix->lblExo(21).Bordure);
+    EXPECT_EQ(choix->lblExo(21).BackColor, Blanc);
+    EXPECT_TRUE(banc.plateforme.écransMontrés.empty());
+}
+
+TEST(Exercices, QuitterFermeEtPlusRienNeRépond)
+{
+    Banc banc;
+    Connexion choix{banc};
+    choix->cmdQuitter.Cliquer();
+    EXPECT_FALSE(choix->EstChargé());
+    choix->lblExo(0).Cliquer(); // closed: nothing answers
+    choix->cmdCharger.Cliquer();
+    EXPECT_TRUE(banc.plateforme.dialogues.empty());
+}
