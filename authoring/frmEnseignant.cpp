@@ -233,28 +233,31 @@ void frmEnseignant::QueryUnload()
 std::span<const frmEnseignant::ActionBouton> frmEnseignant::Actions()
 {
     using F = frmEnseignant;
+    static constexpr bool AvecCopie = true;
+    static constexpr bool AvecEtat = true;
     static constexpr std::array actions{
         ActionBouton{"btnNouveau", "document-new", u"Nouveau texte", &F::mnuNouveau_Click},
         ActionBouton{"btnOuvrir", "document-open", u"Ouvrir un texte", &F::mnuOuvrir_Click},
         ActionBouton{"btnEnregistrer", "document-save", u"Enregistrer", &F::mnuEnregistrer_Click},
         ActionBouton{},
         ActionBouton{"btnSélectionner", "edit-select-all", u"Tout sélectionner", &F::mnuSélectionner_Click},
-        ActionBouton{"btnCouper", "edit-cut", u"Couper", &F::mnuCouper_Click, true},
+        ActionBouton{"btnCouper", "edit-cut", u"Couper", &F::mnuCouper_Click, AvecCopie},
         ActionBouton{"btnCopier", "edit-copy", u"Copier", &F::mnuCopier_Click},
-        ActionBouton{"btnColler", "edit-paste", u"Coller", &F::mnuColler_Click, true},
+        ActionBouton{"btnColler", "edit-paste", u"Coller", &F::mnuColler_Click, AvecCopie},
         ActionBouton{"btnAnnuler", "edit-undo", u"Annuler la dernière action", &F::btnAnnuler_Click},
         ActionBouton{},
-        ActionBouton{"btnGras", "format-text-bold", u"Gras", &F::mnuGras_Click, true, true},
-        ActionBouton{"btnSouligné", "format-text-underline", u"Souligné", &F::mnuSouligné_Click, true, true},
-        ActionBouton{"btnItalique", "format-text-italic", u"Italique", &F::mnuItalique_Click, true, true},
+        ActionBouton{"btnGras", "format-text-bold", u"Gras", &F::mnuGras_Click, AvecCopie, AvecEtat},
+        ActionBouton{"btnSouligné", "format-text-underline", u"Souligné", &F::mnuSouligné_Click, AvecCopie, AvecEtat},
+        ActionBouton{"btnItalique", "format-text-italic", u"Italique", &F::mnuItalique_Click, AvecCopie, AvecEtat},
         ActionBouton{},
         ActionBouton{"btnVocabulaire", "format-text-strikethrough", u"Choisir ou retirer un mot des exercices",
-                     &F::btnVocabulaire_Click, true},
-        ActionBouton{"btnCouleurC", "tirelune-couleur", u"Couleur des caractères", &F::btnCouleurC_Click, true},
+                     &F::btnVocabulaire_Click, AvecCopie},
+        ActionBouton{"btnCouleurC", "tirelune-couleur", u"Couleur des caractères", &F::btnCouleurC_Click, AvecCopie},
         ActionBouton{},
-        ActionBouton{"btnGauche", "format-justify-left", u"Aligner à gauche", &F::mnuGauche_Click, true, true},
-        ActionBouton{"btnDroite", "format-justify-right", u"Aligner à droite", &F::mnuDroite_Click, true, true},
-        ActionBouton{"btnCentrer", "format-justify-center", u"Centrer", &F::mnuCentre_Click, true, true},
+        ActionBouton{"btnGauche", "format-justify-left", u"Aligner à gauche", &F::mnuGauche_Click, AvecCopie, AvecEtat},
+        ActionBouton{"btnDroite", "format-justify-right", u"Aligner à droite", &F::mnuDroite_Click, AvecCopie,
+                     AvecEtat},
+        ActionBouton{"btnCentrer", "format-justify-center", u"Centrer", &F::mnuCentre_Click, AvecCopie, AvecEtat},
         ActionBouton{},
         ActionBouton{"btnChercher", "edit-find", u"Rechercher", &F::mnuRechercher_Click},
         ActionBouton{"btnRemplacer", "edit-find-replace", u"Remplacer", &F::mnuRemplacer_Click},
@@ -573,8 +576,7 @@ void frmEnseignant::ChargerRécents()
         return;
     for (int i = 0; i < mnuRécent.Nombre(); ++i) {
         const bool présent = i < récents.ListCount();
-        mnuRécent(i).Caption =
-            présent ? u" " + EnTexte(static_cast<long long>(i + 1)) + u" - " + récents.List(i) : Texte{};
+        mnuRécent(i).Caption = présent ? u" " + EnTexte(i + 1LL) + u" - " + récents.List(i) : Texte{};
         mnuRécent(i).Visible = présent;
     }
     mnuSépa.Visible = récents.ListCount() > 0;

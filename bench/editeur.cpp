@@ -43,7 +43,7 @@ void Frappe(benchmark::State& mesure)
     Bureau bureau{static_cast<std::size_t>(mesure.range(0))};
     auto& boîte = bureau.éditeur.rtfTexte;
     const TexteRiche lettre{u"e"};
-    for (auto _ : mesure) {
+    while (mesure.KeepRunning()) {
         const auto place = boîte.SelStart();
         boîte.Editer(place, 0, lettre);
         boîte.Sélectionner(place, 0); // two moves, so that the second is one
@@ -56,7 +56,7 @@ BENCHMARK(Frappe)->Arg(5'000)->Arg(50'000)->Arg(500'000)->Unit(benchmark::kMicro
 void ToutSélectionner(benchmark::State& mesure)
 {
     Bureau bureau{static_cast<std::size_t>(mesure.range(0))};
-    for (auto _ : mesure) {
+    while (mesure.KeepRunning()) {
         bureau.éditeur.mnuSélectionner.Cliquer();
         bureau.éditeur.rtfTexte.SelLength(0);
     }
@@ -67,7 +67,7 @@ void GrasAvecCopie(benchmark::State& mesure)
 {
     Bureau bureau{static_cast<std::size_t>(mesure.range(0))};
     bureau.éditeur.rtfTexte.Sélectionner(bureau.éditeur.rtfTexte.SelStart(), 100);
-    for (auto _ : mesure)
+    while (mesure.KeepRunning())
         bureau.éditeur.tlbBoutons.Cliquer("btnGras");
 }
 BENCHMARK(GrasAvecCopie)->Arg(500'000)->Unit(benchmark::kMicrosecond);

@@ -217,4 +217,5 @@ void RichTextBox::Editer(std::size_t début, std::size_t retirés, const TexteRi
     longueur_ = 0;
     formatEnAttente_.reset();
     Appeler(Change);
+    Appeler(SelChange); // the caret stands behind what came in
 }

@@ -248,11 +248,11 @@ void frmMotsEnDésordre::PhraseJuste()
 
 void frmMotsEnDésordre::AiderAuDébut()
 {
-    const auto montrés = static_cast<std::size_t>(Compte(lblEssaisMax) - Compte(lblEssais) + 1);
+    const int montrés = Compte(lblEssaisMax) - Compte(lblEssais) + 1;
     cmdSuivant.Visible = false;
     frameAide.Visible = true;
     frameAide.Caption = u"Voici le début de la phrase";
-    txtAide.Text = EnPhrase(std::span(cmbOrdre.Eléments()).first(montrés));
+    txtAide.Text = EnPhrase(std::span(cmbOrdre.Eléments()).first(static_cast<std::size_t>(montrés)));
     txtPhrase.Text = u" ";
     Sélectionner(0, 1);
     MontrerMots();

@@ -101,6 +101,7 @@ TEST(Editeur, LesMenusOntLeursLégendes)
     auto& écran = banc.écran;
     const auto légendes = [](const std::vector<Menu>& menus) {
         std::vector<Texte> noms;
+        noms.reserve(menus.size());
         for (const auto& menu : menus)
             noms.push_back(menu.option != nullptr ? menu.option->Caption() : Texte{u"-"});
         return noms;
@@ -163,6 +164,7 @@ TEST(Editeur, UneFenêtreTropPetiteRepasseAMille)
     EXPECT_EQ(banc.écran.Height, 4000);
 }
 
+namespace {
 class Départ : public testing::TestWithParam<int> {
 protected:
     static void Partir(frmEnseignant& écran)
@@ -172,6 +174,7 @@ protected:
                           : écran.FermerParCroix();
     }
 };
+} // namespace
 INSTANTIATE_TEST_SUITE_P(Editeur, Départ, testing::Values(0, 1, 2));
 
 TEST_P(Départ, SansChangementNeDemandeRienEtOublieLesNoms)
@@ -249,7 +252,9 @@ TEST(Editeur, LaBarreALesBoutonsDansLOrdre)
                                               "btnLexique"}));
 }
 
+namespace {
 class AvecCopie : public testing::TestWithParam<const char*> {};
+} // namespace
 INSTANTIATE_TEST_SUITE_P(Editeur, AvecCopie,
                          testing::Values("btnCouper", "btnColler", "btnGras", "btnSouligné", "btnItalique",
                                          "btnVocabulaire", "btnCouleurC", "btnGauche", "btnDroite", "btnCentrer"));
@@ -273,7 +278,9 @@ TEST_P(AvecCopie, LeBoutonGardeLeTexteDAvant)
     EXPECT_EQ(banc.écran.rtfSauve.Longueur(), 0U);
 }
 
+namespace {
 class SansCopie : public testing::TestWithParam<const char*> {};
+} // namespace
 INSTANTIATE_TEST_SUITE_P(Editeur, SansCopie,
                          testing::Values("btnOuvrir", "btnEnregistrer", "btnSélectionner", "btnCopier", "btnAnnuler",
                                          "btnChercher", "btnRemplacer", "btnImprimer", "btnQuestion", "btnLexique"));
@@ -968,6 +975,19 @@ TEST(Editeur, LaFrappeMarqueLeChangementEtFermeLaListe)
     banc.Taper(u"L");
     EXPECT_TRUE(banc.état.TexteModifié);
     EXPECT_FALSE(banc.écran.framePolices.Visible);
+}
+
+TEST(Editeur, LaFrappeSurUneSélectionMixteMontreLeFormatDeLaLettre)
+{
+    BancEditeur banc;
+    auto& boîte = banc.écran.rtfTexte;
+    boîte.Text(u"Le chat");
+    boîte.Sélectionner(0, 2);
+    boîte.SelBold = true;
+    boîte.Sélectionner(0, 7);
+    ASSERT_EQ(banc.Etat("btnGras"), Toolbar::Etat::Mixte);
+    banc.Taper(u"L");
+    EXPECT_EQ(banc.Etat("btnGras"), Toolbar::Etat::Relâché);
 }
 
 TEST(Editeur, UnClicDansLeTexteFermeLaListe)

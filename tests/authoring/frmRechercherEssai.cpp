@@ -388,7 +388,8 @@ TEST_F(RechercherEssai, ToutRemplacerDonneLesPasALaLettre)
         rtfTexte.TextRTF(texte);
         ToutRemplacerPasAPas(rtfTexte, cherché, remplacement);
         const auto obtenu = RemplacerTout(texte, cherché, remplacement);
-        SCOPED_TRACE(EnUtf8(texte.Caractères() + u" | " + cherché + u" | " + remplacement));
+        SCOPED_TRACE(
+            EnUtf8(Texte{texte.Caractères()}.append(u" | ").append(cherché).append(u" | ").append(remplacement)));
         if (!obtenu) {
             ASSERT_EQ(rtfTexte.TextRTF(), texte);
             continue;

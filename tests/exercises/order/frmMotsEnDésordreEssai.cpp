@@ -37,9 +37,9 @@ protected:
         return banc.Ouvrir<frmMotsEnDésordre>();
     }
     frmMotsEnDésordre& OuvrirLaPremière() { return Ouvrir({TirageDe(texte, 1)}); }
-    frmMotsEnDésordre& OuvrirSur(Texte phrase)
+    frmMotsEnDésordre& OuvrirSur(VueTexte phrase)
     {
-        texte = u"Début. " + phrase;
+        texte = Texte{u"Début. "}.append(phrase);
         return OuvrirLaPremière();
     }
 
