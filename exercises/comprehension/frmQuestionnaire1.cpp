@@ -67,7 +67,7 @@ Arrangement frmQuestionnaire1::Disposer()
     for (int i = 0; i < NombreChoix; ++i)
         choix.emplace_back(Ligne{chkRéponse(i), Extensible(txtChoix(i))});
     return Pile{
-        Colonne{Ressort{}, Ligne{lblConseil, Ressort{}, cmdInitialise}, cmdOk},
+        Colonne{Ressort{}, Pile{Ligne{lblConseil, Ressort{}, cmdInitialise}, cmdOk}},
         Colonne{Ressort{},
                 Centré{Cadre{frameConsigne, AuMoins(9000, 0, Colonne{AuMoins(0, 1800, Text1), Centré{cmdCommencer}})}},
                 Ressort{}},

@@ -29,7 +29,7 @@ Arrangement frmTexteMasqué::Disposer()
     for (auto& lettre : lblLettre)
         lettres.push_back(Extensible(lettre));
     auto barre = Colonne{
-        Ligne{Label1, Ressort{}, lblPoints(0), lblPoints(2), lblPoints(1)},
+        Ligne{Extensible(Label1), lblPoints(0), lblPoints(2), lblPoints(1)},
         Arrangement(Disposition::Ligne, std::move(lettres)),
     };
     return TexteEtBarre(rtfMasqué, std::move(barre), frameFin, Text1, cmdQuitter);

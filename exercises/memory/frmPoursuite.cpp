@@ -69,7 +69,7 @@ Arrangement frmPoursuite::Disposer()
 {
     return Pile{
         Libre{rtfPoursuite},
-        Centré{Cadre{frameConsigne, AuMoins(8000, 0, Colonne{lblConsigne, Centré{cmdCommencer}})}},
+        Centré{Cadre{frameConsigne, AuMoins(10000, 0, Colonne{lblConsigne, Centré{cmdCommencer}})}},
         Cadre{frameMot,
               Colonne{
                   Ligne{Label1, Ressort{}, lblPoints(0), lblPoints(2), lblPoints(1)},
