@@ -557,7 +557,8 @@ void Fenêtre::DonnerFocus()
     // Where there is something to type, typing can start at once.
     for (auto* élément : écran_.Eléments()) {
         auto* vue = VueDe(*élément);
-        if (vue != nullptr && dynamic_cast<TextBox*>(élément) != nullptr && élément->EstAtteignable() &&
+        const auto* champ = dynamic_cast<const TextBox*>(élément);
+        if (vue != nullptr && champ != nullptr && !champ->Locked && élément->EstAtteignable() &&
             vue->widget->isEnabled()) {
             vue->widget->setFocus(Qt::OtherFocusReason);
             return;

@@ -444,7 +444,7 @@ public:
         ColorerFond(Teinte::Panneau);
         const QSignalBlocker silence{zone_};
         zone_.setReadOnly(boîte_.Locked);
-        zone_.setTextInteractionFlags(boîte_.Locked ? Qt::TextSelectableByKeyboard | Qt::TextSelectableByMouse
+        zone_.setTextInteractionFlags(boîte_.Locked ? Qt::TextInteractionFlags{Qt::TextSelectableByMouse}
                                                     : Qt::TextEditorInteraction);
         if (const auto texte = Affiché(); texte != zone_.toPlainText())
             zone_.setPlainText(texte);
@@ -465,7 +465,18 @@ private:
         Zone(VueTexteSimple& vue, QWidget* parent) : QPlainTextEdit(parent), vue_(vue) {}
         [[nodiscard]] QSize sizeHint() const override
         {
-            return {font().pixelSize() * 18, fontMetrics().lineSpacing() * 4};
+            static constexpr int LignesUsuelles = 4;
+            static constexpr int LignesMaximales = 9;
+            const int bord = 2 * (frameWidth() + static_cast<int>(document()->documentMargin())) + 2;
+            const int largeur = font().pixelSize() * 18;
+            // A text to be read shows whole; one to be written starts with a few lines.
+            const int lue = isReadOnly() ? fontMetrics()
+                                               .boundingRect(QRect{0, 0, largeur - bord, 1}, Qt::TextWordWrap,
+                                                             EnAffichage(vue_.boîte_.Text()))
+                                               .height()
+                                         : 0;
+            const int ligne = fontMetrics().lineSpacing();
+            return {largeur, std::clamp(lue, ligne * LignesUsuelles, ligne * LignesMaximales) + bord};
         }
         [[nodiscard]] QSize minimumSizeHint() const override
         {
