@@ -4,9 +4,9 @@
     bench/rtf.py [--programme build/bench/bench/banc-lire-rtf] [--dossier build/bancs]
 
 Writes texts of 1, 10 and 100 MB with 5 % of struck words, as WordPad and as LibreOffice write them, then reads them
-with banc-lire-rtf, unrtf --text and catdoc, in turns in the same run, as whole processes. Exit code 1 when a goal is
-missed: 10 times unrtf, 3 times catdoc on 10 MB, time and memory in proportion to the size, memory at most 12 times
-the file.
+with banc-lire-rtf, unrtf --text and catdoc, in turns in the same run, as whole processes, the best of nine. Exit
+code 1 when a goal is missed: 10 times unrtf, 3 times catdoc on 10 MB, time and memory in proportion to the size,
+memory at most 12 times the file.
 """
 
 import argparse
@@ -110,10 +110,6 @@ def chronométrer(commande):
     return time.perf_counter() - avant, usage.ru_maxrss
 
 
-def médiane(valeurs):
-    return sorted(valeurs)[len(valeurs) // 2]
-
-
 def installer(programmes):
     manquants = [p for p in programmes if shutil.which(p) is None]
     if manquants:
@@ -152,14 +148,14 @@ def main():
 
         fichier = str(options.dossier / f"{nom}-10.rtf")
         nôtres, unrtf, catdoc = [], [], []
-        for _ in range(5):
+        for _ in range(9):
             nôtres.append(chronométrer([str(options.programme), fichier])[0])
             unrtf.append(chronométrer(["unrtf", "--text", fichier])[0])
             catdoc.append(chronométrer(["catdoc", fichier])[0])
-        face_à_unrtf = médiane(unrtf) / médiane(nôtres)
-        face_à_catdoc = médiane(catdoc) / médiane(nôtres)
-        print(f"  10 Mo : {médiane(nôtres) * 1000:.1f} ms, unrtf {médiane(unrtf) * 1000:.0f} ms, "
-              f"catdoc {médiane(catdoc) * 1000:.0f} ms")
+        face_à_unrtf = min(unrtf) / min(nôtres)
+        face_à_catdoc = min(catdoc) / min(nôtres)
+        print(f"  10 Mo : {min(nôtres) * 1000:.1f} ms, unrtf {min(unrtf) * 1000:.0f} ms, "
+              f"catdoc {min(catdoc) * 1000:.0f} ms")
         vérifier(face_à_unrtf >= 10, f"{face_à_unrtf:.1f} fois la vitesse de unrtf (10)")
         vérifier(face_à_catdoc >= 3, f"{face_à_catdoc:.1f} fois la vitesse de catdoc (3)")
         croissance = mesures[100][0] / mesures[10][0]

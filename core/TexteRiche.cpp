@@ -38,13 +38,9 @@ std::size_t Hachage(const FormatParagraphe& format)
     return Replier(Mêler(graine, static_cast<std::size_t>(format.RetraitPremièreLigne)));
 }
 
-TexteRiche::TexteRiche()
-    : TexteRiche(Texte{})
-{
-}
+TexteRiche::TexteRiche() : TexteRiche(Texte{}) {}
 
-TexteRiche::TexteRiche(Texte texte, Format format)
-    : texte_(std::move(texte)), suivant_(std::move(format))
+TexteRiche::TexteRiche(Texte texte, Format format) : texte_(std::move(texte)), suivant_(std::move(format))
 {
     assert(texte_.size() <= LongueurMaximale);
     formats_.Ajouter(texte_.size(), formats_.Interner(suivant_));
@@ -52,7 +48,9 @@ TexteRiche::TexteRiche(Texte texte, Format format)
 }
 
 TexteRiche::TexteRiche(Texte texte, Plages<Format> formats, Plages<FormatParagraphe> paragraphes, Format suivant)
-    : texte_(std::move(texte)), formats_(std::move(formats)), paragraphes_(std::move(paragraphes)),
+    : texte_(std::move(texte)),
+      formats_(std::move(formats)),
+      paragraphes_(std::move(paragraphes)),
       suivant_(std::move(suivant))
 {
     assert(formats_.Longueur() == texte_.size() && paragraphes_.Longueur() == texte_.size() + 1);

@@ -99,7 +99,7 @@ TEST(LecteurRtf, LesAccoladesQuiManquentNEmpêchentPasDeLire)
 
 TEST(LecteurRtf, LesNulsSontIgnorés)
 {
-    EXPECT_EQ(Brut(std::string_view("\0{\\rtf1 a\0b\\b\0 c}\0", 19)), u"ab c");
+    EXPECT_EQ(Brut(std::string_view("\0{\\rtf1 a\0b\\b\0 c}\0", 18)), u"ab c");
 }
 
 TEST(LecteurRtf, UnMillionDeGroupesEmboîtésSeLit)
