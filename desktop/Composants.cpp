@@ -209,10 +209,10 @@ void Etiquette::leaveEvent(QEvent* événement)
 
 QSize ImageDessinée::sizeHint() const
 {
-    static constexpr double EnPixels = 1.5; // drawings are told in small units
+    static constexpr double Agrandissement = 1.5; // drawings are told in small units
     const double échelle = font().pixelSize() / 16.0;
-    return {std::max(24, static_cast<int>(dessin.largeur * EnPixels * échelle)),
-            std::max(24, static_cast<int>(dessin.hauteur * EnPixels * échelle))};
+    return {std::max(24, static_cast<int>(dessin.largeur * Agrandissement * échelle)),
+            std::max(24, static_cast<int>(dessin.hauteur * Agrandissement * échelle))};
 }
 
 void ImageDessinée::PeindreContenu(QPainter& peintre, const QRect& place)
