@@ -36,6 +36,8 @@ public:
 protected:
     Fenêtre& fenêtre_;
     [[nodiscard]] bool Agissante() const; // the screen is still there
+    [[nodiscard]] int Pixels(int twips) const;
+    [[nodiscard]] int Twips(int pixels) const;
     void ColorerFond(const QColor& usuelle);
 
 private:
