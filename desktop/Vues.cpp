@@ -78,6 +78,12 @@ QSize Vue::TailleLibre()
     return {Pixels(taille.width()), Pixels(taille.height())};
 }
 
+QRect Vue::PlaceLibre()
+{
+    const QPoint dedans{Pixels(élément.Left), Pixels(élément.Top)};
+    return {libre->geometry().topLeft() + dedans, TailleLibre()};
+}
+
 void Vue::Synchroniser()
 {
     const double agrandissement = échelle ? échelle() : fenêtre_.Echelle();
@@ -90,8 +96,8 @@ void Vue::Synchroniser()
     }
     if (widget->testAttribute(Qt::WA_ForceDisabled) == élément.Enabled)
         widget->setEnabled(élément.Enabled);
-    if (calculée)
-        widget->setGeometry(QRect{QPoint{Pixels(élément.Left), Pixels(élément.Top)}, TailleLibre()});
+    if (libre != nullptr)
+        widget->setGeometry(PlaceLibre());
     if (auto* toile = dynamic_cast<VueToile*>(widget->parentWidget()); toile != nullptr && échelle)
         toile->Placer();
     if (widget->isHidden() == élément.Visible)
