@@ -48,6 +48,8 @@ struct Touche {
     static constexpr int Echappement = 27;
     static constexpr int PagePrécédente = 33;
     static constexpr int PageSuivante = 34;
+    static constexpr int Fin = 35;
+    static constexpr int Origine = 36;
     static constexpr int Gauche = 37;
     static constexpr int Haut = 38;
     static constexpr int Droite = 39;
