@@ -267,7 +267,9 @@ private:
             cadre_.DragDrop(dessous, Twips(dedans.x()), Twips(dedans.y()));
             return;
         }
-        const auto surEcran = fenêtre_.Plan()->mapFromGlobal(global);
+        auto surEcran = fenêtre_.Plan()->mapFromGlobal(global);
+        if (libre != nullptr)
+            surEcran -= libre->geometry().topLeft();
         cadre_.DragDrop(nullptr, Twips(surEcran.x()), Twips(surEcran.y()));
     }
 
