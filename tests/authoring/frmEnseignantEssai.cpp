@@ -1037,6 +1037,15 @@ TEST(Editeur, UnClicDansLeTexteFermeLaListe)
     EXPECT_FALSE(banc.écran.framePolices.Visible);
 }
 
+TEST(Editeur, UnClicHorsDesElémentsFermeLaListe)
+{
+    BancEditeur banc;
+    banc.écran.flèchePolice.Cliquer();
+    banc.écran.Cliquer();
+    EXPECT_FALSE(banc.écran.framePolices.Visible);
+    EXPECT_FALSE(banc.état.TexteModifié);
+}
+
 TEST(Editeur, DéplacerLaSélectionNEstPasUnChangement)
 {
     BancEditeur banc;
