@@ -366,13 +366,12 @@ Fenêtre::Place Fenêtre::BâtirLibre(const Arrangement& place, QWidget* parent)
         if (un.widget == nullptr || vue == nullptr)
             continue;
         libre->Ajouter(un.widget);
-        vue->calculée = true;
+        vue->libre = libre;
         enfants.push_back(vue);
     }
     libre->placer = [this, enfants] {
         for (auto* vue : enfants)
-            vue->widget->setGeometry(
-                QRect{QPoint{Pixels(vue->élément.Left), Pixels(vue->élément.Top)}, vue->TailleLibre()});
+            vue->widget->setGeometry(vue->PlaceLibre());
     };
     libre->étendue = [this, enfants] {
         QRect tout;
@@ -592,7 +591,7 @@ void Fenêtre::DonnerFocus()
 void Fenêtre::NoterGéométrie()
 {
     for (const auto& vue : vues_) {
-        if (vue->widget == nullptr || vue->calculée || vue->échelle)
+        if (vue->widget == nullptr || vue->libre != nullptr || vue->échelle)
             continue;
         const auto place = vue->widget->geometry();
         vue->élément.Left.Noter(Twips(place.x()));
@@ -687,6 +686,10 @@ int CodeDe(const QKeyEvent& événement)
         return Touche::PagePrécédente;
     case Qt::Key_PageDown:
         return Touche::PageSuivante;
+    case Qt::Key_End:
+        return Touche::Fin;
+    case Qt::Key_Home:
+        return Touche::Origine;
     case Qt::Key_Left:
         return Touche::Gauche;
     case Qt::Key_Up:
