@@ -72,7 +72,8 @@ std::optional<EchecFichier> RéécrireFichier(const Chemin& fichier, std::string
     if (!flux)
         return EchecFichier::Ouverture;
     std::setvbuf(flux.get(), nullptr, _IONBF, 0); // the content is in memory already
-    if (std::fwrite(contenu.data(), 1, contenu.size(), flux.get()) != contenu.size() || !PousserSurLeDisque(flux.get()))
+    const bool écrit = contenu.empty() || std::fwrite(contenu.data(), contenu.size(), 1, flux.get()) == 1;
+    if (!écrit || !PousserSurLeDisque(flux.get()))
         return EchecFichier::Ecriture;
     return std::nullopt;
 }

@@ -67,11 +67,27 @@ int Etiquette::Marge() const
     return bordure || fond.isValid() || clic ? std::max(4, font().pixelSize() / 4) : 1;
 }
 
+// Long runs of blanks stand for line ends: they push what follows to the next line.
+QString Etiquette::Montré() const
+{
+    static constexpr int BlancsDUneFin = 8;
+    const auto légende = text();
+    const QString blancs(BlancsDUneFin, u' ');
+    if (enLigne || !légende.contains(blancs))
+        return légende;
+    QStringList lignes;
+    for (const auto& morceau : légende.split(blancs)) {
+        if (!morceau.trimmed().isEmpty())
+            lignes.push_back(morceau.trimmed());
+    }
+    return lignes.join(u'\n');
+}
+
 QSize Etiquette::sizeHint() const
 {
     const int marge = 2 * Marge();
     const int largeurMaximale = font().pixelSize() * 26;
-    const auto taille = TailleTexte(font(), text(), Drapeaux(), largeurMaximale);
+    const auto taille = TailleTexte(font(), Montré(), Drapeaux(), largeurMaximale);
     return {std::max(taille.width(), font().pixelSize() / 2) + marge,
             std::max(taille.height(), Interligne(font())) + marge};
 }
@@ -91,7 +107,7 @@ bool Etiquette::hasHeightForWidth() const
 int Etiquette::heightForWidth(int largeur) const
 {
     const int marge = 2 * Marge();
-    return TailleTexte(font(), text(), Drapeaux(), std::max(1, largeur - marge)).height() + marge;
+    return TailleTexte(font(), Montré(), Drapeaux(), std::max(1, largeur - marge)).height() + marge;
 }
 
 void Etiquette::paintEvent(QPaintEvent* /*événement*/)
@@ -118,18 +134,26 @@ void Etiquette::paintEvent(QPaintEvent* /*événement*/)
         peintre.setBrush(Qt::NoBrush);
         peintre.drawRoundedRect(place.adjusted(0.5, 0.5, -0.5, -0.5), Coin, Coin);
     }
-    if (hasFocus())
+    if (hasFocus() && choisie_)
         PeindreAnneau(peintre, rect());
+}
+
+void Etiquette::focusInEvent(QFocusEvent* événement)
+{
+    if (événement->reason() != Qt::ActiveWindowFocusReason && événement->reason() != Qt::PopupFocusReason)
+        choisie_ = true;
+    QLabel::focusInEvent(événement);
 }
 
 void Etiquette::PeindreContenu(QPainter& peintre, const QRect& place)
 {
     if (text().isEmpty())
         return;
-    peintre.setFont(ajusté_.Police(font(), text(), place.size(), Drapeaux()));
+    const auto montré = Montré();
+    peintre.setFont(ajusté_.Police(font(), montré, place.size(), Drapeaux()));
     const auto automatique = fond.isValid() ? Teinte::Encre : palette().color(QPalette::WindowText);
     peintre.setPen(!isEnabled() ? Teinte::EncreEteinte : encre.isValid() ? encre : automatique);
-    peintre.drawText(place, Drapeaux(), text());
+    peintre.drawText(place, Drapeaux(), montré);
 }
 
 void Etiquette::mousePressEvent(QMouseEvent* événement)
@@ -161,7 +185,7 @@ void Etiquette::keyPressEvent(QKeyEvent* événement)
 {
     const bool touche =
         événement->key() == Qt::Key_Space || événement->key() == Qt::Key_Return || événement->key() == Qt::Key_Enter;
-    if (clic && touche && !événement->isAutoRepeat())
+    if (clic && choisie_ && touche && !événement->isAutoRepeat())
         clic();
     else
         événement->ignore();
@@ -185,10 +209,10 @@ void Etiquette::leaveEvent(QEvent* événement)
 
 QSize ImageDessinée::sizeHint() const
 {
-    static constexpr double EnPixels = 1.5; // drawings are told in small units
+    static constexpr double Agrandissement = 1.5; // drawings are told in small units
     const double échelle = font().pixelSize() / 16.0;
-    return {std::max(24, static_cast<int>(dessin.largeur * EnPixels * échelle)),
-            std::max(24, static_cast<int>(dessin.hauteur * EnPixels * échelle))};
+    return {std::max(24, static_cast<int>(dessin.largeur * Agrandissement * échelle)),
+            std::max(24, static_cast<int>(dessin.hauteur * Agrandissement * échelle))};
 }
 
 void ImageDessinée::PeindreContenu(QPainter& peintre, const QRect& place)

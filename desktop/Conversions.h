@@ -6,6 +6,8 @@
 #include <QColor>
 #include <QString>
 
+#include <cmath>
+
 inline constexpr int TwipsParPixel = 15;
 inline constexpr double PixelsParPoint = 96.0 / 72.0;
 
@@ -32,13 +34,14 @@ inline Couleur DepuisQColor(const QColor& couleur)
     return Couleur::Rvb(static_cast<unsigned>(couleur.red()), static_cast<unsigned>(couleur.green()),
                         static_cast<unsigned>(couleur.blue()));
 }
-inline int EnPixels(int twips)
+// Twips grow with all the rest: places that rules compute stay in step with the letters around them.
+inline int EnPixels(int twips, double échelle)
 {
-    return twips / TwipsParPixel;
+    return static_cast<int>(std::lround(twips * échelle / TwipsParPixel));
 }
-inline int EnTwips(int pixels)
+inline int EnTwips(int pixels, double échelle)
 {
-    return pixels * TwipsParPixel;
+    return static_cast<int>(std::lround(pixels * TwipsParPixel / échelle));
 }
 
 // The mask has no glyph of its own: it shows as a box, one for each character.

@@ -106,6 +106,8 @@ std::unique_ptr<QFileDialog> CréerDialogueFichier(const DialogueFichier& demand
     dialogue->setOption(QFileDialog::DontUseNativeDialog);
     dialogue->setAcceptMode(enregistrer ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
     dialogue->setFileMode(enregistrer ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
+    dialogue->setLocale(QLocale{QLocale::French});
+    dialogue->setViewMode(QFileDialog::List); // names are all that a pupil looks for
     dialogue->setNameFilters(TraduireFiltre(demande.Filtre));
     dialogue->setDirectory(EnQString(demande.Dossier));
     dialogue->setDefaultSuffix(EnQString(demande.Extension));

@@ -145,6 +145,16 @@ void Fenêtre::Fermer()
     hide();
 }
 
+int Fenêtre::Pixels(int twips) const
+{
+    return EnPixels(twips, échelle_);
+}
+
+int Fenêtre::Twips(int pixels) const
+{
+    return EnTwips(pixels, échelle_);
+}
+
 Vue* Fenêtre::VueDe(const Elément& élément) const
 {
     const auto place = parElément_.find(&élément);
@@ -247,18 +257,25 @@ Fenêtre::Place Fenêtre::Bâtir(const Arrangement& place, QWidget* parent, bool
 
 Fenêtre::Place Fenêtre::AvecMinimum(Place une, const Arrangement& place)
 {
-    const QSize minimum{EnPixels(place.largeur), EnPixels(place.hauteur)};
-    if (minimum.isNull())
+    if (place.largeur == 0 && place.hauteur == 0)
         return une;
+    const auto minimum = [this, largeur = place.largeur, hauteur = place.hauteur] {
+        return QSize{Pixels(largeur), Pixels(hauteur)};
+    };
     if (une.widget != nullptr) {
-        une.widget->setMinimumSize(minimum);
-        return une;
+        minimums_.emplace_back([minimum, widget = une.widget] { widget->setMinimumSize(minimum()); });
+    } else {
+        auto* boîte = new Superposition;
+        if (une.layout != nullptr)
+            boîte->Ajouter(une.layout);
+        minimums_.emplace_back([minimum, boîte] {
+            boîte->tailleMinimale = minimum();
+            boîte->invalidate();
+        });
+        une = {nullptr, boîte};
     }
-    auto* boîte = new Superposition;
-    if (une.layout != nullptr)
-        boîte->Ajouter(une.layout);
-    boîte->tailleMinimale = minimum;
-    return {nullptr, boîte};
+    minimums_.back()();
+    return une;
 }
 
 Fenêtre::Place Fenêtre::BâtirBoîte(const Arrangement& place, QWidget* parent)
@@ -343,18 +360,17 @@ Fenêtre::Place Fenêtre::BâtirLibre(const Arrangement& place, QWidget* parent)
         if (un.widget == nullptr || vue == nullptr)
             continue;
         libre->Ajouter(un.widget);
-        vue->calculée = true;
+        vue->libre = libre;
         enfants.push_back(vue);
     }
-    libre->placer = [enfants] {
+    libre->placer = [this, enfants] {
         for (auto* vue : enfants)
-            vue->widget->setGeometry(
-                QRect{QPoint{EnPixels(vue->élément.Left), EnPixels(vue->élément.Top)}, vue->TailleLibre()});
+            vue->widget->setGeometry(vue->PlaceLibre());
     };
-    libre->étendue = [enfants] {
+    libre->étendue = [this, enfants] {
         QRect tout;
         for (auto* vue : enfants)
-            tout |= QRect{QPoint{EnPixels(vue->élément.Left), EnPixels(vue->élément.Top)}, vue->TailleLibre()};
+            tout |= QRect{QPoint{Pixels(vue->élément.Left), Pixels(vue->élément.Top)}, vue->TailleLibre()};
         return QSize{tout.right() + 1, tout.bottom() + 1};
     };
     return {nullptr, libre};
@@ -517,7 +533,7 @@ void Fenêtre::Synchroniser()
         DonnerFocus();
     if (tailleChangée_) {
         tailleChangée_ = false;
-        écran_.Dimensionner(EnTwips(contenu_->width()), EnTwips(contenu_->height()));
+        écran_.Dimensionner(Twips(contenu_->width()), Twips(contenu_->height()));
     }
 }
 
@@ -557,7 +573,8 @@ void Fenêtre::DonnerFocus()
     // Where there is something to type, typing can start at once.
     for (auto* élément : écran_.Eléments()) {
         auto* vue = VueDe(*élément);
-        if (vue != nullptr && dynamic_cast<TextBox*>(élément) != nullptr && élément->EstAtteignable() &&
+        const auto* champ = dynamic_cast<const TextBox*>(élément);
+        if (vue != nullptr && champ != nullptr && !champ->Locked && élément->EstAtteignable() &&
             vue->widget->isEnabled()) {
             vue->widget->setFocus(Qt::OtherFocusReason);
             return;
@@ -568,13 +585,13 @@ void Fenêtre::DonnerFocus()
 void Fenêtre::NoterGéométrie()
 {
     for (const auto& vue : vues_) {
-        if (vue->widget == nullptr || vue->calculée || vue->échelle)
+        if (vue->widget == nullptr || vue->libre != nullptr || vue->échelle)
             continue;
         const auto place = vue->widget->geometry();
-        vue->élément.Left.Noter(EnTwips(place.x()));
-        vue->élément.Top.Noter(EnTwips(place.y()));
-        vue->élément.Width.Noter(EnTwips(place.width()));
-        vue->élément.Height.Noter(EnTwips(place.height()));
+        vue->élément.Left.Noter(Twips(place.x()));
+        vue->élément.Top.Noter(Twips(place.y()));
+        vue->élément.Width.Noter(Twips(place.width()));
+        vue->élément.Height.Noter(Twips(place.height()));
     }
 }
 
@@ -619,6 +636,8 @@ void Fenêtre::TailleChangée()
         const double nouvelle = EchellePour(contenu_->size());
         if (nouvelle != échelle_) {
             échelle_ = nouvelle;
+            for (const auto& minimum : minimums_)
+                minimum();
             for (const auto& vue : vues_)
                 Marquer(*vue);
         }

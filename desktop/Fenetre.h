@@ -29,6 +29,8 @@ public:
 
     [[nodiscard]] Ecran& EcranDe() const { return écran_; }
     [[nodiscard]] double Echelle() const { return échelle_; }
+    [[nodiscard]] int Pixels(int twips) const;
+    [[nodiscard]] int Twips(int pixels) const;
     [[nodiscard]] Vue* VueDe(const Elément& élément) const;
     [[nodiscard]] Vue* VueDuWidget(const QWidget* widget) const;
     [[nodiscard]] QWidget* Plan() const { return plan_; }
@@ -88,6 +90,7 @@ private:
     std::unordered_map<const QWidget*, Vue*> parWidget_;
     std::vector<Vue*> couvertures_;
     std::vector<Vue*> sales_;
+    std::vector<std::function<void()>> minimums_; // sizes that were asked for, at the present scale
     double échelle_ = 1;
     bool fermée_ = false;
     bool ouverte_ = false;

@@ -216,9 +216,9 @@ void PlateformeQt::ListerPolices()
 
 double PlateformeQt::LargeurTexte(const Texte& texte, double taille)
 {
-    const auto* devant = Devant();
-    const auto police = PolicePour({}, taille, false, devant != nullptr ? devant->Echelle() : 1);
-    return QFontMetricsF{police}.horizontalAdvance(EnAffichage(texte)) * TwipsParPixel;
+    const double échelle = Devant() != nullptr ? Devant()->Echelle() : 1;
+    const auto police = PolicePour({}, taille, false, échelle);
+    return QFontMetricsF{police}.horizontalAdvance(EnAffichage(texte)) * TwipsParPixel / échelle;
 }
 
 // ---- Screens ---------------------------------------------------------------------------------------------------

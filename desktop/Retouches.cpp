@@ -31,5 +31,17 @@ void Retouches::Noter(std::size_t début, std::size_t retirés, std::size_t ajou
 
 std::vector<Retouche> Retouches::Prendre()
 {
-    return std::exchange(liste_, {});
+    static constexpr std::size_t Voisinage = 1000;
+    std::vector<Retouche> réunies;
+    for (const auto& retouche : std::exchange(liste_, {})) {
+        const bool surPlace = retouche.anciens == retouche.nouveaux;
+        if (!réunies.empty() && surPlace && réunies.back().anciens == réunies.back().nouveaux &&
+            retouche.début - (réunies.back().début + réunies.back().nouveaux) <= Voisinage) {
+            réunies.back().nouveaux = retouche.début + retouche.nouveaux - réunies.back().début;
+            réunies.back().anciens = réunies.back().nouveaux;
+        } else {
+            réunies.push_back(retouche);
+        }
+    }
+    return réunies;
 }

@@ -18,16 +18,19 @@ constexpr int CôtéIcône = 24;
 
 bool EstCouleur(const std::string& nom)
 {
-    return nom.find("color") != std::string::npos;
+    return nom.find("color") != std::string::npos || nom == "tirelune-couleur";
 }
 
 // What the format icons show is a letter in that format.
 QIcon DessinerIcône(const std::string& nom, const QString& bulle)
 {
-    QPixmap image{CôtéIcône, CôtéIcône};
+    static constexpr int Finesse = 2; // for the larger displays
+    QPixmap image{CôtéIcône * Finesse, CôtéIcône * Finesse};
     image.fill(Qt::transparent);
     QPainter peintre{&image};
+    peintre.scale(Finesse, Finesse);
     peintre.setRenderHint(QPainter::Antialiasing);
+    const QRect cadre{0, 0, CôtéIcône, CôtéIcône};
     peintre.setPen(QPen{Teinte::Encre, 2});
     const auto lignes = [&](double gauche, double courte, double droite) {
         for (int i = 0; i < 5; ++i) {
@@ -40,7 +43,7 @@ QIcon DessinerIcône(const std::string& nom, const QString& bulle)
         QFont police = PolicePour({}, 0, false, 1.15);
         retouche(police);
         peintre.setFont(police);
-        peintre.drawText(image.rect(), Qt::AlignCenter, texte);
+        peintre.drawText(cadre, Qt::AlignCenter, texte);
     };
     if (nom == "format-justify-left")
         lignes(2, 12, 0);
@@ -69,7 +72,10 @@ QIcon DessinerIcône(const std::string& nom, const QString& bulle)
     } else {
         peintre.setBrush(Teinte::Bouton);
         peintre.drawRoundedRect(QRectF{2, 2, 20, 20}, 5, 5);
-        lettre(bulle.left(1).toUpper(), [](QFont& police) { police.setBold(true); });
+        lettre(nom == "tirelune-question"  ? QStringLiteral("?")
+               : nom == "tirelune-lexique" ? QStringLiteral("Aa")
+                                           : bulle.left(1).toUpper(),
+               [](QFont& police) { police.setBold(true); });
     }
     return QIcon{image};
 }
@@ -125,7 +131,6 @@ public:
             outil->setAccessibleDescription(bulle);
             outil->setToolTip(bulle);
             outil->setIcon(IcôneDe(bouton.Icône, bulle));
-            outil->setIconSize({CôtéIcône, CôtéIcône});
             outil->setAutoRaise(true);
             outil->setFocusPolicy(Qt::TabFocus);
             outil->setCheckable(bouton.Basculant);
@@ -144,11 +149,14 @@ public:
 
     void Synchroniser() override
     {
+        const int côté = static_cast<int>(CôtéIcône * fenêtre_.Echelle());
         for (const auto& bouton : barre_.Boutons()) {
             const auto place = outils_.find(bouton.Clé);
             if (place == outils_.end())
                 continue;
             auto& outil = *place->second;
+            if (outil.iconSize().width() != côté)
+                outil.setIconSize({côté, côté});
             const bool mixte = bouton.Etat_ == Toolbar::Etat::Mixte;
             outil.setCheckable(bouton.Basculant);
             outil.setChecked(bouton.Etat_ == Toolbar::Etat::Enfoncé);

@@ -34,8 +34,11 @@ class VueTexteRiche::Page final : public QTextEdit {
 public:
     Page(VueTexteRiche& vue, QWidget* parent) : QTextEdit(parent), vue_(vue)
     {
+        static constexpr double Marge = 10;
+        document()->setDocumentMargin(Marge);
         setUndoRedoEnabled(false);
         setAcceptRichText(false);
+        setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
         setAcceptDrops(false);
         setTabChangesFocus(true);
         setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);

@@ -35,6 +35,16 @@ bool Vue::Agissante() const
     return !fenêtre_.Fermée();
 }
 
+int Vue::Pixels(int twips) const
+{
+    return EnPixels(twips, fenêtre_.Echelle());
+}
+
+int Vue::Twips(int pixels) const
+{
+    return EnTwips(pixels, fenêtre_.Echelle());
+}
+
 void Vue::ColorerFond(const QColor& usuelle)
 {
     auto palette = widget->palette();
@@ -56,16 +66,22 @@ QSize Vue::TailleLibre()
     QSize taille{élément.Width, élément.Height};
     // What was written back is not a size that the rules have given.
     if (auto_ || taille.width() == 0 || taille.width() == donnée_.width())
-        taille.setWidth(EnTwips(naturelle.width()));
+        taille.setWidth(Twips(naturelle.width()));
     if (auto_ || taille.height() == 0 || taille.height() == donnée_.height())
-        taille.setHeight(EnTwips(naturelle.height()));
+        taille.setHeight(Twips(naturelle.height()));
     if (taille.width() != élément.Width)
         donnée_.setWidth(taille.width());
     if (taille.height() != élément.Height)
         donnée_.setHeight(taille.height());
     élément.Width.Noter(taille.width());
     élément.Height.Noter(taille.height());
-    return {EnPixels(taille.width()), EnPixels(taille.height())};
+    return {Pixels(taille.width()), Pixels(taille.height())};
+}
+
+QRect Vue::PlaceLibre()
+{
+    const QPoint dedans{Pixels(élément.Left), Pixels(élément.Top)};
+    return {libre->geometry().topLeft() + dedans, TailleLibre()};
 }
 
 void Vue::Synchroniser()
@@ -80,8 +96,8 @@ void Vue::Synchroniser()
     }
     if (widget->testAttribute(Qt::WA_ForceDisabled) == élément.Enabled)
         widget->setEnabled(élément.Enabled);
-    if (calculée)
-        widget->setGeometry(QRect{QPoint{EnPixels(élément.Left), EnPixels(élément.Top)}, TailleLibre()});
+    if (libre != nullptr)
+        widget->setGeometry(PlaceLibre());
     if (auto* toile = dynamic_cast<VueToile*>(widget->parentWidget()); toile != nullptr && échelle)
         toile->Placer();
     if (widget->isHidden() == élément.Visible)
@@ -119,8 +135,8 @@ public:
             return;
         Habiller();
         const auto taille = étiquette_.sizeHint();
-        label_.Width.Noter(EnTwips(taille.width()));
-        label_.Height.Noter(EnTwips(taille.height()));
+        label_.Width.Noter(Twips(taille.width()));
+        label_.Height.Noter(Twips(taille.height()));
     }
 
     void Synchroniser() override
@@ -208,7 +224,7 @@ public:
         panneau_.setCursor(Qt::OpenHandCursor);
         panneau_.début = [this](QPoint prise) {
             if (Agissante() && cadre_.Enabled)
-                cadre_.MouseMove(EnTwips(prise.x()), EnTwips(prise.y()));
+                cadre_.MouseMove(Twips(prise.x()), Twips(prise.y()));
         };
         panneau_.dépôt = [this](QPoint lieu) {
             if (Agissante())
@@ -236,7 +252,7 @@ private:
         if (!cadre_.DragDrop)
             return;
         if (panneau_.rect().contains(lieu)) {
-            cadre_.DragDrop(&cadre_, EnTwips(lieu.x()), EnTwips(lieu.y()));
+            cadre_.DragDrop(&cadre_, Twips(lieu.x()), Twips(lieu.y()));
             return;
         }
         const auto global = panneau_.mapToGlobal(lieu);
@@ -248,11 +264,13 @@ private:
             const auto dedans = vue->widget->mapFromGlobal(global);
             if (!vue->widget->rect().contains(dedans))
                 continue;
-            cadre_.DragDrop(dessous, EnTwips(dedans.x()), EnTwips(dedans.y()));
+            cadre_.DragDrop(dessous, Twips(dedans.x()), Twips(dedans.y()));
             return;
         }
-        const auto surEcran = fenêtre_.Plan()->mapFromGlobal(global);
-        cadre_.DragDrop(nullptr, EnTwips(surEcran.x()), EnTwips(surEcran.y()));
+        auto surEcran = fenêtre_.Plan()->mapFromGlobal(global);
+        if (libre != nullptr)
+            surEcran -= libre->geometry().topLeft();
+        cadre_.DragDrop(nullptr, Twips(surEcran.x()), Twips(surEcran.y()));
     }
 
     Frame& cadre_;
@@ -444,7 +462,7 @@ public:
         ColorerFond(Teinte::Panneau);
         const QSignalBlocker silence{zone_};
         zone_.setReadOnly(boîte_.Locked);
-        zone_.setTextInteractionFlags(boîte_.Locked ? Qt::TextSelectableByKeyboard | Qt::TextSelectableByMouse
+        zone_.setTextInteractionFlags(boîte_.Locked ? Qt::TextInteractionFlags{Qt::TextSelectableByMouse}
                                                     : Qt::TextEditorInteraction);
         if (const auto texte = Affiché(); texte != zone_.toPlainText())
             zone_.setPlainText(texte);
@@ -465,7 +483,18 @@ private:
         Zone(VueTexteSimple& vue, QWidget* parent) : QPlainTextEdit(parent), vue_(vue) {}
         [[nodiscard]] QSize sizeHint() const override
         {
-            return {font().pixelSize() * 18, fontMetrics().lineSpacing() * 4};
+            static constexpr int LignesUsuelles = 4;
+            static constexpr int LignesMaximales = 9;
+            const int bord = 2 * (frameWidth() + static_cast<int>(document()->documentMargin())) + 2;
+            const int largeur = font().pixelSize() * 18;
+            // A text to be read shows whole; one to be written starts with a few lines.
+            const int lue = isReadOnly() ? fontMetrics()
+                                               .boundingRect(QRect{0, 0, largeur - bord, 1}, Qt::TextWordWrap,
+                                                             EnAffichage(vue_.boîte_.Text()))
+                                               .height()
+                                         : 0;
+            const int ligne = fontMetrics().lineSpacing();
+            return {largeur, std::clamp(lue, ligne * LignesUsuelles, ligne * LignesMaximales) + bord};
         }
         [[nodiscard]] QSize minimumSizeHint() const override
         {

@@ -3,6 +3,7 @@
 #pragma once
 #include "core/Ecran.h"
 
+#include <QLayout>
 #include <QWidget>
 
 #include <functional>
@@ -19,9 +20,9 @@ public:
     virtual ~Vue();
 
     Elément& élément;
-    QWidget* const widget; // owned by its parent; none for what another widget paints
-    bool sale = true;      // waits for its turn to be synced
-    bool calculée = false; // stands at places that the rules compute: see Disposition::Libre
+    QWidget* const widget;          // owned by its parent; none for what another widget paints
+    bool sale = true;               // waits for its turn to be synced
+    const QLayout* libre = nullptr; // where it stands at places that the rules compute: see Disposition::Libre
     std::function<double()> échelle;
 
     // Sets on the widget what differs from the element.
@@ -32,10 +33,14 @@ public:
     virtual bool Taper(const Touche& /*touche*/) { return true; }
     // The size that the widget takes at a place that the rules compute.
     [[nodiscard]] virtual QSize TailleLibre();
+    // The place itself, in the parent's coordinates.
+    [[nodiscard]] QRect PlaceLibre();
 
 protected:
     Fenêtre& fenêtre_;
     [[nodiscard]] bool Agissante() const; // the screen is still there
+    [[nodiscard]] int Pixels(int twips) const;
+    [[nodiscard]] int Twips(int pixels) const;
     void ColorerFond(const QColor& usuelle);
 
 private:

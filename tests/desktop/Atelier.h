@@ -58,6 +58,7 @@ protected:
     {
         bool joué = false;
         QTimer::singleShot(0, qApp, [&] {
+            QApplication::setActiveWindow(plateforme.Devant()); // nobody else gives the keyboard to a window here
             script();
             joué = true;
             écran.Décharger();

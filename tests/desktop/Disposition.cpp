@@ -74,11 +74,12 @@ TEST_F(Disposition_, CeQuiEstLibreVaOùLesRèglesLePlacent)
     écran.lblMot.Left = 1500;
     écran.lblMot.Top = 750;
     écran.disposer = [&] {
-        return Pile{Colonne{écran.cmdJouer}, Libre{écran.lblMot, écran.cache}};
+        return Pile{Colonne{écran.cmdJouer, Ressort{}}, Libre{écran.lblMot, écran.cache}};
     };
     Avec(écran, [&] {
-        EXPECT_EQ(Widget(écran.lblMot).pos(), (QPoint{100, 50}));
-        EXPECT_EQ(écran.lblMot.Width, EnTwips(Widget(écran.lblMot).width()));
+        const auto origine = Widget(écran.cmdJouer).pos(); // of all that lies in the stack
+        EXPECT_EQ(Widget(écran.lblMot).pos(), origine + QPoint(100, 50));
+        EXPECT_EQ(écran.lblMot.Width, Devant().Twips(Widget(écran.lblMot).width()));
         const int court = écran.lblMot.Width;
         écran.lblMot.Caption = u"un mot bien plus long";
         EXPECT_GT(écran.lblMot.Width, court); // known at once: the rules go on with it
@@ -87,7 +88,7 @@ TEST_F(Disposition_, CeQuiEstLibreVaOùLesRèglesLePlacent)
         écran.cache.Width = écran.lblMot.Width;
         écran.cache.Height = écran.lblMot.Height / 2;
         Mettre();
-        EXPECT_EQ(Widget(écran.cache).pos(), (QPoint{100, 50}));
+        EXPECT_EQ(Widget(écran.cache).pos(), origine + QPoint(100, 50));
         EXPECT_EQ(Widget(écran.cache).width(), Widget(écran.lblMot).width());
         // Elsewhere the mouse goes through to what lies below.
         EXPECT_EQ(Devant().childAt(Widget(écran.cmdJouer).mapTo(&Devant(), QPoint{9, 9})), &Widget(écran.cmdJouer));
@@ -127,13 +128,14 @@ TEST_F(Disposition_, LÉcranApprendSaTailleEtLesPlaces)
     };
     Avec(écran, [&] {
         EXPECT_EQ(fois, 1);
-        EXPECT_EQ(écran.Width, EnTwips(Devant().width()));
-        EXPECT_EQ(écran.cmdJouer.Top, EnTwips(Widget(écran.cmdJouer).y()));
+        EXPECT_EQ(écran.Width, Devant().Twips(Devant().width()));
+        EXPECT_EQ(écran.cmdJouer.Top, Devant().Twips(Widget(écran.cmdJouer).y()));
         EXPECT_GT(écran.cmdJouer.Width, 0);
         Devant().setGeometry(0, 0, 640, 480);
         Mettre();
         EXPECT_EQ(fois, 2);
-        EXPECT_EQ(écran.Width, EnTwips(640));
+        EXPECT_EQ(écran.Width, Devant().Twips(640));
+        EXPECT_GT(écran.Width, 640 * TwipsParPixel); // the letters are smaller there, and so are twips
     });
 }
 
@@ -193,20 +195,20 @@ TEST_F(Disposition_, UnCadreSeTraîneEtSeDépose)
     Avec(écran, [&] {
         auto& cadre = Widget(écran.frameLibre);
         Traîner(cadre, {30, 40}, {100, -150});
-        EXPECT_EQ(prise, EnTwips(30));
+        EXPECT_EQ(prise, Devant().Twips(30));
         EXPECT_EQ(cibles, (std::vector<const Elément*>{nullptr}));
-        EXPECT_EQ(lieu, EnTwips(200 + 30 + 100)); // on the screen
+        EXPECT_EQ(lieu, Devant().Twips(200 + 30 + 100)); // on the screen
         Mettre();
-        EXPECT_EQ(cadre.x(), 300);
+        EXPECT_EQ(cadre.x(), Widget(écran.cmdJouer).x() + 300);
         Traîner(cadre, {30, 40}, {30, 20});
         ASSERT_EQ(cibles.size(), 2U);
         EXPECT_EQ(cibles[1], &écran.frameLibre);
-        EXPECT_EQ(lieu, EnTwips(60));
+        EXPECT_EQ(lieu, Devant().Twips(60));
         const auto versTexte =
             Widget(écran.rtf).mapTo(&Devant(), QPoint{50, 40}) - cadre.mapTo(&Devant(), QPoint{30, 40});
         Traîner(cadre, {30, 40}, versTexte);
         ASSERT_EQ(cibles.size(), 3U);
         EXPECT_EQ(cibles[2], &écran.rtf);
-        EXPECT_EQ(lieu, EnTwips(50));
+        EXPECT_EQ(lieu, Devant().Twips(50));
     });
 }

@@ -123,6 +123,8 @@ TEST_F(Eléments, CliquerUneÉtiquette)
         EXPECT_EQ(clics, 1);
         DoubleCliquer(Widget(écran.lblMot), Widget(écran.lblMot).rect().center());
         EXPECT_EQ(clics, 3); // two quick clicks are two clicks
+        Widget(écran.cmdOk).setFocus();
+        QTest::keyClick(&Widget(écran.cmdOk), Qt::Key_Tab, Qt::ShiftModifier);
         QTest::keyClick(&Widget(écran.lblMot), Qt::Key_Space);
         EXPECT_EQ(clics, 4);
         écran.lblMot.Enabled = false;

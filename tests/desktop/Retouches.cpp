@@ -22,6 +22,15 @@ TEST(Retouches, ÉloignéesRestentÀPart)
     EXPECT_EQ(retouches.Prendre(), (std::vector<Retouche>{{2, 1, 3}, {12, 1, 1}}));
 }
 
+TEST(Retouches, SurPlaceDansLeMêmeVoisinageSontUneSeule)
+{
+    Retouches retouches;
+    for (std::size_t i = 0; i < 500; i += 7)
+        retouches.Noter(i, 1, 1);
+    retouches.Noter(50000, 1, 1);
+    EXPECT_EQ(retouches.Prendre(), (std::vector<Retouche>{{0, 498, 498}, {50000, 1, 1}}));
+}
+
 TEST(Retouches, UneGrandeAvaleLesPetites)
 {
     Retouches retouches;
