@@ -53,6 +53,10 @@ void Ecran::Dimensionner(int largeur, int hauteur)
 {
     Width.Noter(largeur);
     Height.Noter(hauteur);
+    for (auto* couverture : couvertures_) {
+        couverture->Width = largeur;
+        couverture->Height = hauteur;
+    }
     if (chargé_)
         Resize();
 }

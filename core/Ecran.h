@@ -54,8 +54,8 @@ public:
     [[nodiscard]] virtual std::vector<Menu> Menus() { return {}; }
     [[nodiscard]] const std::vector<Elément*>& Eléments() const { return éléments_; }
     [[nodiscard]] const std::vector<Timer*>& Minuteries() const { return minuteries_; }
-    // The frames that hide all the rest while they are visible.
-    [[nodiscard]] const std::vector<const Elément*>& Couvertures() const { return couvertures_; }
+    // The frames that hide all the rest while they are visible: as large as the screen.
+    [[nodiscard]] const std::vector<Elément*>& Couvertures() const { return couvertures_; }
     [[nodiscard]] Elément* Focus() const { return focus_; }
     void PrendreFocus(Elément& élément);
 
@@ -99,7 +99,7 @@ private:
     Elément* focus_ = nullptr;
     std::vector<Elément*> éléments_;
     std::vector<Timer*> minuteries_;
-    std::vector<const Elément*> couvertures_;
+    std::vector<Elément*> couvertures_;
     Arrangement arrangement_;
 };
 

@@ -9,15 +9,15 @@
 
 // ---- Elément -------------------------------------------------------------------------------------------------
 
-Elément::Elément(Ecran& écran, std::string_view nom, EtatInitial initial)
+Elément::Elément(Ecran& écran, std::string_view nom, const EtatInitial& initial)
     : Nom(nom),
       Visible(*this, initial.Visible),
       Enabled(*this, initial.Enabled),
-      ToolTipText(*this, std::move(initial.ToolTipText)),
+      ToolTipText(*this, initial.ToolTipText),
       BackColor(*this, initial.BackColor),
       ForeColor(*this, initial.ForeColor),
       FontSize(*this, initial.FontSize),
-      Police(*this, std::move(initial.Police)),
+      Police(*this, initial.Police),
       Gras(initial.Gras),
       écran_(écran)
 {
@@ -68,7 +68,7 @@ void Appeler(const std::function<void()>& événement)
 
 } // namespace
 
-Légendé::Légendé(Ecran& écran, std::string_view nom, EtatInitial initial)
+Légendé::Légendé(Ecran& écran, std::string_view nom, const EtatInitial& initial)
     : Elément(écran, nom, initial), Caption(*this, initial.Caption)
 {
 }
@@ -79,7 +79,7 @@ void Légendé::Cliquer()
         Appeler(Click);
 }
 
-Label::Label(Ecran& écran, std::string_view nom, EtatInitial initial)
+Label::Label(Ecran& écran, std::string_view nom, const EtatInitial& initial)
     : Légendé(écran, nom, initial), Bordure(*this, initial.Bordure), Centré(initial.Centré)
 {
 }
@@ -99,7 +99,7 @@ void Incrémenter(Label& compteur, int pas)
 
 // ---- Text box ------------------------------------------------------------------------------------------------
 
-TextBox::TextBox(Ecran& écran, std::string_view nom, EtatInitial initial)
+TextBox::TextBox(Ecran& écran, std::string_view nom, const EtatInitial& initial)
     : Elément(écran, nom, initial),
       Text(*this, initial.Caption),
       MaxLength(*this, initial.MaxLength),
@@ -169,7 +169,7 @@ bool TextBox::Taper(Touche touche)
 
 // ---- Lists ---------------------------------------------------------------------------------------------------
 
-Liste::Liste(Ecran& écran, std::string_view nom, EtatInitial initial)
+Liste::Liste(Ecran& écran, std::string_view nom, const EtatInitial& initial)
     : Elément(écran, nom, initial), Sorted(initial.Sorted)
 {
 }
@@ -228,7 +228,7 @@ void Liste::Choisir(int index)
     Appeler(Click);
 }
 
-ComboBox::ComboBox(Ecran& écran, std::string_view nom, EtatInitial initial)
+ComboBox::ComboBox(Ecran& écran, std::string_view nom, const EtatInitial& initial)
     : Liste(écran, nom, initial), Text(*this, initial.Caption), Saisie(initial.Saisie)
 {
 }
@@ -327,8 +327,8 @@ void FileListBox::Refresh(const Texte& dossier)
     static_cast<void>(Path(dossier)); // an unreadable folder has an empty list
 }
 
-DriveListBox::DriveListBox(Ecran& écran, std::string_view nom, EtatInitial initial)
-    : Elément(écran, nom, std::move(initial))
+DriveListBox::DriveListBox(Ecran& écran, std::string_view nom, const EtatInitial& initial)
+    : Elément(écran, nom, initial)
 {
     Refresh();
 }
@@ -357,10 +357,7 @@ void DriveListBox::Choisir(int index)
     Appeler(Change);
 }
 
-DirListBox::DirListBox(Ecran& écran, std::string_view nom, EtatInitial initial)
-    : Elément(écran, nom, std::move(initial))
-{
-}
+DirListBox::DirListBox(Ecran& écran, std::string_view nom, const EtatInitial& initial) : Elément(écran, nom, initial) {}
 
 bool DirListBox::Path(const Texte& dossier)
 {
@@ -388,9 +385,7 @@ void DirListBox::Ouvrir(int index)
 
 // ---- Scroll bar, timer, shapes ---------------------------------------------------------------------------------
 
-ScrollBar::ScrollBar(Ecran& écran, std::string_view nom, EtatInitial initial) : Elément(écran, nom, std::move(initial))
-{
-}
+ScrollBar::ScrollBar(Ecran& écran, std::string_view nom, const EtatInitial& initial) : Elément(écran, nom, initial) {}
 
 void ScrollBar::Déplacer(int valeur)
 {
@@ -414,12 +409,12 @@ void Timer::Changer()
     écran_.ApplicationDe().plateforme.RéglerMinuterie(*this);
 }
 
-Rectangle::Rectangle(Ecran& écran, std::string_view nom, EtatInitial initial)
+Rectangle::Rectangle(Ecran& écran, std::string_view nom, const EtatInitial& initial)
     : Elément(écran, nom, initial), FillColor(*this, initial.BackColor), BorderColor(*this, initial.ForeColor)
 {
 }
 
-Line::Line(Ecran& écran, std::string_view nom, EtatInitial initial) : Elément(écran, nom, std::move(initial)) {}
+Line::Line(Ecran& écran, std::string_view nom, const EtatInitial& initial) : Elément(écran, nom, initial) {}
 
 Line::Line(Ecran& écran, std::string_view nom, Trait trait, bool visible) : Elément(écran, nom)
 {

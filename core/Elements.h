@@ -48,6 +48,8 @@ struct Touche {
     static constexpr int Echappement = 27;
     static constexpr int PagePrécédente = 33;
     static constexpr int PageSuivante = 34;
+    static constexpr int Fin = 35;
+    static constexpr int Origine = 36;
     static constexpr int Gauche = 37;
     static constexpr int Haut = 38;
     static constexpr int Droite = 39;
@@ -63,7 +65,7 @@ struct Touche {
 
 class Elément : public Observable {
 public:
-    Elément(Ecran& écran, std::string_view nom, EtatInitial initial = {});
+    Elément(Ecran& écran, std::string_view nom, const EtatInitial& initial = {});
     Elément(const Elément&) = delete;
     Elément& operator=(const Elément&) = delete;
     virtual ~Elément() = default;
@@ -104,7 +106,7 @@ private:
 // What most elements add: a caption and a click.
 class Légendé : public Elément {
 public:
-    Légendé(Ecran& écran, std::string_view nom, EtatInitial initial = {});
+    Légendé(Ecran& écran, std::string_view nom, const EtatInitial& initial = {});
     Légendé(Ecran& écran, std::string_view nom, const Légende auto& légende)
         : Légendé(écran, nom, EtatInitial{.Caption = légende})
     {
@@ -121,7 +123,7 @@ enum class Pointeur { Normal, Sablier };
 
 class Label final : public Légendé {
 public:
-    Label(Ecran& écran, std::string_view nom, EtatInitial initial = {});
+    Label(Ecran& écran, std::string_view nom, const EtatInitial& initial = {});
     Label(Ecran& écran, std::string_view nom, const Légende auto& légende)
         : Label(écran, nom, EtatInitial{.Caption = légende})
     {
@@ -167,7 +169,7 @@ public:
 
 class TextBox final : public Elément {
 public:
-    TextBox(Ecran& écran, std::string_view nom, EtatInitial initial = {});
+    TextBox(Ecran& écran, std::string_view nom, const EtatInitial& initial = {});
     TextBox(Ecran& écran, std::string_view nom, const Légende auto& texte)
         : TextBox(écran, nom, EtatInitial{.Caption = texte})
     {
@@ -204,7 +206,7 @@ public:
 // A list of texts. A sorted one keeps its items in the order of a French dictionary.
 class Liste : public Elément {
 public:
-    Liste(Ecran& écran, std::string_view nom, EtatInitial initial = {});
+    Liste(Ecran& écran, std::string_view nom, const EtatInitial& initial = {});
 
     Propriété<int> ListIndex{*this, -1};
     const bool Sorted;
@@ -237,7 +239,7 @@ public:
 
 class ComboBox final : public Liste {
 public:
-    ComboBox(Ecran& écran, std::string_view nom, EtatInitial initial = {});
+    ComboBox(Ecran& écran, std::string_view nom, const EtatInitial& initial = {});
 
     Propriété<Texte> Text; // what the field shows
     const bool Saisie;
@@ -274,7 +276,7 @@ private:
 // The roots that a folder can be chosen under: "/", the home folder, what is mounted.
 class DriveListBox final : public Elément {
 public:
-    DriveListBox(Ecran& écran, std::string_view nom, EtatInitial initial = {});
+    DriveListBox(Ecran& écran, std::string_view nom, const EtatInitial& initial = {});
 
     Propriété<Texte> Drive{*this, Texte{}};
     std::function<void()> Change;
@@ -290,7 +292,7 @@ private:
 // A folder and the folders in it.
 class DirListBox final : public Elément {
 public:
-    DirListBox(Ecran& écran, std::string_view nom, EtatInitial initial = {});
+    DirListBox(Ecran& écran, std::string_view nom, const EtatInitial& initial = {});
 
     std::function<void()> Change;
 
@@ -307,7 +309,7 @@ private:
 
 class ScrollBar final : public Elément {
 public:
-    ScrollBar(Ecran& écran, std::string_view nom, EtatInitial initial = {});
+    ScrollBar(Ecran& écran, std::string_view nom, const EtatInitial& initial = {});
 
     Propriété<int> Value{*this, 0};
     Propriété<int> Min{*this, 0};
@@ -343,7 +345,7 @@ public:
 
 class Rectangle final : public Elément {
 public:
-    Rectangle(Ecran& écran, std::string_view nom, EtatInitial initial = {});
+    Rectangle(Ecran& écran, std::string_view nom, const EtatInitial& initial = {});
 
     Propriété<Couleur> FillColor;
     Propriété<Couleur> BorderColor;
@@ -359,7 +361,7 @@ public:
         Couleur Teinte = Noir;
         int Epaisseur = 1;
     };
-    Line(Ecran& écran, std::string_view nom, EtatInitial initial = {});
+    Line(Ecran& écran, std::string_view nom, const EtatInitial& initial = {});
     Line(Ecran& écran, std::string_view nom, Trait trait, bool visible = true);
 
     Propriété<int> X1{*this, 0};
@@ -424,7 +426,7 @@ public:
         for (int i = 0; i < nombre; ++i)
             éléments_.emplace_back(écran, NomIndexé(nom, i), initial);
     }
-    Tableau(Ecran& écran, std::string_view nom, std::initializer_list<Texte> légendes, EtatInitial initial = {})
+    Tableau(Ecran& écran, std::string_view nom, std::initializer_list<Texte> légendes, const EtatInitial& initial = {})
     {
         for (const auto& légende : légendes) {
             initial.Caption = légende;

@@ -93,7 +93,7 @@ bool AvantDansLOrdre(VueTexte a, VueTexte b)
         return écart < 0;
     const auto accents = std::lexicographical_compare_three_way(
         a.begin(), a.end(), b.begin(), b.end(), [](char16_t g, char16_t d) { return Minuscule(g) <=> Minuscule(d); });
-    if (accents != 0)
-        return accents < 0;
+    if (std::is_neq(accents))
+        return std::is_lt(accents);
     return a > b; // capitals have the lower codes
 }

@@ -16,8 +16,7 @@ void Appeler(const std::function<void()>& événement)
 
 } // namespace
 
-RichTextBox::RichTextBox(Ecran& écran, std::string_view nom, EtatInitial initial)
-    : Elément(écran, nom, std::move(initial))
+RichTextBox::RichTextBox(Ecran& écran, std::string_view nom, const EtatInitial& initial) : Elément(écran, nom, initial)
 {
 }
 

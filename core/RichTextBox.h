@@ -37,7 +37,7 @@ private:
 
 class RichTextBox final : public Elément {
 public:
-    RichTextBox(Ecran& écran, std::string_view nom, EtatInitial initial = {});
+    RichTextBox(Ecran& écran, std::string_view nom, const EtatInitial& initial = {});
 
     // Who draws the box hears of each edit: `retirés` characters at `début` gave way to `ajoutés`; with the same
     // count on both sides, characters or formats changed in place.

@@ -680,6 +680,10 @@ int CodeDe(const QKeyEvent& événement)
         return Touche::PagePrécédente;
     case Qt::Key_PageDown:
         return Touche::PageSuivante;
+    case Qt::Key_End:
+        return Touche::Fin;
+    case Qt::Key_Home:
+        return Touche::Origine;
     case Qt::Key_Left:
         return Touche::Gauche;
     case Qt::Key_Up:

@@ -472,8 +472,9 @@ void VueTexteRiche::MettreSélection()
 
 bool VueTexteRiche::Taper(const Touche& touche)
 {
-    // In a locked text these keys edit nothing: they lead to a character and click it.
-    const bool jeu = touche.Caractère == 0 || touche.Caractère == u' ' || touche.Code == Touche::Entrée;
+    // In a locked text these keys edit nothing: they lead to a character and click it. So does Enter, where it isn't
+    // thrown away.
+    const bool jeu = touche.Caractère == 0 || touche.Caractère == u' ';
     return (boîte_.Locked && jeu) || boîte_.Taper(touche);
 }
 

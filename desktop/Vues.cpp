@@ -267,7 +267,9 @@ private:
             cadre_.DragDrop(dessous, Twips(dedans.x()), Twips(dedans.y()));
             return;
         }
-        const auto surEcran = fenêtre_.Plan()->mapFromGlobal(global);
+        auto surEcran = fenêtre_.Plan()->mapFromGlobal(global);
+        if (libre != nullptr)
+            surEcran -= libre->geometry().topLeft();
         cadre_.DragDrop(nullptr, Twips(surEcran.x()), Twips(surEcran.y()));
     }
 
@@ -571,11 +573,6 @@ private:
 
 // ---- Lists -------------------------------------------------------------------------------------------------------
 
-bool EstFrappe(const Touche& touche)
-{
-    return touche.Caractère != 0; // arrows move in the list whatever becomes of typed keys
-}
-
 // The toolkit gives the value of a drop-down list as its accessible name: its own name goes into its description.
 void Nommer(QComboBox& liste)
 {
@@ -611,7 +608,7 @@ public:
         });
     }
 
-    bool Taper(const Touche& touche) override { return !EstFrappe(touche) || combo_.Taper(touche); }
+    bool Taper(const Touche& touche) override { return combo_.Taper(touche); }
 
     void Synchroniser() override
     {
@@ -672,7 +669,7 @@ public:
 
     bool Taper(const Touche& touche) override
     {
-        if (!EstFrappe(touche) || !source_.KeyPress)
+        if (touche.Caractère == 0 || !source_.KeyPress) // arrows move in the list whatever becomes of typed keys
             return true;
         Touche copie = touche;
         source_.KeyPress(copie);

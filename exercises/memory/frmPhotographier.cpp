@@ -73,8 +73,6 @@ void frmPhotographier::Load()
 {
     AjouterNomElève();
     if (CompterMotsDifférents(choix_.cmbVocabulaire) < MotsDifférentsMinimum) {
-        frameQuitter.Width = Width;
-        frameQuitter.Height = Height;
         frameQuitter.Visible = true;
         cmdAbandonner.SetFocus();
         return;

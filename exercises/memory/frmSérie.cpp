@@ -62,8 +62,6 @@ void frmSérie::Load()
 {
     AjouterNomElève();
     if (CompterMotsDifférents(choix_.cmbVocabulaire) < MotsDifférentsMinimum) {
-        frameQuitter.Width = Width;
-        frameQuitter.Height = Height;
         frameQuitter.Visible = true;
         cmdAbandonner.SetFocus();
         return;

@@ -103,8 +103,6 @@ Arrangement frmPendu::Disposer()
 void frmPendu::Load()
 {
     AjouterNomElève();
-    frameQuitter.Width = Width;
-    frameQuitter.Height = Height;
     ChargerMots();
     for (int i = 0; i < lblLettre.Nombre(); ++i) {
         const auto lettre = static_cast<char16_t>(u'a' + i);

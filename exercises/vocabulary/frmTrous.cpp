@@ -61,8 +61,8 @@ void frmTrous::Load()
     état.CorrectionEnCours = false;
     const auto trous = LacunesMarquées(choix_.rtfTexte.TextRTF());
     if (trous.empty()) {
-        CouvrirEcran();
         frameQuitter.Visible = true;
+        cmdAbandonner.SetFocus();
         return;
     }
     OuvrirTrous(trous);
@@ -77,16 +77,9 @@ void frmTrous::OuvrirTrous(const std::vector<Lacune>& trous)
     RemplirListe(cmbTrous, MotsEnlevés(choix_.rtfTexte.Text(), trous));
 }
 
-void frmTrous::CouvrirEcran()
-{
-    frameQuitter.Width = Width;
-    frameQuitter.Height = Height;
-}
-
 void frmTrous::Resize()
 {
     AjusterBoîte(rtfTrous);
-    CouvrirEcran();
 }
 
 void frmTrous::rtfTrous_KeyPress(Touche& touche)

@@ -30,7 +30,6 @@ private:
     void cmdQuitter_Click();
     void rtfTrous_KeyPress(Touche& touche);
     void OuvrirTrous(const std::vector<Lacune>& trous);
-    void CouvrirEcran();
 
     frmExercices& choix_;
     const JeuDeLacunes jeu_{choix_, rtfTrous, cmbTrous, lblPoints, frameFin};

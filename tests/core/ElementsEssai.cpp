@@ -56,6 +56,19 @@ TEST(Eléments, UnTableauNommeEtNumérote)
     EXPECT_EQ(cliqué, 2);
 }
 
+TEST(Eléments, UneCouvertureALaTailleDeLEcranDèsQuIlEnAUne)
+{
+    Banc banc;
+    auto& écran = banc.Ouvrir<Essai>();
+    EXPECT_GT(écran.Width, 0);
+    EXPECT_EQ(écran.couverture.Width, écran.Width);
+    EXPECT_EQ(écran.couverture.Height, écran.Height);
+    écran.Dimensionner(12000, 9000);
+    EXPECT_EQ(écran.couverture.Width, 12000);
+    EXPECT_EQ(écran.couverture.Height, 9000);
+    EXPECT_EQ(écran.cadre.Width, 0);
+}
+
 TEST(Eléments, UnePropriétéNePrévientQueSiElleChange)
 {
     Banc banc;

@@ -74,10 +74,11 @@ TEST_F(Disposition_, CeQuiEstLibreVaOùLesRèglesLePlacent)
     écran.lblMot.Left = 1500;
     écran.lblMot.Top = 750;
     écran.disposer = [&] {
-        return Pile{Colonne{écran.cmdJouer}, Libre{écran.lblMot, écran.cache}};
+        return Pile{Colonne{écran.cmdJouer, Ressort{}}, Libre{écran.lblMot, écran.cache}};
     };
     Avec(écran, [&] {
-        EXPECT_EQ(Widget(écran.lblMot).pos(), (QPoint{100, 50}));
+        const auto origine = Widget(écran.cmdJouer).pos(); // of all that lies in the stack
+        EXPECT_EQ(Widget(écran.lblMot).pos(), origine + QPoint(100, 50));
         EXPECT_EQ(écran.lblMot.Width, Devant().Twips(Widget(écran.lblMot).width()));
         const int court = écran.lblMot.Width;
         écran.lblMot.Caption = u"un mot bien plus long";
@@ -87,7 +88,7 @@ TEST_F(Disposition_, CeQuiEstLibreVaOùLesRèglesLePlacent)
         écran.cache.Width = écran.lblMot.Width;
         écran.cache.Height = écran.lblMot.Height / 2;
         Mettre();
-        EXPECT_EQ(Widget(écran.cache).pos(), (QPoint{100, 50}));
+        EXPECT_EQ(Widget(écran.cache).pos(), origine + QPoint(100, 50));
         EXPECT_EQ(Widget(écran.cache).width(), Widget(écran.lblMot).width());
         // Elsewhere the mouse goes through to what lies below.
         EXPECT_EQ(Devant().childAt(Widget(écran.cmdJouer).mapTo(&Devant(), QPoint{9, 9})), &Widget(écran.cmdJouer));
@@ -198,7 +199,7 @@ TEST_F(Disposition_, UnCadreSeTraîneEtSeDépose)
         EXPECT_EQ(cibles, (std::vector<const Elément*>{nullptr}));
         EXPECT_EQ(lieu, Devant().Twips(200 + 30 + 100)); // on the screen
         Mettre();
-        EXPECT_EQ(cadre.x(), 300);
+        EXPECT_EQ(cadre.x(), Widget(écran.cmdJouer).x() + 300);
         Traîner(cadre, {30, 40}, {30, 20});
         ASSERT_EQ(cibles.size(), 2U);
         EXPECT_EQ(cibles[1], &écran.frameLibre);

@@ -282,11 +282,18 @@ TEST_F(Eléments, UneListeMontreUnTexteQuiNEstPasDElle)
 TEST_F(Eléments, DesTouchesJetéesNeChoisissentRien)
 {
     écran.cmbMots.AddItems({u"chat", u"chien"});
-    écran.cmbMots.KeyPress = [](Touche& touche) {
-        touche.Avaler();
+    bool flèchesAussi = true;
+    écran.cmbMots.KeyPress = [&](Touche& touche) {
+        if (flèchesAussi || touche.Caractère != 0)
+            touche.Avaler();
     };
     Avec(écran, [&] {
         Widget(écran.cmbMots).setFocus();
+        QTest::keyClicks(&Widget(écran.cmbMots), "c");
+        for (const auto touche : {Qt::Key_Down, Qt::Key_PageDown, Qt::Key_Home, Qt::Key_End})
+            QTest::keyClick(&Widget(écran.cmbMots), touche);
+        EXPECT_EQ(écran.cmbMots.Text(), u" Liste des mots enlevés ");
+        flèchesAussi = false;
         QTest::keyClicks(&Widget(écran.cmbMots), "c");
         EXPECT_EQ(écran.cmbMots.Text(), u" Liste des mots enlevés ");
         QTest::keyClick(&Widget(écran.cmbMots), Qt::Key_Down);

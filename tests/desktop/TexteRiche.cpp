@@ -157,8 +157,10 @@ TEST_F(TexteRicheAffiché, LeClavierJoueCommeLaSouris)
     écran.rtf.Click = [&] {
         clics.push_back(écran.rtf.SelStart());
     };
-    écran.rtf.KeyPress = [](Touche& touche) {
-        touche.Avaler();
+    bool entréeAvalée = false;
+    écran.rtf.KeyPress = [&](Touche& touche) {
+        if (entréeAvalée || touche.Code != Touche::Entrée)
+            touche.Avaler();
     };
     Avec(écran, [&] {
         Zone().setFocus();
@@ -168,6 +170,9 @@ TEST_F(TexteRicheAffiché, LeClavierJoueCommeLaSouris)
         QTest::keyClick(&Zone(), Qt::Key_Left);
         QTest::keyClick(&Zone(), Qt::Key_Return);
         EXPECT_EQ(clics, (std::vector<std::size_t>{1, 2}));
+        entréeAvalée = true;
+        QTest::keyClick(&Zone(), Qt::Key_Return);
+        EXPECT_EQ(clics.size(), 2U) << "un écran peut garder Entrée pour lui";
     });
 }
 

@@ -212,6 +212,27 @@ TEST(Closures, OuvertureTroueLeTexteEtRemplitLaListe)
     EXPECT_EQ(écran.lblPoints(1).Caption, u"0");
 }
 
+TEST(Closures, LesPointsOntLeursCouleursEtLesBoutonsLeurLégende)
+{
+    Banc banc;
+    auto& écran = Ouvrir(banc, Nombres);
+    for (auto& point : écran.lblPoints)
+        EXPECT_EQ(point.BackColor, Jaune);
+    EXPECT_EQ(écran.lblPoints(0).ForeColor, Rouge);
+    EXPECT_EQ(écran.lblPoints(1).ForeColor, Rouge);
+    EXPECT_EQ(écran.lblPoints(2).ForeColor, Bleu);
+    EXPECT_EQ(écran.cmdOk.Caption, u"&Ok");
+    EXPECT_EQ(écran.cmdQuitter.Caption, u"&Quitter");
+    EXPECT_FALSE(écran.Image1.Picture().formes.empty());
+    EXPECT_TRUE(écran.cmbClosures.Sorted);
+}
+
+TEST(Closures, LaListeMontreSonTitreTantQuElleEstVide)
+{
+    Banc banc;
+    EXPECT_EQ(OuvrirTropCourt(banc, u"court").cmbClosures.Text, u" Liste des mots enlevés ");
+}
+
 TEST(Closures, LesMarquesDuMaîtreDisparaissent)
 {
     Banc banc;

@@ -78,6 +78,15 @@ TEST(TexteMasqué, LesÉtiquettesVontDeAàZ)
     EXPECT_TRUE(écran.lblLettre(25).Visible);
 }
 
+TEST(TexteMasqué, LaConsigneEtLeBoutonDeFin)
+{
+    Banc banc;
+    auto& écran = Ouvrir(banc, u"abc");
+    EXPECT_EQ(écran.Label1.Caption,
+              u"Choisis le caractère à remplacer dans le texte, puis clique sur la lettre ou utilise le clavier.");
+    EXPECT_EQ(écran.cmdQuitter.Caption, u"&Quitter");
+}
+
 TEST(TexteMasqué, LeMasqueGardeLesFormatsSaufLaBarre)
 {
     Banc banc;

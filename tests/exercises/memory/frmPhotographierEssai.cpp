@@ -44,11 +44,39 @@ TEST(Photographier, LégendePorteLeNomDeLElève)
     EXPECT_EQ(Ouvrir(banc, Mots(5)).Caption, u"Photographier / Léa");
 }
 
+TEST(Photographier, TextesEtCouleursDuDépart)
+{
+    Banc banc;
+    auto& écran = Ouvrir(banc, Mots(5));
+    EXPECT_EQ(écran.cmdAfficher.Caption, u"&Afficher le mot  dans le cadre blanc");
+    EXPECT_EQ(écran.Image1.ToolTipText, u" Regarde bien l'endroit indiqué par la flèche. ");
+    EXPECT_EQ(écran.Label3.Caption, u"Clique sur le mot que tu as vu.");
+    EXPECT_EQ(écran.cmdQuitter.Caption, u"&Quitter");
+    EXPECT_FALSE(écran.cmdQuitter.Visible);
+    EXPECT_EQ(écran.lblMot.BackColor, Blanc);
+    EXPECT_EQ(écran.lblMot.ForeColor, Blanc);
+    EXPECT_EQ(écran.lblVitesse.BackColor, Bleu);
+    EXPECT_EQ(écran.lblVitesse.ForeColor, Cyan);
+    EXPECT_EQ(écran.lblPoints(0).ForeColor, Rouge);
+    EXPECT_EQ(écran.lblPoints(1).ForeColor, Rouge);
+    EXPECT_EQ(écran.lblPoints(2).ForeColor, Bleu);
+    EXPECT_EQ(écran.lblPoints(2).Caption, u" / ");
+    EXPECT_FALSE(écran.Chrono.Enabled);
+    EXPECT_EQ(Propositions(écran), 0);
+}
+
 TEST(Photographier, QuatreMotsMontrentLeCadreDeSortie)
 {
     Banc banc;
     auto& écran = Ouvrir(banc, Mots(4));
     EXPECT_TRUE(écran.frameQuitter.Visible);
+    EXPECT_EQ(écran.frameQuitter.Caption, u"Pas assez de vocabulaire sélectionné");
+    EXPECT_EQ(écran.Label2.Caption,
+              u"Il doit y avoir au moins 5 mots de vocabulaire sélectionnés (en les barrant) pour "
+              u"lancer l'exercice.");
+    EXPECT_EQ(écran.cmdAbandonner.Caption, u"&Abandonner");
+    EXPECT_EQ(écran.frameQuitter.Width, écran.Width());
+    EXPECT_EQ(écran.frameQuitter.Height, écran.Height());
     EXPECT_FALSE(écran.cmdAfficher.EstAtteignable());
     écran.cmdAbandonner.Cliquer();
     EXPECT_FALSE(écran.EstChargé());

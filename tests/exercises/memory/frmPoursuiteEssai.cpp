@@ -93,6 +93,31 @@ TEST(Poursuite, OuvertureMontreLaConsigne)
     EXPECT_EQ(écran.Focus(), &écran.cmdCommencer);
 }
 
+TEST(Poursuite, TextesCouleursEtIntervallesDuDépart)
+{
+    Banc banc;
+    auto& écran = Ouvrir(banc, Phrase(Mots(50)));
+    EXPECT_EQ(écran.lblConsigne.Caption, u"Le texte va apparaître progressivement. Essaie de me suivre !");
+    EXPECT_EQ(écran.cmdCommencer.Caption, u"&Commencer");
+    EXPECT_EQ(écran.Label1.Caption, u"Clique sur le dernier mot qui est apparu.");
+    EXPECT_EQ(écran.cmdContinuer.Caption, u"&Continuer");
+    EXPECT_FALSE(écran.cmdContinuer.Visible);
+    EXPECT_FALSE(écran.lblPassage.Visible);
+    EXPECT_FALSE(écran.lblCorrigé.Visible);
+    for (auto& mot : écran.lblMot) {
+        EXPECT_EQ(mot.ForeColor, Bleu);
+        EXPECT_EQ(mot.BackColor, Blanc);
+    }
+    EXPECT_EQ(écran.lblPoints(0).ForeColor, Rouge);
+    EXPECT_EQ(écran.lblPoints(1).ForeColor, Rouge);
+    EXPECT_EQ(écran.lblPoints(2).ForeColor, Bleu);
+    EXPECT_EQ(écran.lblPoints(2).Caption, u" / ");
+    EXPECT_EQ(écran.Horloge.Interval, 100);
+    EXPECT_EQ(écran.Horloge2.Interval, 400);
+    EXPECT_FALSE(écran.Horloge.Enabled);
+    EXPECT_FALSE(écran.Horloge2.Enabled);
+}
+
 TEST(Poursuite, BoîteSuitLaTailleDeLEcranAPartirDeMilleTwips)
 {
     Banc banc;

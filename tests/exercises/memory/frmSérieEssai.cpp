@@ -59,11 +59,40 @@ TEST(Série, LégendePorteLeNomDeLElève)
     EXPECT_EQ(Ouvrir(banc, Mots(5)).Caption, u"Mémoriser une série / Léa");
 }
 
+TEST(Série, TextesBullesEtCouleursDuDépart)
+{
+    Banc banc;
+    TirerVarié(banc);
+    auto& écran = Ouvrir(banc, Mots(5));
+    EXPECT_EQ(écran.frameChoix.Caption, u"Clique sur ces mots");
+    EXPECT_EQ(écran.lblConsigne.Caption, u" Clique sur les mots dans l'ordre dans lequel ils sont apparus. ");
+    EXPECT_FALSE(écran.lblConsigne.Visible);
+    EXPECT_EQ(écran.cmdVoir.Caption, u"&Voir");
+    EXPECT_EQ(écran.cmdContinuer.Caption, u"Série suivante");
+    EXPECT_FALSE(écran.cmdContinuer.Visible);
+    EXPECT_EQ(écran.lblPoints(0).ToolTipText, u" Seul le score de la meilleure série est retenu. ");
+    EXPECT_EQ(écran.lblPoints(1).ToolTipText, u" Seul le score de la meilleure série est retenu. ");
+    EXPECT_EQ(écran.lblPoints(2).ToolTipText, u" Seul le score de la meilleur série est retenu. ");
+    EXPECT_EQ(écran.lblPoints(0).ForeColor, Rouge);
+    EXPECT_EQ(écran.lblPoints(1).ForeColor, Rouge);
+    EXPECT_EQ(écran.lblPoints(2).ForeColor, Bleu);
+    EXPECT_EQ(écran.lblPoints(2).BackColor, Jaune);
+    EXPECT_EQ(écran.lblPoints(2).Caption, u" / ");
+    EXPECT_EQ(écran.lblPoints(0).Caption, u"0");
+}
+
 TEST(Série, QuatreMotsMontrentLeCadreDeSortie)
 {
     Banc banc;
     auto& écran = Ouvrir(banc, Mots(4)); // and nothing is drawn
     EXPECT_TRUE(écran.frameQuitter.Visible);
+    EXPECT_EQ(écran.frameQuitter.Caption, u"Pas assez de vocabulaire sélectionné");
+    EXPECT_EQ(écran.Label2.Caption,
+              u"Il doit y avoir au moins 5 mots de vocabulaire sélectionnés (en les barrant) pour "
+              u"lancer l'exercice.");
+    EXPECT_EQ(écran.cmdAbandonner.Caption, u"&Abandonner");
+    EXPECT_EQ(écran.frameQuitter.Width, écran.Width());
+    EXPECT_EQ(écran.frameQuitter.Height, écran.Height());
     EXPECT_FALSE(écran.cmdVoir.EstAtteignable());
     écran.cmdAbandonner.Cliquer();
     EXPECT_FALSE(écran.EstChargé());

@@ -62,6 +62,22 @@ TEST(Pendu, OuverturePréparePremierMot)
     EXPECT_EQ(écran.cmbMots.ListCount(), 0);
 }
 
+TEST(Pendu, TextesBulleEtCouleursDuDépart)
+{
+    Banc banc;
+    auto& écran = Ouvrir(banc, {u"chat"});
+    EXPECT_EQ(écran.Label1.Caption, u"Choisis un caractère en cliquant sur la lettre ou en utilisant le clavier.");
+    EXPECT_EQ(écran.cmdSuivant.Caption, u"&Suivant");
+    EXPECT_EQ(écran.cmdSuivant.ToolTipText, u" Clique sur ce bouton si la phrase te semble correcte. ");
+    EXPECT_EQ(écran.lblMot.Police, u"Comic Sans MS");
+    EXPECT_EQ(écran.lblMotMaj.Police, u"Comic Sans MS");
+    EXPECT_EQ(écran.lblPoints(0).ForeColor, Rouge);
+    EXPECT_EQ(écran.lblPoints(1).ForeColor, Rouge);
+    EXPECT_EQ(écran.lblPoints(2).ForeColor, Bleu);
+    EXPECT_EQ(écran.lblPoints(2).BackColor, Jaune);
+    EXPECT_EQ(écran.lblPoints(2).Caption, u" / ");
+}
+
 TEST(Pendu, LettresOntLeurBulleEtLeurCouleur)
 {
     Banc banc;
@@ -84,6 +100,10 @@ TEST(Pendu, SansVocabulaireLeCadreDeSortieCouvreTout)
     auto& écran = Ouvrir(banc, {});
     EXPECT_TRUE(écran.frameQuitter.Visible);
     EXPECT_EQ(écran.frameQuitter.Caption, u"Pas de vocabulaire sélectionné");
+    EXPECT_EQ(écran.Label2.Caption, u"L'exercice est terminé.");
+    EXPECT_EQ(écran.cmdAbandonner.Caption, u"&Abandonner");
+    EXPECT_EQ(écran.frameQuitter.Width, écran.Width());
+    EXPECT_EQ(écran.frameQuitter.Height, écran.Height());
     Cliquer(écran, u"abcdefghijk");
     for (const char16_t lettre : Texte{u"abcdefghijk"})
         Taper(écran, lettre);

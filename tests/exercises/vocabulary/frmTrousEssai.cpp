@@ -57,6 +57,21 @@ TEST(Trous, ChaqueMarqueDevientUneLacuneEtUnMotDeLaListe)
     EXPECT_EQ(écran.lblPoints(1).Caption, u"0");
 }
 
+TEST(Trous, LesPointsOntLeursCouleursEtLesBoutonsLeurLégende)
+{
+    Banc banc;
+    auto& écran = Ouvrir(banc, u"Le [chat] dort.");
+    for (auto& point : écran.lblPoints)
+        EXPECT_EQ(point.BackColor, Jaune);
+    EXPECT_EQ(écran.lblPoints(0).ForeColor, Rouge);
+    EXPECT_EQ(écran.lblPoints(1).ForeColor, Rouge);
+    EXPECT_EQ(écran.lblPoints(2).ForeColor, Bleu);
+    EXPECT_EQ(écran.cmdOk.Caption, u"&Ok");
+    EXPECT_EQ(écran.cmdQuitter.Caption, u"&Quitter");
+    EXPECT_FALSE(écran.Image1.Picture().formes.empty());
+    EXPECT_TRUE(écran.cmbTrous.Sorted);
+}
+
 TEST(Trous, LaLacuneEstNoireSansBarreNiSoulignement)
 {
     Banc banc;
@@ -204,6 +219,8 @@ TEST(Trous, SansMarqueLaNoticeCouvreToutEtNEnregistreRien)
     EXPECT_FALSE(écran.rtfTrous.Visible);
     EXPECT_FALSE(écran.cmdOk.EstAtteignable());
     EXPECT_EQ(écran.cmbTrous.Text, u" Liste des mots enlevés ");
+    EXPECT_EQ(écran.cmdAbandonner.Caption, u"&Quitter");
+    EXPECT_EQ(écran.Focus(), &écran.cmdAbandonner);
 
     écran.cmdAbandonner.Cliquer();
     EXPECT_FALSE(écran.EstChargé());
