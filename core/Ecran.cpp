@@ -66,6 +66,12 @@ void Ecran::FermerParCroix()
         QueryUnload();
 }
 
+void Ecran::Cliquer()
+{
+    if (chargé_)
+        Click();
+}
+
 bool Ecran::Taper(Touche touche)
 {
     if (chargé_)
