@@ -11,7 +11,7 @@ namespace {
 
 constexpr int ColonneQuestion = 0;
 constexpr int NombreChoix = 5;
-constexpr int ChampsParQuestion = 11;
+constexpr std::size_t ChampsParQuestion = 11;
 constexpr int QuestionsMaximum = 12;
 constexpr int PlaceDesQuestions = 1000; // twips from the text's left and from the top
 constexpr int LargeurQuestions = 8400;  // twips
@@ -62,6 +62,7 @@ frmQuestionnaire1::frmQuestionnaire1(frmExercices& choix)
 Arrangement frmQuestionnaire1::Disposer()
 {
     std::vector<Arrangement> choix;
+    choix.reserve(NombreChoix);
     for (int i = 0; i < NombreChoix; ++i)
         choix.emplace_back(Ligne{chkRéponse(i), Extensible(txtChoix(i))});
     return Pile{
