@@ -43,6 +43,12 @@ protected:
         fenêtre_.plateforme_.FenêtrePeinte();
     }
     void resizeEvent(QResizeEvent* /*événement*/) override { fenêtre_.TailleChangée(); }
+    void mousePressEvent(QMouseEvent* événement) override
+    {
+        // A label or a frame that no click is meant for lets it through to here.
+        if (fenêtre_.VueDuWidget(childAt(événement->position().toPoint())) == nullptr)
+            fenêtre_.écran_.Cliquer();
+    }
 
 private:
     Fenêtre& fenêtre_;

@@ -17,6 +17,7 @@ Each step waits until the screen is ready for it, and fails when that takes too 
 A name is looked for in the active window, so that the same name in a window below is not taken for it.
 """
 
+import collections
 import ctypes
 import os
 import re
@@ -35,6 +36,12 @@ CAPTURES = os.path.join(SOURCES, "build", "seance")
 DELAI = 20.0  # seconds, for anything that is to happen
 PAS = 0.03    # between two looks
 SANS_TOUCHE = "âêîôûäëïöüÿñæœÀÂÉÈÊËÎÏÔÛÙÜÇÆŒ«»’…–—\u00a0"
+
+# The letters that take two keys, and these keys.
+PAR_TOUCHE_MORTE = {accentuee: (touche, lettre)
+                    for touche, accentuees, lettres in (("dead_circumflex", "âêîôûÂÊÎÔÛ", "aeiouAEIOU"),
+                                                        ("dead_diaeresis", "äëïöüÄËÏÖÜ", "aeiouAEIOU"))
+                    for accentuee, lettre in zip(accentuees, lettres)}
 
 
 class Absent(Exception):
@@ -170,7 +177,10 @@ class Element:
         """What it shows: the contents of a text box, the value of a list, the caption of a label."""
         contenu = self.accessible.get_text_iface()
         if contenu is not None and not self.role.endswith("button"):
-            return Atspi.Text.get_text(contenu, 0, Atspi.Text.get_character_count(contenu))
+            longueur = Atspi.Text.get_character_count(contenu)
+            if self.role == "password text":  # nobody is told more
+                return "*" * longueur
+            return Atspi.Text.get_text(contenu, 0, longueur)
         if self.role == "combo box":
             return self.nom
         if self.role == "label":
@@ -311,11 +321,19 @@ class Pilote:
         self.jusqu_a(lambda: self.chercher(nom) is None, f"{nom!r} has gone", delai)
 
     def attendre_fenetre(self, titre, delai=DELAI):
-        """The active window whose title starts so."""
+        """The active window of that name: a dialog by the start of its title, a screen of the program by its name."""
         def active():
             une = self.fenetre()
             return une if une and une.etat("ACTIVE") and une.nom.startswith(titre) else None
         return self.jusqu_a(active, f"the window {titre!r} is in front", delai)
+
+    def attendre_titre(self, titre, delai=DELAI):
+        """The window in front shows that title: assistive tools know the program's screens by their names instead."""
+        def lu():
+            reponse = subprocess.run(["xdotool", "getactivewindow", "getwindowname"], stdout=subprocess.PIPE,
+                                     stderr=subprocess.DEVNULL, timeout=60)
+            return reponse.stdout.decode(errors="replace").rstrip("\n")
+        self.jusqu_a(lambda: lu() == titre, f"the window in front is titled {titre!r}", delai)
 
     def texte(self, nom):
         return self.attendre(nom).texte
@@ -381,9 +399,29 @@ class Pilote:
     def clic_caractere(self, nom, rang, fois=1):
         self.clic_en(*self.caractere(nom, rang), fois=fois)
 
+    def selection(self, nom):
+        """What is selected in a text box: from where, to where; both the same for a mere caret."""
+        contenu = self.attendre(nom, partout=True).accessible.get_text_iface()
+        if Atspi.Text.get_n_selections(contenu) > 0:
+            bornes = Atspi.Text.get_selection(contenu, 0)
+            return bornes.start_offset, bornes.end_offset
+        ici = Atspi.Text.get_caret_offset(contenu)
+        return ici, ici
+
+    def attendre_selection(self, nom, debut, fin, delai=DELAI):
+        self.jusqu_a(lambda: self.selection(nom) == (debut, fin), f"{debut} to {fin} is selected in {nom!r}", delai)
+
     def taper(self, texte):
         """Type into what has the focus."""
         self._xdotool("type", "--delay", 15, "--", texte)
+
+    def taper_a_la_francaise(self, texte):
+        """Type as a hand does on a French keyboard: ^ and ¨ by the dead key, before their letter."""
+        for morceau in re.split(f"([{''.join(PAR_TOUCHE_MORTE)}])", texte):
+            if morceau in PAR_TOUCHE_MORTE:
+                self.touche(*PAR_TOUCHE_MORTE[morceau])
+            elif morceau:
+                self.taper(morceau)
 
     def touche(self, *noms):
         """Press keys: "Return", "Escape", "ctrl+a", "alt+F4"..."""
@@ -493,6 +531,13 @@ class Pilote:
         fichier = os.path.join(self.captures, f"{self.numero_capture:02}-{nom}.png")
         subprocess.run(["import", "-window", "root", fichier], check=True, timeout=60)
         return fichier
+
+    def couleurs(self, nom):
+        """The colours that a widget shows, each as (red, green, blue), with their counts of pixels."""
+        x, y, l, h = self.attendre(nom).place
+        image = subprocess.run(["import", "-window", "root", "-crop", f"{l}x{h}+{x}+{y}", "-depth", "8", "rgb:-"],
+                               check=True, stdout=subprocess.PIPE, timeout=60).stdout
+        return collections.Counter(zip(image[0::3], image[1::3], image[2::3]))
 
     def attendre_fin(self, delai=DELAI):
         """The program ends; its exit code."""
