@@ -71,7 +71,7 @@ int Etiquette::Marge() const
 QString Etiquette::Montré() const
 {
     static constexpr int BlancsDUneFin = 8;
-    const auto légende = text();
+    auto légende = text();
     const QString blancs(BlancsDUneFin, u' ');
     if (enLigne || !légende.contains(blancs))
         return légende;
