@@ -338,9 +338,9 @@ class Pilote:
     def texte(self, nom):
         return self.attendre(nom).texte
 
-    def textes(self):
-        """The texts of all that the active window shows, by name: looked at once, and so faster than one by one."""
-        return {element.nom: element.texte for element in self.fenetre().descendants() if element.visible}
+    def elements(self):
+        """All that the active window is made of, by name: to be kept where much is to be looked at or clicked."""
+        return {element.nom: element for element in self.fenetre().descendants()}
 
     def attendre_texte(self, nom, texte, delai=DELAI):
         """The widget shows that text, blanks at the ends apart."""
@@ -459,6 +459,9 @@ class Pilote:
         """The menu of that caption, without its blanks and underlined letter, once its window is in front."""
         def option():
             for racine in reversed(self.fenetres()):
+                # A screen below another still shows its menus, but a click there would go to the one in front.
+                if not racine.etat("ACTIVE") and "menu" not in racine.role:
+                    continue
                 for element in [racine, *racine.descendants()]:
                     if element.role in ("menu", "menu item", "check menu item", "radio menu item") \
                             and element.visible and sans_esperluette(element.nom) == libelle:

@@ -40,10 +40,12 @@ def une_classe(dossier):
 
 def noms(p, liste):
     """The values of a drop-down list, closed again."""
+    premier = p.valeur(liste)
     p.clic(liste)
-    p.attendre(p.valeur(liste), role="list item", partout=True)
+    p.attendre(premier, role="list item", partout=True)
     trouves = [e.nom for e in p.attendre(liste, partout=True).descendants() if e.role == "list item"]
     p.touche("Escape")
+    p.jusqu_a(lambda: p.chercher(premier, role="list item", partout=True) is None, f"the list {liste!r} is closed")
     return trouves
 
 
@@ -116,60 +118,61 @@ def choisir_une_lettre(mots, vu, essayees):
 
 
 class Pendu:
-    """The drawing of the hanged man, which is no widget: where it stands, and what there is to be seen of it."""
+    """The screen of the hanged man. He himself is no widget: there is only what can be seen of him."""
 
     def __init__(self, p):
         self.p = p
-        _, haut, _, hauteur = p.attendre("Label1").place
-        droite = p.attendre("lblMot").place[0]
-        bas = p.attendre("lblLettre(0)").place[1]
+        p.attendre("lblMot")
+        self.elements = p.elements()
+        _, haut, _, hauteur = self.elements["Label1"].place
+        droite = self.elements["lblMot"].place[0]
+        bas = self.elements["lblLettre(0)"].place[1]
         self.zone = 0, haut + hauteur, droite, bas - haut - hauteur
 
-    def vu(self):
+    def mot(self):
+        return self.elements["lblMot"].texte
+
+    def dessin(self):
         couleurs = self.p.couleurs(self.zone)
         return couleurs[ROUGE], couleurs[NOIR], couleurs[OLIVE]
 
+    def essayer(self, lettre, par_la_souris):
+        """Give a letter, by mouse or by keyboard, and wait until the word or the drawing has changed."""
+        mot, dessin = self.mot(), self.dessin()
+        if par_la_souris:
+            self.p.clic(self.elements[f"lblLettre({ord(lettre) - ord('a')})"])
+        else:
+            self.p.touche(lettre)
+        self.p.jusqu_a(lambda: self.mot() != mot or self.dessin() != dessin, f"{lettre!r} is judged")
 
-def essayer(p, pendu, lettre, par_la_souris):
-    """Give a letter, by mouse or by keyboard, and wait until the word or the drawing has changed."""
-    mot, dessin = p.texte("lblMot"), pendu.vu()
-    if par_la_souris:
-        p.clic(f"lblLettre({ord(lettre) - ord('a')})")
-    else:
-        p.touche(lettre)
-    p.jusqu_a(lambda: p.texte("lblMot") != mot or pendu.vu() != dessin, f"{lettre!r} is judged")
+    def perdre(self, mots):
+        absentes = [lettre for lettre in string.ascii_lowercase if not any(lettre in sans_accents(mot) for mot in mots)]
+        for essai in range(10):
+            if essai == 9:
+                self.p.verifier(MASQUE in self.mot(), "nine wrong letters don't lose the word")
+            self.essayer(absentes[essai % len(absentes)], essai % 2)
 
-
-def perdre_un_mot(p, pendu, mots):
-    absentes = [lettre for lettre in string.ascii_lowercase if not any(lettre in sans_accents(mot) for mot in mots)]
-    for essai in range(10):
-        if essai == 9:
-            p.verifier(MASQUE in p.texte("lblMot"), "nine wrong letters don't lose the word")
-        essayer(p, pendu, absentes[essai % len(absentes)], essai % 2)
-
-
-def trouver_un_mot(p, pendu, mots):
-    essayees = set()
-    while MASQUE in (vu := p.texte("lblMot")):
-        lettre = choisir_une_lettre(mots, vu, essayees)
-        essayer(p, pendu, lettre, len(essayees) % 2)
-        essayees.add(lettre)
+    def trouver(self, mots):
+        essayees = set()
+        while MASQUE in (vu := self.mot()):
+            lettre = choisir_une_lettre(mots, vu, essayees)
+            self.essayer(lettre, len(essayees) % 2)
+            essayees.add(lettre)
 
 
 def jouer_au_pendu(p, mots):
     """Lose the first word, play the others as well as can be; the score."""
     p.clic(f"lblExo({PENDU})")
-    p.attendre("lblMot")
-    p.capture("pendu")
     pendu = Pendu(p)
+    p.capture("pendu")
     for rang in range(1, 6):
-        p.jusqu_a(lambda: MASQUE in p.texte("lblMot"), "a word is to be found")
+        p.jusqu_a(lambda: MASQUE in pendu.mot(), "a word is to be found")
         if rang == 1:
-            perdre_un_mot(p, pendu, mots)
+            pendu.perdre(mots)
         else:
-            trouver_un_mot(p, pendu, mots)
+            pendu.trouver(mots)
         p.attendre_texte("lblPoints(1)", str(rang))
-        p.verifier(p.texte("lblMot") in mots, f"word {rang} is one of the marked ones")
+        p.verifier(pendu.mot() in mots, f"word {rang} is one of the marked ones")
         p.attendre("cmdSuivant")
         p.capture(f"mot-{rang}")
         if rang == 2:
@@ -188,18 +191,21 @@ def photographier(p, mots):
     p.clic(f"lblExo({PHOTOGRAPHIER})")
     p.attendre("cmdAfficher")
     p.capture("photographier")
+    elements = p.elements()
+    reponses = [elements[f"lblRéponse({i})"] for i in range(10)]
     for rang in range(1, 21):
-        p.clic("cmdAfficher")
-        p.attendre("lblRéponse(0)")
-        textes = p.textes()
-        propositions = [textes[f"lblRéponse({i})"] for i in range(10)]
-        vu = propositions.index(textes["lblMot"])
+        p.clic(elements["cmdAfficher"])
+        # The words of the flash before stay until the button has gone out.
+        p.jusqu_a(lambda: not elements["cmdAfficher"].etat("SENSITIVE") and all(reponse.visible for reponse in reponses),
+                  f"the words of flash {rang} are shown")
+        propositions = [reponse.texte for reponse in reponses]
+        vu = propositions.index(elements["lblMot"].texte)
         if rang == 1:
             p.verifier(set(propositions) <= set(mots) and len(set(propositions)) == 10, "ten of the marked words")
             p.capture("propositions")
         juste = rang not in (3, 4)
-        p.clic(f"lblRéponse({vu if juste else (vu + 1) % 10})")
-        p.attendre_texte("lblPoints(1)", str(rang))
+        p.clic(reponses[vu if juste else (vu + 1) % 10])
+        p.jusqu_a(lambda rang=rang: elements["lblPoints(1)"].texte.strip() == str(rang), f"answer {rang} is judged")
         if rang in (2, 3):
             p.capture("bonne-reponse" if juste else "mauvaise-reponse")
     points = int(p.texte("lblPoints(0)"))

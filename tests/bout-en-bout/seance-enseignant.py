@@ -60,7 +60,7 @@ def mettre_en_forme(p):
     p.attendre_selection("rtfTexte", 0, len(TITRE))
     p.touche("ctrl+b")
     p.jusqu_a(lambda: p.coche("btnGras"), "the title is bold")
-    p.clic("btnCentrer")
+    p.menu("Format", "Aligné au Centre")
     p.jusqu_a(lambda: p.coche("btnCentrer"), "the title is centred")
     for mot in MOTS:
         marquer(p, mot)
