@@ -228,6 +228,11 @@ void frmEnseignant::QueryUnload()
     mnuQuitter_Click();
 }
 
+void frmEnseignant::Click()
+{
+    FermerPolices();
+}
+
 // ---- The button bar ----------------------------------------------------------------------------------------------
 
 std::span<const frmEnseignant::ActionBouton> frmEnseignant::Actions()
@@ -431,7 +436,7 @@ void frmEnseignant::mnuOuvrir_Click()
                              Icône::Critique);
 }
 
-// What follows the loading of a text. Changes of the text before it are dropped without a question.
+// What follows the loading of a text. From here on nothing is asked about changes of the one before.
 void frmEnseignant::AccueillirTexte(const Texte& fichier)
 {
     PrendreNoms(fichier);

@@ -88,6 +88,7 @@ private:
     void Load() override;
     void Resize() override;
     void QueryUnload() override;
+    void Click() override;
     Arrangement Disposer() override;
     void RelierMenus();
     void RelierPolices();

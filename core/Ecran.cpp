@@ -67,6 +67,12 @@ void Ecran::FermerParCroix()
         QueryUnload();
 }
 
+void Ecran::Cliquer()
+{
+    if (chargé_)
+        Click();
+}
+
 bool Ecran::Taper(Touche touche)
 {
     if (chargé_)

@@ -43,6 +43,8 @@ public:
     void Dimensionner(int largeur, int hauteur);
     // The user closes it by its close box.
     void FermerParCroix();
+    // The user clicks where no element stands.
+    void Cliquer();
     // A key before the focused element sees it. True: swallowed.
     bool Taper(Touche touche);
     void Décharger();
@@ -68,6 +70,7 @@ protected:
     virtual void Unload() {}
     virtual void Activate() {}
     virtual void Resize() {}
+    virtual void Click() {}
     virtual void KeyPress(Touche&) {}
     // The close box; by default the screen is unloaded.
     virtual void QueryUnload() { Décharger(); }

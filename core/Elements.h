@@ -426,7 +426,7 @@ public:
         for (int i = 0; i < nombre; ++i)
             éléments_.emplace_back(écran, NomIndexé(nom, i), initial);
     }
-    Tableau(Ecran& écran, std::string_view nom, std::initializer_list<Texte> légendes, const EtatInitial& initial = {})
+    Tableau(Ecran& écran, std::string_view nom, std::initializer_list<Texte> légendes, EtatInitial initial = {})
     {
         for (const auto& légende : légendes) {
             initial.Caption = légende;

@@ -17,6 +17,7 @@
 #include <QScreen>
 
 #include <algorithm>
+#include <cassert>
 
 // ---- The ground that the elements stand on -------------------------------------------------------------------
 
@@ -42,6 +43,12 @@ protected:
         fenêtre_.plateforme_.FenêtrePeinte();
     }
     void resizeEvent(QResizeEvent* /*événement*/) override { fenêtre_.TailleChangée(); }
+    void mousePressEvent(QMouseEvent* événement) override
+    {
+        // A label or a frame that no click is meant for lets it through to here.
+        if (fenêtre_.VueDuWidget(childAt(événement->position().toPoint())) == nullptr)
+            fenêtre_.écran_.Cliquer();
+    }
 
 private:
     Fenêtre& fenêtre_;
@@ -65,11 +72,24 @@ Fenêtre::Fenêtre(PlateformeQt& plateforme, Ecran& écran) : plateforme_(platef
     auto* tout = new QVBoxLayout{this};
     tout->setContentsMargins(0, 0, 0, 0);
     tout->setSizeConstraint(QLayout::SetNoConstraint);
-    BâtirMenus();
-    if (barre_ != nullptr)
-        tout->setMenuBar(barre_);
     tout->addWidget(contenu_);
-    Remplir(plan_, écran.Disposition_());
+}
+
+void Fenêtre::MontrerFond()
+{
+    setGeometry(screen()->availableGeometry());
+    // Without a window manager nothing answers to this, and the geometry stands.
+    showMaximized();
+}
+
+void Fenêtre::Garnir()
+{
+    BâtirMenus();
+    if (barre_ != nullptr) {
+        layout()->setMenuBar(barre_);
+        barre_->show();
+    }
+    Remplir(plan_, écran_.Disposition_());
     OrdonnerTabulation();
     Observer();
 }
@@ -113,6 +133,7 @@ void Fenêtre::Ouvrir(QWidget* dessous)
     const auto libre = screen()->availableGeometry();
     if (écran_.PetiteFenêtre)
         setWindowFlags(Qt::Dialog);
+    Garnir();
     Synchroniser();
     if (écran_.PetiteFenêtre) {
         const auto taille = sizeHint().boundedTo(libre.size());
@@ -121,10 +142,8 @@ void Fenêtre::Ouvrir(QWidget* dessous)
         place.moveCenter(milieu);
         setGeometry(place);
         show();
-    } else {
-        setGeometry(libre);
-        // Without a window manager nothing answers to this, and the geometry stands.
-        showMaximized();
+    } else if (!isVisible()) {
+        MontrerFond();
     }
     raise();
     activateWindow();
@@ -172,10 +191,11 @@ Vue* Fenêtre::VueDuWidget(const QWidget* widget) const
 
 // ---- From the arrangement to layouts ---------------------------------------------------------------------------
 
-Vue& Fenêtre::Créer(Elément& élément, QWidget* parent)
+Vue& Fenêtre::Créer(Elément* élément, QWidget* parent)
 {
-    auto& vue = *vues_.emplace_back(CréerVue(*this, élément, parent));
-    parElément_[&élément] = &vue;
+    assert(élément != nullptr);
+    auto& vue = *vues_.emplace_back(CréerVue(*this, *élément, parent));
+    parElément_[élément] = &vue;
     if (vue.widget != nullptr)
         parWidget_[vue.widget] = &vue;
     return vue;
@@ -197,16 +217,25 @@ void Fenêtre::Remplir(QWidget* cadre, const Arrangement& contenu)
     }
 }
 
+namespace {
+
+// Hidden, the widget still takes its room: nothing around it jumps.
+void GarderPlace(QWidget& widget)
+{
+    auto politique = widget.sizePolicy();
+    politique.setRetainSizeWhenHidden(true);
+    widget.setSizePolicy(politique);
+}
+
+} // namespace
+
 Fenêtre::Place Fenêtre::Bâtir(const Arrangement& place, QWidget* parent, bool garder)
 {
     switch (place.genre) {
     case Disposition::Elément: {
-        auto& vue = Créer(*place.élément, parent);
-        if (vue.widget != nullptr && garder) {
-            auto politique = vue.widget->sizePolicy();
-            politique.setRetainSizeWhenHidden(true);
-            vue.widget->setSizePolicy(politique);
-        }
+        auto& vue = Créer(place.élément, parent);
+        if (vue.widget != nullptr && garder)
+            GarderPlace(*vue.widget);
         return AvecMinimum({vue.widget, nullptr}, place);
     }
     case Disposition::Ligne:
@@ -215,7 +244,7 @@ Fenêtre::Place Fenêtre::Bâtir(const Arrangement& place, QWidget* parent, bool
     case Disposition::Grille:
         return AvecMinimum(BâtirGrille(place, parent), place);
     case Disposition::Pile: {
-        auto* pile = new Superposition;
+        auto pile = std::make_unique<Superposition>();
         for (const auto& enfant : place.enfants) {
             const auto un = Bâtir(enfant, parent, false);
             if (un.widget != nullptr)
@@ -223,7 +252,7 @@ Fenêtre::Place Fenêtre::Bâtir(const Arrangement& place, QWidget* parent, bool
             else if (un.layout != nullptr)
                 pile->Ajouter(un.layout);
         }
-        return AvecMinimum({nullptr, pile}, place);
+        return AvecMinimum({nullptr, pile.release()}, place);
     }
     case Disposition::Centré: {
         const auto un = Bâtir(place.enfants.front(), parent, garder);
@@ -324,21 +353,18 @@ Fenêtre::Place Fenêtre::BâtirGrille(const Arrangement& place, QWidget* parent
 
 Fenêtre::Place Fenêtre::BâtirCadre(const Arrangement& place, QWidget* parent, bool garder)
 {
-    auto& vue = Créer(*place.élément, parent);
+    auto& vue = Créer(place.élément, parent);
     Remplir(vue.widget, place.enfants.front());
     if (auto* panneau = dynamic_cast<Panneau*>(vue.widget))
         panneau->AjusterMarges();
-    if (garder) {
-        auto politique = vue.widget->sizePolicy();
-        politique.setRetainSizeWhenHidden(true);
-        vue.widget->setSizePolicy(politique);
-    }
+    if (garder)
+        GarderPlace(*vue.widget);
     return {vue.widget, nullptr};
 }
 
 void Fenêtre::BâtirCouverture(const Arrangement& place)
 {
-    auto& vue = Créer(*place.élément, contenu_);
+    auto& vue = Créer(place.élément, contenu_);
     couvertures_.push_back(&vue);
     const Arrangement milieu{Centré{place.enfants.front()}};
     Remplir(vue.widget, milieu);

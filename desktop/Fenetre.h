@@ -21,6 +21,8 @@ public:
     Fenêtre(PlateformeQt& plateforme, Ecran& écran);
     ~Fenêtre() override;
 
+    // Shows the background alone; Ouvrir goes on from there.
+    void MontrerFond();
     // Shows the window over the one below it, and tells the screen its size.
     void Ouvrir(QWidget* dessous);
     // Takes the window away; the screen is not touched any more.
@@ -66,7 +68,8 @@ private:
     void BâtirCouverture(const Arrangement& place);
     void Remplir(QWidget* cadre, const Arrangement& contenu);
     Place AvecMinimum(Place une, const Arrangement& place);
-    Vue& Créer(Elément& élément, QWidget* parent);
+    Vue& Créer(Elément* élément, QWidget* parent);
+    void Garnir();
     void BâtirMenus();
     void RemplirMenu(QWidget* où, const std::vector<Menu>& entrées);
     void OrdonnerTabulation();

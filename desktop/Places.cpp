@@ -93,7 +93,7 @@ void Superposition::setGeometry(const QRect& place)
 
 void PlacementLibre::setGeometry(const QRect& place)
 {
-    QLayout::setGeometry(place);
+    QLayout::setGeometry(place); // NOLINT(bugprone-parent-virtual-call): the children have places of their own
     if (placer)
         placer();
 }

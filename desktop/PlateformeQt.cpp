@@ -21,6 +21,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <utility>
 
 // While it lives, the loop is known to whoever closes its screen, and input goes to the loop in front alone.
 class PlateformeQt::Séjour {
@@ -195,6 +196,11 @@ void PlateformeQt::DemanderPolices(std::function<void(std::vector<Texte>)> reçu
 
 void PlateformeQt::FenêtrePeinte()
 {
+    if (jusquAuFond_ != nullptr) {
+        QMetaObject::invokeMethod(
+            jusquAuFond_, [boucle = jusquAuFond_] { boucle->quit(); }, Qt::QueuedConnection);
+        return;
+    }
     if (peinte_)
         return;
     peinte_ = true;
@@ -244,10 +250,15 @@ void PlateformeQt::AfficherModal(Ecran& écran)
                                  boucle.quit();
                              }},
                             false};
-        for (auto* minuterie : écran.Minuteries())
-            RéglerMinuterie(*minuterie);
-        fenêtre.Ouvrir(dessous);
-        if (écran.EstChargé() && !terminé_)
+        const bool activé = std::exchange(fondDAbord_, false);
+        if (activé)
+            MontrerFond(fenêtre);
+        if (!fenêtre.Fermée()) {
+            for (auto* minuterie : écran.Minuteries())
+                RéglerMinuterie(*minuterie);
+            fenêtre.Ouvrir(dessous);
+        }
+        if (!activé && écran.EstChargé() && !terminé_)
             écran.Activer();
         if (!fenêtre.Fermée())
             boucle.exec();
@@ -255,6 +266,25 @@ void PlateformeQt::AfficherModal(Ecran& écran)
     }
     if (dessous != nullptr && !dessous->Fermée() && !terminé_)
         dessous->activateWindow();
+}
+
+void PlateformeQt::MontrerFond(Fenêtre& fenêtre)
+{
+    static constexpr auto Patience = std::chrono::milliseconds{300}; // a window that nobody sees isn't painted
+    QEventLoop boucle;
+    fenêtre.MontrerFond();
+    fenêtre.EcranDe().Activer(); // it may say what the background is
+    jusquAuFond_ = &boucle;
+    const Séjour séjour{*this,
+                        {&fenêtre.EcranDe(), nullptr,
+                         [&boucle] {
+                             boucle.quit();
+                         }},
+                        true};
+    QTimer::singleShot(Patience, &boucle, [&boucle] { boucle.quit(); });
+    if (!fenêtre.Fermée())
+        boucle.exec();
+    jusquAuFond_ = nullptr;
 }
 
 void PlateformeQt::EcranFermé(Ecran& écran)

@@ -50,6 +50,8 @@ public:
     [[nodiscard]] bool AttendreArrêt(Timer& minuterie) override;
     void RéglerMinuterie(Timer& minuterie) override;
 
+    // The first window shows its background at once, and fills while the user looks.
+    void MontrerFondDAbord() { fondDAbord_ = true; }
     // A window has been painted: what was put off until the first picture may come.
     void FenêtrePeinte();
     // The window in front; none before the first.
@@ -66,6 +68,7 @@ private:
     };
     class Séjour; // the time spent in such a loop
 
+    void MontrerFond(Fenêtre& fenêtre);
     void MontrerDialogue(QDialog& dialogue);
     std::optional<Texte> DemanderFichier(const DialogueFichier& dialogue, bool enregistrer);
     [[nodiscard]] bool Montré(const Ecran& écran) const;
@@ -83,6 +86,8 @@ private:
     std::set<Timer*> retardées_; // have ticked while nothing else was to happen
     std::vector<std::function<void(std::vector<Texte>)>> attendentPolices_;
     bool entréeJetée_ = false;
+    bool fondDAbord_ = false;
     bool peinte_ = false;
+    QEventLoop* jusquAuFond_ = nullptr; // waits for the background's painting
     bool terminé_ = false;
 };

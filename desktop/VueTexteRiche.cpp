@@ -252,7 +252,7 @@ int VueTexteRiche::EnWidget(std::size_t position) const
     int haut = document->blockCount() - 1;
     while (bas < haut) {
         const int milieu = (bas + haut + 1) / 2;
-        const auto début = static_cast<std::size_t>(document->findBlockByNumber(milieu).position() + milieu);
+        const auto début = DepuisWidget(document->findBlockByNumber(milieu).position());
         début <= position ? bas = milieu : haut = milieu - 1;
     }
     const auto bloc = document->findBlockByNumber(bas);
@@ -261,7 +261,8 @@ int VueTexteRiche::EnWidget(std::size_t position) const
 
 std::size_t VueTexteRiche::DepuisWidget(int position) const
 {
-    return static_cast<std::size_t>(position + std::max(0, zone_.document()->findBlock(position).blockNumber()));
+    const auto bloc = zone_.document()->findBlock(position);
+    return static_cast<std::size_t>(position) + static_cast<std::size_t>(std::max(0, bloc.blockNumber()));
 }
 
 QString VueTexteRiche::Affiché(std::size_t début, std::size_t fin) const
@@ -345,7 +346,7 @@ bool VueTexteRiche::MettreSurPlace(std::size_t début, std::size_t fin)
     std::vector<Part> parts;
     auto bloc = zone_.document()->findBlock(EnWidget(début));
     for (std::size_t place = début;;) {
-        const auto départ = static_cast<std::size_t>(bloc.position() + bloc.blockNumber());
+        const auto départ = DepuisWidget(bloc.position());
         const auto terme = départ + static_cast<std::size_t>(bloc.length()) - 1;
         const auto borne = std::min(fin, terme);
         if (place > borne || texte.substr(place, borne - place).find(FinDeLigne) != VueTexte::npos)
@@ -440,7 +441,7 @@ void VueTexteRiche::MettreParagraphes(int premier, int dernier)
     QTextBlockFormat voulu;
     auto bloc = zone_.document()->findBlockByNumber(premier);
     for (int i = premier; i <= dernier && bloc.isValid(); ++i, bloc = bloc.next()) {
-        const auto& format = boîte_.TextRTF().ParagrapheEn(static_cast<std::size_t>(bloc.position() + i));
+        const auto& format = boîte_.TextRTF().ParagrapheEn(DepuisWidget(bloc.position()));
         if (dernierFormat != &format) {
             voulu = EnQt(format, échelleMontrée_);
             dernierFormat = &format;

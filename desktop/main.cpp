@@ -13,6 +13,7 @@ int main(int argc, char** argv)
     QApplication::setApplicationName(QStringLiteral("Tirelune"));
     InstallerApparence();
     PlateformeQt plateforme;
+    plateforme.MontrerFondDAbord();
     Application application{plateforme};
     RemplirTable(application);
     frmTirelune premier{application};

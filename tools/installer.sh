@@ -16,7 +16,7 @@ paquets() {
             ;;
         fuzz) echo clang libclang-rt-dev ;;
         traitements-de-texte) echo python3 libreoffice-writer-nogui abiword ;;
-        bancs) echo libbenchmark-dev libxtst-dev ;;
+        bancs) echo libbenchmark-dev libxtst-dev libxdamage-dev ;;
         mesure) echo python3 python3-xlib xvfb x11-xkb-utils unrtf catdoc ;;
         *)
             echo "installer : usage inconnu / unknown purpose: $1" >&2

@@ -221,7 +221,7 @@ void frmPendu::FinirMot()
 void frmPendu::KeyPress(Touche& touche)
 {
     static constexpr char16_t Tabulation = 9;
-    if (touche.Caractère == 0 || touche.Caractère == Tabulation || touche.Caractère == Touche::Echappement)
+    if (touche.Caractère == 0 || touche.Caractère == Tabulation)
         return;
     const bool presse = touche.Caractère == u' ' || touche.Code == Touche::Entrée;
     if (presse && (cmdSuivant.Visible || frameQuitter.Visible))

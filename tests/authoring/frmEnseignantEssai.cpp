@@ -183,8 +183,12 @@ TEST_P(Départ, SansChangementNeDemandeRienEtOublieLesNoms)
     banc.Nommer("chat.rtf");
     banc.état.TitreFichierTexte = u"chat";
     banc.état.CheminTextes = u"/ailleurs/";
+    banc.écran.rtfTexte.Text(u"Le chat");
+    banc.écran.GarderCopie();
+    banc.état.TexteModifié = false;
     Partir(banc.écran);
     EXPECT_FALSE(banc.écran.EstChargé());
+    EXPECT_EQ(banc.écran.rtfSauve.Longueur(), 0U);
     EXPECT_EQ(banc.état.NomFichierTexte, u"");
     EXPECT_EQ(banc.état.TitreFichierTexte, u"");
     EXPECT_EQ(banc.état.CheminTextes, banc.état.CheminAppli);
@@ -230,6 +234,21 @@ TEST_P(Départ, NAPasLieuQuandLEnregistrementVouluEchoue)
     EXPECT_EQ(banc.écran.rtfTexte.Text(), u"Le chat");
     EXPECT_TRUE(banc.état.TexteModifié);
     EXPECT_EQ(banc.état.NomFichierTexte, banc.CheminDe("chat.rtf"));
+}
+
+TEST_P(Départ, NAPasLieuQuandLePremierEnregistrementEchoue)
+{
+    BancEditeur banc;
+    banc.Taper(u"Le chat");
+    const auto visé = banc.CheminDe("absent/chat.rtf");
+    banc.AnnoncerBoîte(Question, Réponse::Oui);
+    banc.AnnoncerFichier(visé);
+    banc.AnnoncerBoîte(MessageEchec(EchecFichier::Ouverture, visé));
+    Partir(banc.écran);
+    EXPECT_TRUE(banc.écran.EstChargé());
+    EXPECT_EQ(banc.écran.rtfTexte.Text(), u"Le chat");
+    EXPECT_TRUE(banc.état.TexteModifié);
+    EXPECT_EQ(banc.état.NomFichierTexte, u"");
 }
 
 // ---- The button bar ----------------------------------------------------------------------------------------------
@@ -652,6 +671,16 @@ TEST(Editeur, EnregistrerUneSecondeFoisRéussitAprèsUnEchec)
     EXPECT_EQ(LireRtf(banc.Lire("chat.rtf").value_or(""))->Caractères(), u"Le chat");
 }
 
+// The file of before is gone: what the box holds is all there is.
+TEST(Editeur, UnTexteSansChangementQuiNAPasPuEtreEcritEstAEnregistrer)
+{
+    BancEditeur banc;
+    banc.Nommer("parti/chat.rtf");
+    banc.AnnoncerBoîte(MessageEchec(EchecFichier::Ouverture, banc.CheminDe("parti/chat.rtf")));
+    banc.écran.mnuEnregistrer.Cliquer();
+    EXPECT_TRUE(banc.état.TexteModifié);
+}
+
 TEST(Editeur, UnDossierDisparuEstDit)
 {
     BancEditeur banc;
@@ -748,6 +777,16 @@ TEST(Editeur, EnregistrerSousProposeLeNomConnuEtEnPrendUnAutre)
     EXPECT_FALSE(banc.Existe("chat.rtf"));
     EXPECT_TRUE(banc.Existe("chien.rtf"));
     EXPECT_EQ(banc.état.TitreFichierTexte, u"chien");
+}
+
+TEST(Editeur, EnregistrerSousCorrigeAussi)
+{
+    BancEditeur banc;
+    banc.Taper(u"Le  chat .");
+    banc.AnnoncerFichier(banc.CheminDe("chat.rtf"));
+    banc.écran.mnuEnregistrerSous.Cliquer();
+    EXPECT_EQ(LireRtf(banc.Lire("chat.rtf").value_or(""))->Caractères(), u"Le chat. ");
+    EXPECT_EQ(banc.plateforme.repeints, 1);
 }
 
 TEST(Editeur, UnDocumentVideProposeLExtensionSeule)
@@ -996,6 +1035,15 @@ TEST(Editeur, UnClicDansLeTexteFermeLaListe)
     banc.écran.flèchePolice.Cliquer();
     banc.écran.rtfTexte.Cliquer(0);
     EXPECT_FALSE(banc.écran.framePolices.Visible);
+}
+
+TEST(Editeur, UnClicHorsDesElémentsFermeLaListe)
+{
+    BancEditeur banc;
+    banc.écran.flèchePolice.Cliquer();
+    banc.écran.Cliquer();
+    EXPECT_FALSE(banc.écran.framePolices.Visible);
+    EXPECT_FALSE(banc.état.TexteModifié);
 }
 
 TEST(Editeur, DéplacerLaSélectionNEstPasUnChangement)

@@ -21,6 +21,7 @@ public:
     std::function<void()> auChargement;
     std::function<void()> àLActivation;
     std::function<void()> àLaTaille;
+    std::function<void()> auClic;
     std::function<void(Touche&)> auClavier;
     int déchargements = 0;
 
@@ -33,6 +34,7 @@ protected:
     void Unload() override { ++déchargements; }
     void Activate() override { Dire(àLActivation); }
     void Resize() override { Dire(àLaTaille); }
+    void Click() override { Dire(auClic); }
     void KeyPress(Touche& touche) override
     {
         if (auClavier)

@@ -269,6 +269,27 @@ TEST_F(Attentes, LesPolicesViennentAprèsLaPremièreImage)
     });
 }
 
+TEST_F(Attentes, LaPremièreFenêtreMontreDAbordSonFond)
+{
+    int activations = 0;
+    plateforme.MontrerFondDAbord();
+    écran.àLActivation = [&] {
+        ++activations;
+        EXPECT_TRUE(Devant().isVisible());
+        EXPECT_TRUE(Devant().findChildren<QAbstractButton*>().isEmpty());
+    };
+    écran.àLaTaille = [&] {
+        EXPECT_EQ(activations, 1);
+        Ensuite([&] { Cliquer(écran.cmdOk); });
+    };
+    écran.cmdOk.Click = [&] {
+        écran.Décharger();
+    };
+    écran.Afficher();
+    EXPECT_EQ(activations, 1);
+    EXPECT_EQ(écran.déchargements, 1);
+}
+
 TEST_F(Attentes, LaLargeurDUnTexteEstEnTwips)
 {
     Avec(écran, [&] {

@@ -428,6 +428,20 @@ TEST_F(Eléments, CliquerUnCadre)
     });
 }
 
+TEST_F(Eléments, CliquerHorsDesÉlémentsEstUnClicDeLÉcran)
+{
+    écran.auClic = [&] {
+        ++clics;
+    };
+    Avec(écran, [&] {
+        QTest::mouseClick(Devant().Plan(), Qt::LeftButton, {}, QPoint{1, 1});
+        EXPECT_EQ(clics, 1);
+        Cliquer(écran.lblMuet);
+        Cliquer(écran.cmdOk);
+        EXPECT_EQ(clics, 1);
+    });
+}
+
 TEST_F(Eléments, LaBarreDeBoutonsMontreLesÉtats)
 {
     std::string cliqué;

@@ -1,5 +1,6 @@
 #include "exercises/comprehension/frmClosures.h"
 #include "tests/support/Banc.h"
+#include "tests/support/Notices.h"
 
 #include <algorithm>
 
@@ -207,20 +208,13 @@ TEST(Closures, OuvertureTroueLeTexteEtRemplitLaListe)
     EXPECT_EQ(écran.rtfClosures.SelStart(), 0U);
     EXPECT_EQ(écran.rtfClosures.SelLength(), 0U);
     EXPECT_FALSE(écran.frameFin.Visible);
-    EXPECT_EQ(écran.lblPoints(0).Caption, u"0");
-    EXPECT_EQ(écran.lblPoints(2).Caption, u" / ");
-    EXPECT_EQ(écran.lblPoints(1).Caption, u"0");
 }
 
 TEST(Closures, LesPointsOntLeursCouleursEtLesBoutonsLeurLégende)
 {
     Banc banc;
     auto& écran = Ouvrir(banc, Nombres);
-    for (auto& point : écran.lblPoints)
-        EXPECT_EQ(point.BackColor, Jaune);
-    EXPECT_EQ(écran.lblPoints(0).ForeColor, Rouge);
-    EXPECT_EQ(écran.lblPoints(1).ForeColor, Rouge);
-    EXPECT_EQ(écran.lblPoints(2).ForeColor, Bleu);
+    VérifierPointsDeDépart(écran.lblPoints);
     EXPECT_EQ(écran.cmdOk.Caption, u"&Ok");
     EXPECT_EQ(écran.cmdQuitter.Caption, u"&Quitter");
     EXPECT_FALSE(écran.Image1.Picture().formes.empty());
@@ -411,6 +405,29 @@ TEST(Closures, DoubleClicEstRefusé)
     EXPECT_FALSE(banc.état.CorrectionEnCours);
     écran.cmdOk.Cliquer();
     EXPECT_EQ(écran.lblPoints(1).Caption, u"0");
+}
+
+TEST(Closures, OuvertureOublieUnDoubleClicPassé)
+{
+    Banc banc;
+    banc.état.CorrectionEnCours = true;
+    auto& écran = Ouvrir(banc, Nombres);
+    EXPECT_FALSE(banc.état.CorrectionEnCours);
+    écran.rtfClosures.Cliquer(Texte{Nombres}.find(u"huit"));
+    EXPECT_EQ(écran.rtfClosures.SelLength(), 4U);
+}
+
+TEST(Closures, FerméPendantLeMessageDuDoubleClic)
+{
+    Banc banc;
+    auto& écran = Ouvrir(banc, Nombres);
+    banc.plateforme.boîtes.push_back({UneSeuleFois, Réponse::Ok, u"Avertissement", [&] {
+                                          écran.FermerParCroix();
+                                      }});
+    écran.rtfClosures.DoubleCliquer(35);
+    EXPECT_FALSE(écran.EstChargé());
+    EXPECT_FALSE(banc.état.CorrectionEnCours);
+    EXPECT_EQ(banc.Note(IndexClosures), u"");
 }
 
 TEST(Closures, LaListeNeSeTapePas)

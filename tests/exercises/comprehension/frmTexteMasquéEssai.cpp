@@ -75,7 +75,8 @@ TEST(TexteMasqué, LesÉtiquettesVontDeAàZ)
     EXPECT_EQ(écran.lblLettre(25).Caption, u"Z");
     EXPECT_EQ(écran.lblLettre(25).ToolTipText, u" z ");
     EXPECT_EQ(écran.lblLettre(25).Police, u"Comic Sans MS");
-    EXPECT_TRUE(écran.lblLettre(25).Visible);
+    for (auto& lettre : écran.lblLettre)
+        EXPECT_TRUE(lettre.Visible);
 }
 
 TEST(TexteMasqué, LaConsigneEtLeBoutonDeFin)

@@ -1,6 +1,7 @@
 #include "exercises/memory/frmPhotographier.h"
 
 #include "tests/support/Mots.h"
+#include "tests/support/Notices.h"
 
 #include <algorithm>
 
@@ -57,10 +58,7 @@ TEST(Photographier, TextesEtCouleursDuDépart)
     EXPECT_EQ(écran.lblMot.ForeColor, Blanc);
     EXPECT_EQ(écran.lblVitesse.BackColor, Bleu);
     EXPECT_EQ(écran.lblVitesse.ForeColor, Cyan);
-    EXPECT_EQ(écran.lblPoints(0).ForeColor, Rouge);
-    EXPECT_EQ(écran.lblPoints(1).ForeColor, Rouge);
-    EXPECT_EQ(écran.lblPoints(2).ForeColor, Bleu);
-    EXPECT_EQ(écran.lblPoints(2).Caption, u" / ");
+    VérifierPointsDeDépart(écran.lblPoints);
     EXPECT_FALSE(écran.Chrono.Enabled);
     EXPECT_EQ(Propositions(écran), 0);
 }
@@ -69,14 +67,7 @@ TEST(Photographier, QuatreMotsMontrentLeCadreDeSortie)
 {
     Banc banc;
     auto& écran = Ouvrir(banc, Mots(4));
-    EXPECT_TRUE(écran.frameQuitter.Visible);
-    EXPECT_EQ(écran.frameQuitter.Caption, u"Pas assez de vocabulaire sélectionné");
-    EXPECT_EQ(écran.Label2.Caption,
-              u"Il doit y avoir au moins 5 mots de vocabulaire sélectionnés (en les barrant) pour "
-              u"lancer l'exercice.");
-    EXPECT_EQ(écran.cmdAbandonner.Caption, u"&Abandonner");
-    EXPECT_EQ(écran.frameQuitter.Width, écran.Width());
-    EXPECT_EQ(écran.frameQuitter.Height, écran.Height());
+    VérifierNoticeDeVocabulaire(écran);
     EXPECT_FALSE(écran.cmdAfficher.EstAtteignable());
     écran.cmdAbandonner.Cliquer();
     EXPECT_FALSE(écran.EstChargé());

@@ -1,6 +1,7 @@
 #include "exercises/memory/frmPoursuite.h"
 
 #include "tests/support/Mots.h"
+#include "tests/support/Notices.h"
 
 #include <algorithm>
 #include <map>
@@ -108,10 +109,7 @@ TEST(Poursuite, TextesCouleursEtIntervallesDuDépart)
         EXPECT_EQ(mot.ForeColor, Bleu);
         EXPECT_EQ(mot.BackColor, Blanc);
     }
-    EXPECT_EQ(écran.lblPoints(0).ForeColor, Rouge);
-    EXPECT_EQ(écran.lblPoints(1).ForeColor, Rouge);
-    EXPECT_EQ(écran.lblPoints(2).ForeColor, Bleu);
-    EXPECT_EQ(écran.lblPoints(2).Caption, u" / ");
+    VérifierPointsDeDépart(écran.lblPoints);
     EXPECT_EQ(écran.Horloge.Interval, 100);
     EXPECT_EQ(écran.Horloge2.Interval, 400);
     EXPECT_FALSE(écran.Horloge.Enabled);

@@ -1,6 +1,7 @@
 #include "exercises/memory/frmSérie.h"
 
 #include "tests/support/Mots.h"
+#include "tests/support/Notices.h"
 
 namespace {
 
@@ -73,26 +74,14 @@ TEST(Série, TextesBullesEtCouleursDuDépart)
     EXPECT_EQ(écran.lblPoints(0).ToolTipText, u" Seul le score de la meilleure série est retenu. ");
     EXPECT_EQ(écran.lblPoints(1).ToolTipText, u" Seul le score de la meilleure série est retenu. ");
     EXPECT_EQ(écran.lblPoints(2).ToolTipText, u" Seul le score de la meilleur série est retenu. ");
-    EXPECT_EQ(écran.lblPoints(0).ForeColor, Rouge);
-    EXPECT_EQ(écran.lblPoints(1).ForeColor, Rouge);
-    EXPECT_EQ(écran.lblPoints(2).ForeColor, Bleu);
-    EXPECT_EQ(écran.lblPoints(2).BackColor, Jaune);
-    EXPECT_EQ(écran.lblPoints(2).Caption, u" / ");
-    EXPECT_EQ(écran.lblPoints(0).Caption, u"0");
+    VérifierPointsDeDépart(écran.lblPoints, u"5");
 }
 
 TEST(Série, QuatreMotsMontrentLeCadreDeSortie)
 {
     Banc banc;
     auto& écran = Ouvrir(banc, Mots(4)); // and nothing is drawn
-    EXPECT_TRUE(écran.frameQuitter.Visible);
-    EXPECT_EQ(écran.frameQuitter.Caption, u"Pas assez de vocabulaire sélectionné");
-    EXPECT_EQ(écran.Label2.Caption,
-              u"Il doit y avoir au moins 5 mots de vocabulaire sélectionnés (en les barrant) pour "
-              u"lancer l'exercice.");
-    EXPECT_EQ(écran.cmdAbandonner.Caption, u"&Abandonner");
-    EXPECT_EQ(écran.frameQuitter.Width, écran.Width());
-    EXPECT_EQ(écran.frameQuitter.Height, écran.Height());
+    VérifierNoticeDeVocabulaire(écran);
     EXPECT_FALSE(écran.cmdVoir.EstAtteignable());
     écran.cmdAbandonner.Cliquer();
     EXPECT_FALSE(écran.EstChargé());

@@ -1,5 +1,6 @@
 #include "exercises/vocabulary/frmTrous.h"
 #include "tests/support/Banc.h"
+#include "tests/support/Notices.h"
 
 namespace {
 
@@ -52,20 +53,13 @@ TEST(Trous, ChaqueMarqueDevientUneLacuneEtUnMotDeLaListe)
     EXPECT_FALSE(écran.frameFin.Visible);
     EXPECT_EQ(écran.rtfTrous.SelStart(), 0U);
     EXPECT_EQ(écran.rtfTrous.SelLength(), 0U);
-    EXPECT_EQ(écran.lblPoints(0).Caption, u"0");
-    EXPECT_EQ(écran.lblPoints(2).Caption, u" / ");
-    EXPECT_EQ(écran.lblPoints(1).Caption, u"0");
 }
 
 TEST(Trous, LesPointsOntLeursCouleursEtLesBoutonsLeurLégende)
 {
     Banc banc;
     auto& écran = Ouvrir(banc, u"Le [chat] dort.");
-    for (auto& point : écran.lblPoints)
-        EXPECT_EQ(point.BackColor, Jaune);
-    EXPECT_EQ(écran.lblPoints(0).ForeColor, Rouge);
-    EXPECT_EQ(écran.lblPoints(1).ForeColor, Rouge);
-    EXPECT_EQ(écran.lblPoints(2).ForeColor, Bleu);
+    VérifierPointsDeDépart(écran.lblPoints);
     EXPECT_EQ(écran.cmdOk.Caption, u"&Ok");
     EXPECT_EQ(écran.cmdQuitter.Caption, u"&Quitter");
     EXPECT_FALSE(écran.Image1.Picture().formes.empty());

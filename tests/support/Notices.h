@@ -1,0 +1,30 @@
+// What several screens show alike.
+#pragma once
+#include "tests/support/Banc.h"
+
+// Red counts and a blue separator, on yellow. `maximum` is what is told from the start in place of a count of tries.
+inline void VérifierPointsDeDépart(const Tableau<Label>& points, VueTexte maximum = u"0")
+{
+    ASSERT_EQ(points.Nombre(), 3);
+    EXPECT_EQ(points(0).Caption, u"0");
+    EXPECT_EQ(points(1).Caption, maximum);
+    EXPECT_EQ(points(2).Caption, u" / ");
+    for (int i = 0; i < points.Nombre(); ++i) {
+        EXPECT_EQ(points(i).BackColor, Jaune);
+        EXPECT_EQ(points(i).ForeColor, i == 2 ? Bleu : Rouge);
+    }
+}
+
+// The notice of a text with too few marked words covers the screen and says how many it takes.
+template <class E>
+void VérifierNoticeDeVocabulaire(E& écran)
+{
+    EXPECT_TRUE(écran.frameQuitter.Visible);
+    EXPECT_EQ(écran.frameQuitter.Caption, u"Pas assez de vocabulaire sélectionné");
+    EXPECT_EQ(écran.frameQuitter.Width, écran.Width());
+    EXPECT_EQ(écran.frameQuitter.Height, écran.Height());
+    EXPECT_EQ(écran.Label2.Caption,
+              u"Il doit y avoir au moins 5 mots de vocabulaire sélectionnés (en les barrant) pour "
+              u"lancer l'exercice.");
+    EXPECT_EQ(écran.cmdAbandonner.Caption, u"&Abandonner");
+}
