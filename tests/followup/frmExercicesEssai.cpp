@@ -95,6 +95,35 @@ TEST(Exercices, ListeLesElèvesSousLeCadre)
     EXPECT_TRUE(banc.plateforme.dialogues.empty());
 }
 
+TEST(Exercices, LégendesEtBulles)
+{
+    Banc banc;
+    banc.Ecrire("Zoé.bil", "");
+    auto& choix = banc.Ouvrir<frmExercices>();
+    EXPECT_EQ(choix.frameElève.Caption, u"Elève");
+    EXPECT_EQ(choix.cmdCharger.Caption, u"C&harger un fichier texte");
+    EXPECT_EQ(choix.cmdCode.Caption, u"&Code des Couleurs");
+    EXPECT_EQ(choix.cmdQuitter.Caption, u"&Quitter");
+    EXPECT_EQ(choix.Label1.Caption, u" Afficher les résultats (textes déjà étudiés) :");
+    EXPECT_EQ(choix.Label2.Caption, u" Vitesse de lecture (signes par minute) ");
+    EXPECT_EQ(
+        choix.lblConsigne.Caption,
+        u"            AVERTISSEMENT                    Afficher les résultats ne charge pas le texte en mémoire.  "
+        u"                     Pour cela, vous devez cliquer sur le bouton \"Charger un fichier texte\".");
+    EXPECT_EQ(choix.lblTexte.ToolTipText, u" Texte chargé ");
+    EXPECT_FALSE(choix.lblTexte.Visible);
+    EXPECT_EQ(choix.cmbTextes.ToolTipText, u" Affiche les résultats dans l'ordre des textes étudiés. ");
+    EXPECT_EQ(choix.lblVitesse.ToolTipText, u" Texte en cours ");
+    EXPECT_EQ(choix.lblVitesseMoyenne.ToolTipText, u" Moyenne ");
+    for (const auto& moyenne : choix.lblMoyenne)
+        EXPECT_EQ(moyenne.ToolTipText, u" Moyenne sur 10 pour tous les textes étudiés. ");
+    for (const auto* cadre :
+         {&choix.frmCompréhension, &choix.frmVocabulaire, &choix.frmVitesse, &choix.frmOrdre, &choix.frmOrthographe})
+        EXPECT_EQ(cadre->ToolTipText, u" Cliquer sur le cadre de couleur pour voir la progression. ");
+    for (const auto& image : choix.imgCourbes)
+        EXPECT_EQ(image.ToolTipText, u" Cliquer ici pour voir les courbes de progression. ");
+}
+
 TEST(Exercices, SansElèveLeDitEtSeConnecteSansNom)
 {
     Banc banc;

@@ -55,6 +55,30 @@ TEST(GestionEleves, OuvertureMontreLesNomsEtLeDossier)
     EXPECT_FALSE(écran.drvLecteurs.Visible || écran.dirLecteurs.Visible || écran.cmdValiderCheminRéseau.Visible);
 }
 
+TEST(GestionEleves, LégendesEtBulles)
+{
+    Banc banc;
+    auto& écran = banc.Ouvrir<frmGestionEleves>();
+    EXPECT_EQ(écran.cmdAjouter.Caption, u"&Ajouter");
+    EXPECT_EQ(écran.cmdAjouter.ToolTipText, u" Ajouter un élève. ");
+    EXPECT_EQ(écran.cmdSupprimer.Caption, u"&Supprimer");
+    EXPECT_EQ(écran.cmdSupprimer.ToolTipText, u" Supprimer un fichier élève ");
+    EXPECT_EQ(écran.cmdAnnuler.Caption, u"A&nnuler");
+    EXPECT_FALSE(écran.cmdAnnuler.Visible || écran.lblConsigne.Visible);
+    EXPECT_EQ(écran.cmdQuitter.Caption, u"&Modifications terminées");
+    EXPECT_EQ(écran.txtNom.ToolTipText, u" Entrée pour valider ");
+    EXPECT_EQ(écran.lblConsigne.Caption, u"Entrée pour valider");
+    EXPECT_EQ(écran.txtCode.ToolTipText,
+              u" Entrez votre code à 6 chiifres (votre date de naissance par exemple) et retenez bien ce code. ");
+    EXPECT_EQ(écran.txtVérif.ToolTipText, u" Confirmez votre code ici. ");
+    EXPECT_EQ(écran.lblCode.Caption, u"Code erroné");
+    EXPECT_EQ(écran.cmdCheminRéseau.Caption, u"Travailler en réseau");
+    EXPECT_EQ(écran.cmdValiderCheminRéseau.Caption, u"Valider le chemin réseau");
+    EXPECT_EQ(écran.cmdValiderCheminRéseau.ToolTipText,
+              u" C'est le chemin qui sera désormais utilisé pour l'enregistrement des bilans. ");
+    EXPECT_EQ(écran.Label2.Caption, u"Chemin Réseau actuel pour les bilans des élèves :");
+}
+
 TEST(GestionEleves, OuvertureSansElèveNAfficheAucuneBoîte)
 {
     Banc banc;
