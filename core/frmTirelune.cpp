@@ -130,6 +130,8 @@ void frmTirelune::DéfinirCode(const Texte& fichier)
         return;
     const auto contenu = ComposerChamps({txtCodeEnseignant.Text});
     if (const auto échec = application_.plateforme.Réécrire(EnChemin(fichier), *contenu)) {
+        std::error_code ignorée; // half a file would be a code that nobody has typed
+        std::filesystem::remove(EnChemin(fichier), ignorée);
         Avertir(MessageEchec(*échec, fichier));
         return;
     }

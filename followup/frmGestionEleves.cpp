@@ -198,8 +198,7 @@ void frmGestionEleves::CréerElève(const Texte& nom)
         return;
     }
     Relister();
-    if (const int place = cmbNoms.Chercher(nom); place >= 0)
-        cmbNoms.Montrer(place);
+    cmbNoms.ListIndex = cmbNoms.Chercher(nom); // some disks spell a name otherwise: then no item stands for it
     cmbNoms.Text = txtNom.Text;
     cmbNoms.Visible = true;
 }
@@ -222,7 +221,7 @@ void frmGestionEleves::cmdSupprimer_Click()
 void frmGestionEleves::SupprimerElève()
 {
     // The field may show a new name as it was typed; the item is the file's stem.
-    const auto nom = cmbNoms.ListIndex >= 0 ? cmbNoms.List(cmbNoms.ListIndex) : cmbNoms.Text();
+    const auto nom = cmbNoms.ListIndex >= 0 ? cmbNoms.List(cmbNoms.ListIndex) : Rogner(cmbNoms.Text);
     const auto fichier = FichierBilan(état.CheminBilans, nom);
     std::error_code erreur;
     std::filesystem::remove(EnChemin(fichier), erreur);

@@ -1,7 +1,6 @@
 #include "exercises/comprehension/frmQuestionnaire1.h"
 
 #include "core/FichierChamps.h"
-#include "core/Fonctions.h"
 #include "exercises/Conclure.h"
 #include "followup/EnregistrerNotes.h"
 
@@ -21,7 +20,6 @@ constexpr double SecondesParJour = 86400;
 constexpr VueTexte Vérifier = u"&Vérifier";
 constexpr VueTexte Suivante = u"&Suivante";
 constexpr VueTexte Fin = u"Fin du questionnaire";
-constexpr VueTexte SansQuestionnaire = u"Je ne trouve pas de questionnaire associé au texte !";
 
 int ColonneChoix(int i)
 {
@@ -88,9 +86,7 @@ void frmQuestionnaire1::Load()
     rtfTexte.TextRTF(choix_.rtfTexte.TextRTF());
     rtfTexte.ToutFormater([](Format& format) { format.Barré = false; });
     if (TexteEnVue()) {
-        VérifQuestions(état, choix_.lblTexte.Caption);
-        if (!état.QuestionnaireExiste) {
-            Avertir(Texte{SansQuestionnaire});
+        if (!choix_.TrouverQuestionnaire()) {
             Décharger();
             return;
         }
@@ -163,9 +159,7 @@ void frmQuestionnaire1::cmdOk_Click()
         return;
     }
     EnregistrerVitesse(secondes);
-    VérifQuestions(état, choix_.lblTexte.Caption);
-    if (!état.QuestionnaireExiste) {
-        Avertir(Texte{SansQuestionnaire});
+    if (!choix_.TrouverQuestionnaire()) {
         Décharger();
         return;
     }
@@ -200,7 +194,6 @@ void frmQuestionnaire1::MontrerQuestionsSansTexte()
 
 void frmQuestionnaire1::ChargerQuestions()
 {
-    état.NomFichierQuestions = état.CheminTexteElève + Rogner(choix_.lblTexte.Caption) + u".qst";
     const auto champs = LireChamps(EnChemin(état.NomFichierQuestions)).value_or(std::vector<Texte>{});
     const auto nombre = std::min<std::size_t>(champs.size(), QuestionsMaximum * ChampsParQuestion);
     for (std::size_t i = 0; i < nombre; ++i)

@@ -399,10 +399,8 @@ TEST(Eléments, DéchargerUneFoisSuffit)
 {
     Banc banc;
     auto& écran = banc.Ouvrir<Essai>();
-    EXPECT_TRUE(écran.EstActif());
     écran.FermerParCroix();
     écran.FermerParCroix();
     écran.Décharger();
     EXPECT_FALSE(écran.EstChargé());
-    EXPECT_FALSE(écran.EstActif());
 }

@@ -198,13 +198,20 @@ TEST(Tirelune, CodeQuiNeSEcritPasEstDit)
     auto& écran = Ouvrir(banc);
     écran.mnuEnseignant.Cliquer();
     Valider(écran.txtCodeEnseignant, u"abc");
-    banc.plateforme.échecEcriture = [](const Chemin&) {
+    banc.plateforme.échecEcriture = [&](const Chemin&) {
+        banc.Ecrire("CodeEnseignant.txt", "\"ab"); // the disk is full
         return EchecFichier::Ecriture;
     };
     banc.AnnoncerBoîte(MessageEchec(EchecFichier::Ecriture, DepuisChemin(banc.dossier / "CodeEnseignant.txt")));
     Valider(écran.txtVérificationCode, u"abc");
     EXPECT_TRUE(écran.frameCodeEnseignant.Visible);
     EXPECT_TRUE(banc.plateforme.écransMontrés.empty());
+    EXPECT_FALSE(banc.Existe("CodeEnseignant.txt"));
+
+    banc.plateforme.échecEcriture = nullptr;
+    banc.QuandOuvert<Bouchon>([](Bouchon&) {});
+    Valider(écran.txtVérificationCode, u"abc");
+    EXPECT_EQ(banc.Lire("CodeEnseignant.txt"), "\"abc\"\r\n");
 }
 
 TEST(Tirelune, LeCodePrendSixCaractèresQueLeFichierPeutGarder)

@@ -160,6 +160,22 @@ TEST_F(Eléments, CliquerUnBouton)
     });
 }
 
+TEST_F(Eléments, EntréePresseLeBoutonQuiALeClavier)
+{
+    écran.cmdOk.Click = [&] {
+        ++clics;
+    };
+    Avec(écran, [&] {
+        écran.cmdOk.SetFocus();
+        Mettre();
+        QTest::keyClick(&Devant(), Qt::Key_Return);
+        EXPECT_EQ(clics, 0); // pressed into the window, which is no button
+        QTest::keyClick(&Widget(écran.cmdOk), Qt::Key_Return);
+        QTest::keyClick(&Widget(écran.cmdOk), Qt::Key_Enter);
+        EXPECT_EQ(clics, 2);
+    });
+}
+
 TEST_F(Eléments, UnWidgetCachéGardeSaPlace)
 {
     Avec(écran, [&] {

@@ -306,7 +306,29 @@ TEST(Bilan, FichierIllisibleEstDit)
     std::filesystem::create_directory(banc.dossier / "Zoé.bil");
     banc.AnnoncerBoîte(u"Impossible de lire le fichier\n" + DepuisChemin(banc.dossier / "Zoé.bil"));
     choix.cmdOk.Cliquer();
-    EXPECT_EQ(choix.fgRésultats.Rows(), 1);
+    EXPECT_TRUE(choix.frameElève.Visible); // a save would replace it: nobody plays before it can be read
+    EXPECT_EQ(choix.Caption, u"Choix des exercices");
+    std::filesystem::remove(banc.dossier / "Zoé.bil");
+    banc.EcrireChamps("Zoé.bil", Fiche(u"A", u"90"));
+    choix.cmdOk.Cliquer();
+    EXPECT_FALSE(choix.frameElève.Visible);
+    EXPECT_EQ(choix.Caption, u"Choix des exercices / Zoé");
+    EXPECT_EQ(choix.fgRésultats.TextMatrix(1, ColonneVitesse), u"90");
+}
+
+TEST(Bilan, DossierPerduEntreLaListeEtLaConnexionEstDit)
+{
+    Banc banc;
+    banc.EcrireChamps("réseau/Zoé.bil", Fiche(u"A", u"90"));
+    banc.état.CheminBilans = banc.état.CheminAppli + u"/réseau";
+    auto& choix = banc.Ouvrir<frmExercices>();
+    std::filesystem::rename(banc.dossier / "réseau", banc.dossier / "parti");
+    banc.AnnoncerBoîte(u"Impossible de lire le fichier\n" + DepuisChemin(banc.dossier / "réseau" / "Zoé.bil"));
+    choix.cmdOk.Cliquer();
+    EXPECT_TRUE(choix.frameElève.Visible);
+    std::filesystem::rename(banc.dossier / "parti", banc.dossier / "réseau");
+    choix.cmdOk.Cliquer();
+    EXPECT_EQ(choix.fgRésultats.Rows(), 2);
 }
 
 TEST(Bilan, CinqMilleTextes)

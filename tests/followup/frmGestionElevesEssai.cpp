@@ -348,6 +348,26 @@ TEST(GestionEleves, NomSaisiAvecDesBlancsSeSupprimeAussitôt)
     EXPECT_FALSE(banc.Existe("Paul.bil"));
 }
 
+TEST(GestionEleves, NomQueLeDisqueEcritAutrementNeFaitPasSupprimerUnAutre)
+{
+    Banc banc;
+    banc.EcrireChamps("Code.txt", {u"123456"});
+    banc.Ecrire("Paul.bil", "gardé");
+    auto& écran = banc.Ouvrir<frmGestionEleves>();
+    écran.cmbNoms.Observateur = [&] {
+        if (const int place = écran.cmbNoms.Chercher(u"Zoé"); place >= 0)
+            écran.cmbNoms.RemoveItem(place);
+    };
+    Valider(écran, u"Zoé ");
+    EXPECT_EQ(écran.cmbNoms.Text, u"Zoé ");
+    EXPECT_EQ(écran.cmbNoms.ListIndex, -1);
+    écran.cmdSupprimer.Cliquer();
+    banc.AnnoncerBoîte(Texte{QuestionDestruction}, Réponse::Oui);
+    Frapper(écran.txtCode, u"123456");
+    EXPECT_EQ(banc.Lire("Paul.bil"), "gardé");
+    EXPECT_FALSE(banc.Existe("Zoé.bil"));
+}
+
 TEST(GestionEleves, SuppressionImpossibleEstDite)
 {
     Banc banc;
