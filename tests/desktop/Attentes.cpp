@@ -174,7 +174,7 @@ TEST_F(Attentes, UneBoîteRépondParSesBoutons)
         Ensuite([&] {
             auto* boîte = BoîteOuverte();
             ASSERT_NE(boîte, nullptr);
-            EXPECT_EQ(boîte->text(), "Le texte est trop court !");
+            EXPECT_EQ(boîte->text(), QStringLiteral("Le texte est trop court\u00A0!"));
             ASSERT_EQ(boîte->buttons().size(), 1);
             EXPECT_EQ(boîte->buttons().front()->text(), "OK");
             boîte->buttons().front()->click();
@@ -184,6 +184,18 @@ TEST_F(Attentes, UneBoîteRépondParSesBoutons)
             Ensuite([légende] { BoîteOuverte()->findChild<QAbstractButton*>(légende)->click(); });
             EXPECT_EQ(application.Demander(u"Encore ?"), légende == std::string_view{"&Oui"});
         }
+    });
+}
+
+TEST_F(Attentes, UneBoîteNeCoupePasAvantUnPointDInterrogation)
+{
+    Avec(écran, [&] {
+        Ensuite([&] {
+            EXPECT_EQ(BoîteOuverte()->text(),
+                      QStringLiteral("Oui\u00A0: non\u00A0; «peut-être\u00A0»\u00A0?\nEt\u00A0!"));
+            BoîteOuverte()->buttons().front()->click();
+        });
+        application.Avertir(u"Oui : non ; «peut-être » ?\r\nEt !");
     });
 }
 
