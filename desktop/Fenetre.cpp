@@ -66,7 +66,10 @@ Fenêtre::Fenêtre(PlateformeQt& plateforme, Ecran& écran) : plateforme_(platef
     setAccessibleName(EnQString(écran.Nom));
     setAttribute(Qt::WA_InputMethodEnabled);
     setWindowModality(Qt::ApplicationModal);
-    échelle_ = EchellePour(screen()->availableGeometry().size());
+    // The one below has its borders already. Taking their room into account now saves laying everything out twice.
+    const auto* dessous = plateforme.Devant();
+    pleine_ = dessous != nullptr && dessous->isMaximized() ? dessous->geometry() : screen()->availableGeometry();
+    échelle_ = EchellePour((écran.PetiteFenêtre ? screen()->availableGeometry() : pleine_).size());
     contenu_ = new Contenu{*this};
     plan_ = new QWidget{contenu_};
     auto* tout = new QVBoxLayout{this};
@@ -77,7 +80,7 @@ Fenêtre::Fenêtre(PlateformeQt& plateforme, Ecran& écran) : plateforme_(platef
 
 void Fenêtre::MontrerFond()
 {
-    setGeometry(screen()->availableGeometry());
+    setGeometry(pleine_);
     // Without a window manager nothing answers to this, and the geometry stands.
     showMaximized();
 }

@@ -1,5 +1,6 @@
 #include "tests/desktop/Atelier.h"
 
+#include "desktop/Apparence.h"
 #include "desktop/VueToile.h"
 
 namespace {
@@ -135,6 +136,25 @@ TEST_F(Disposition_, LesLettresGrandissentAvecLaFenêtre)
         Devant().setGeometry(0, 0, 1920, 1080);
         Mettre();
         EXPECT_NEAR(Widget(écran.lblFond).font().pixelSize(), 24, 1);
+    });
+}
+
+TEST_F(Disposition_, UnEcranCompteDèsLeDébutSurLaPlaceDeCeluiDuDessous)
+{
+    EcranPlaces dessus{application};
+    double échelle = 0;
+    dessus.disposer = [&] {
+        échelle = Devant().Echelle();
+        return Colonne{dessus.lblMot};
+    };
+    écran.disposer = [&] {
+        return Colonne{écran.lblFond};
+    };
+    Avec(écran, [&] {
+        Devant().setGeometry(0, 0, 700, 520); // what a window manager's borders leave
+        Ensuite([&] { dessus.Décharger(); });
+        dessus.Afficher();
+        EXPECT_EQ(échelle, EchellePour({700, 520}));
     });
 }
 
