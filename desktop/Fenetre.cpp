@@ -105,9 +105,7 @@ Fenêtre::~Fenêtre()
 void Fenêtre::Observer()
 {
     for (const auto& vue : vues_)
-        vue->élément.Observateur = [this, une = vue.get()] {
-            Marquer(*une);
-        };
+        vue->élément.Observateur = [this, une = vue.get()] { Marquer(*une); };
     sales_.clear();
     for (const auto& vue : vues_)
         sales_.push_back(vue.get());
@@ -417,9 +415,7 @@ Fenêtre::Place Fenêtre::BâtirToile(const Arrangement& place, QWidget* parent)
         auto* vue = enfant.élément != nullptr ? VueDe(*enfant.élément) : nullptr;
         if (vue == nullptr || vue->widget == nullptr)
             continue;
-        vue->échelle = [toile] {
-            return toile->Facteur();
-        };
+        vue->échelle = [toile] { return toile->Facteur(); };
         toile->Ajouter(*vue);
     }
     toile->étendue = [this, toile] {

@@ -147,9 +147,7 @@ TEST_F(Disposition_, UnEcranCompteDèsLeDébutSurLaPlaceDeCeluiDuDessous)
         échelle = Devant().Echelle();
         return Colonne{dessus.lblMot};
     };
-    écran.disposer = [&] {
-        return Colonne{écran.lblFond};
-    };
+    écran.disposer = [&] { return Colonne{écran.lblFond}; };
     Avec(écran, [&] {
         Devant().setGeometry(0, 0, 700, 520); // what a window manager's borders leave
         Ensuite([&] { dessus.Décharger(); });
