@@ -28,27 +28,13 @@ frmTirelune::frmTirelune(Application& application)
               u"Une banque de textes régulièrement mise à jour est disponible sur le site suivant :",
               u"tirelune.example/textes", u"Pour nous écrire : bonjour@tirelune.example"})
 {
-    mnuElève.Click = [this] {
-        Ouvrir("frmExercices");
-    };
-    mnuEnseignant.Click = [this] {
-        mnuEnseignant_Click();
-    };
-    mnuQuitter.Click = [this] {
-        application_.plateforme.Terminer();
-    };
-    cmdCode.Click = [this] {
-        cmdCode_Click();
-    };
-    txtCodeEnseignant.Enter = [this] {
-        cmdCode_Click();
-    };
-    txtVérificationCode.Enter = [this] {
-        cmdCode_Click();
-    };
-    cmdAnnuler.Click = [this] {
-        cmdAnnuler_Click();
-    };
+    mnuElève.Click = [this] { Ouvrir("frmExercices"); };
+    mnuEnseignant.Click = [this] { mnuEnseignant_Click(); };
+    mnuQuitter.Click = [this] { application_.plateforme.Terminer(); };
+    cmdCode.Click = [this] { cmdCode_Click(); };
+    txtCodeEnseignant.Enter = [this] { cmdCode_Click(); };
+    txtVérificationCode.Enter = [this] { cmdCode_Click(); };
+    cmdAnnuler.Click = [this] { cmdAnnuler_Click(); };
 }
 
 std::vector<Menu> frmTirelune::Menus()

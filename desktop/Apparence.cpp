@@ -92,10 +92,11 @@ QFont PolicePour(VueTexte famille, double points, bool gras, double échelle)
 QFont AjusterPolice(const QFont& police, const QString& texte, QSize place, int drapeaux)
 {
     static constexpr double Pas = 0.93;
-    static constexpr double PlusPetite = 0.5;
+    static constexpr int Essais = 10; // down to half the size
     QFont essai = police;
     const QRect cadre{QPoint{0, 0}, place};
-    for (double part = 1; part >= PlusPetite; part *= Pas) {
+    double part = 1;
+    for (int i = 0; i < Essais; ++i, part *= Pas) {
         essai.setPixelSize(std::max(6, static_cast<int>(police.pixelSize() * part)));
         const auto boîte = QFontMetrics{essai}.boundingRect(cadre, drapeaux, texte);
         if (boîte.width() <= place.width() && boîte.height() <= place.height())

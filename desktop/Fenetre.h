@@ -95,6 +95,7 @@ private:
     std::vector<Vue*> sales_;
     std::vector<std::function<void()>> minimums_; // sizes that were asked for, at the present scale
     double échelle_ = 1;
+    QRect pleine_; // where it stands when it fills the display
     bool fermée_ = false;
     bool ouverte_ = false;
     bool réveillée_ = false;

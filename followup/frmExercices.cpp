@@ -64,29 +64,17 @@ frmExercices::frmExercices(Application& application)
 {
     for (int i = 0; i < NombreExercices; ++i)
         lblExo(i).Caption = Texte{Exercices[static_cast<std::size_t>(i)].libellé};
-    cmdOk.Click = [this] {
-        cmdOk_Click();
-    };
-    cmdCharger.Click = [this] {
-        cmdCharger_Click();
-    };
-    cmbTextes.Click = [this] {
-        cmbTextes_Click();
-    };
+    cmdOk.Click = [this] { cmdOk_Click(); };
+    cmdCharger.Click = [this] { cmdCharger_Click(); };
+    cmbTextes.Click = [this] { cmbTextes_Click(); };
     lblExo.Click([this](int i) { lblExo_Click(i); });
     for (int groupe = 0; groupe < imgCourbes.Nombre(); ++groupe) {
-        CadreDe(groupe).Click = [this, groupe] {
-            Progression_Click(groupe);
-        };
+        CadreDe(groupe).Click = [this, groupe] { Progression_Click(groupe); };
         imgCourbes(groupe).Picture = Courbes();
     }
     imgCourbes.Click([this](int i) { Progression_Click(i); });
-    cmdCode.Click = [this] {
-        Ouvrir("frmCodeCouleur");
-    };
-    cmdQuitter.Click = [this] {
-        QueryUnload();
-    };
+    cmdCode.Click = [this] { Ouvrir("frmCodeCouleur"); };
+    cmdQuitter.Click = [this] { QueryUnload(); };
 }
 
 Frame& frmExercices::CadreDe(int groupe)
@@ -189,9 +177,7 @@ void frmExercices::ChargerBilan(const std::vector<Texte>& champs)
 void frmExercices::RangerChamps(const std::vector<Texte>& champs)
 {
     // A cell is written trimmed: what would then open a record opens one now.
-    const auto ouvre = [](const Texte& champ) {
-        return Rogner(champ) == Marqueur;
-    };
+    const auto ouvre = [](const Texte& champ) { return Rogner(champ) == Marqueur; };
     const auto textes = static_cast<int>(std::count_if(champs.begin(), champs.end(), ouvre));
     fgRésultats.Rows(textes + 1);
     std::vector<Texte> titres;

@@ -34,41 +34,19 @@ void GarderChiffres(TextBox& boîte)
 frmGestionEleves::frmGestionEleves(Application& application)
     : Ecran(application, "frmGestionEleves", u"Gestion du fichier \"élèves\"")
 {
-    cmbNoms.Click = [this] {
-        cmbNoms_Click();
-    };
-    cmdAjouter.Click = [this] {
-        cmdAjouter_Click();
-    };
-    cmdAnnuler.Click = [this] {
-        cmdAnnuler_Click();
-    };
-    cmdSupprimer.Click = [this] {
-        cmdSupprimer_Click();
-    };
-    cmdCheminRéseau.Click = [this] {
-        cmdCheminRéseau_Click();
-    };
-    cmdValiderCheminRéseau.Click = [this] {
-        cmdValiderCheminRéseau_Click();
-    };
-    cmdQuitter.Click = [this] {
-        Décharger();
-    };
-    drvLecteurs.Change = [this] {
-        drvLecteurs_Change();
-    };
-    txtNom.Enter = [this] {
-        txtNom_Enter();
-    };
+    cmbNoms.Click = [this] { cmbNoms_Click(); };
+    cmdAjouter.Click = [this] { cmdAjouter_Click(); };
+    cmdAnnuler.Click = [this] { cmdAnnuler_Click(); };
+    cmdSupprimer.Click = [this] { cmdSupprimer_Click(); };
+    cmdCheminRéseau.Click = [this] { cmdCheminRéseau_Click(); };
+    cmdValiderCheminRéseau.Click = [this] { cmdValiderCheminRéseau_Click(); };
+    cmdQuitter.Click = [this] { Décharger(); };
+    drvLecteurs.Change = [this] { drvLecteurs_Change(); };
+    txtNom.Enter = [this] { txtNom_Enter(); };
     txtCode.KeyPress = ChiffresSeuls;
     txtVérif.KeyPress = ChiffresSeuls;
-    txtCode.Change = [this] {
-        txtCode_Change();
-    };
-    txtVérif.Change = [this] {
-        txtVérif_Change();
-    };
+    txtCode.Change = [this] { txtCode_Change(); };
+    txtVérif.Change = [this] { txtVérif_Change(); };
 }
 
 Arrangement frmGestionEleves::Disposer()

@@ -41,21 +41,11 @@ frmQuestionnaire1::frmQuestionnaire1(frmExercices& choix)
     for (auto& texte : txtChoix)
         texte.Locked = true;
     rtfTexte.Locked = true;
-    cmdCommencer.Click = [this] {
-        cmdCommencer_Click();
-    };
-    cmdOk.Click = [this] {
-        cmdOk_Click();
-    };
-    cmdVérifier.Click = [this] {
-        cmdVérifier_Click();
-    };
-    cmdQuitter.Click = [this] {
-        cmdQuitter_Click();
-    };
-    cmdInitialise.Click = [this] {
-        PlacerQuestions();
-    };
+    cmdCommencer.Click = [this] { cmdCommencer_Click(); };
+    cmdOk.Click = [this] { cmdOk_Click(); };
+    cmdVérifier.Click = [this] { cmdVérifier_Click(); };
+    cmdQuitter.Click = [this] { cmdQuitter_Click(); };
+    cmdInitialise.Click = [this] { PlacerQuestions(); };
     txtChoix.Click([this](int i) { txtChoix_Click(i); });
 }
 
@@ -103,9 +93,7 @@ bool frmQuestionnaire1::TexteEnVue() const
 
 void frmQuestionnaire1::CommencerTexteEnVue()
 {
-    frameQuestions.MouseMove = [this](double x, double y) {
-        frameQuestions_MouseMove(x, y);
-    };
+    frameQuestions.MouseMove = [this](double x, double y) { frameQuestions_MouseMove(x, y); };
     frameQuestions.DragDrop = [this](const Elément* cible, double x, double y) {
         frameQuestions_DragDrop(cible, x, y);
     };

@@ -166,9 +166,8 @@ TEST(SauverBilan, DossierPerduEnCoursDeRouteOkRéessaie)
     ASSERT_TRUE(SauverBilan(banc.Choix()));
     std::filesystem::remove_all(banc.dossier / "réseau");
     banc.AnnoncerBoîte(Texte{DossierInaccessible}, Réponse::Ok);
-    banc.plateforme.boîtes.push_back({Texte{DossierInaccessible}, Réponse::Ok, u"CONNEXION RESEAU DEFECTUEUSE", [&] {
-                                          std::filesystem::create_directory(banc.dossier / "réseau");
-                                      }});
+    banc.plateforme.boîtes.push_back({Texte{DossierInaccessible}, Réponse::Ok, u"CONNEXION RESEAU DEFECTUEUSE",
+                                      [&] { std::filesystem::create_directory(banc.dossier / "réseau"); }});
     Noter(banc, 0, 6);
     EXPECT_TRUE(SauverBilan(banc.Choix()));
     EXPECT_TRUE(banc.Lire("réseau/Léa.bil")->find("\"6\"") != std::string::npos);
@@ -229,9 +228,7 @@ TEST(SauverBilan, AucunDossierNAccepteLeDitEtGardeTout)
     Banc banc;
     banc.Texte_(u"Un texte.");
     Noter(banc, 0, 5);
-    banc.plateforme.échecEcriture = [](const Chemin&) {
-        return EchecFichier::Ouverture;
-    };
+    banc.plateforme.échecEcriture = [](const Chemin&) { return EchecFichier::Ouverture; };
     banc.AnnoncerBoîte(Texte{DossierInaccessible}, Réponse::Annuler);
     const auto fichier = DepuisChemin(banc.dossier / "Léa.bil");
     banc.AnnoncerBoîte(MessageEchec(EchecFichier::Ouverture, fichier));
@@ -250,9 +247,7 @@ TEST(SauverBilan, EcritureQuiEchoueAprèsOuvertureNommeLeFichier)
     Banc banc;
     banc.Texte_(u"Un texte.");
     Noter(banc, 0, 5);
-    banc.plateforme.échecEcriture = [](const Chemin&) {
-        return EchecFichier::Ecriture;
-    };
+    banc.plateforme.échecEcriture = [](const Chemin&) { return EchecFichier::Ecriture; };
     banc.AnnoncerBoîte(MessageEchec(EchecFichier::Ecriture, DepuisChemin(banc.dossier / "Léa.bil")));
     EXPECT_FALSE(SauverBilan(banc.Choix()));
     EXPECT_EQ(banc.Note(0), u"5");
@@ -266,9 +261,7 @@ TEST(SauverBilan, FermerLeChoixRéessaieCeQuiNAPasPuSEcrire)
     Banc banc;
     banc.Texte_(u"Un texte.");
     Noter(banc, 0, 5);
-    banc.plateforme.échecEcriture = [](const Chemin&) {
-        return EchecFichier::Ecriture;
-    };
+    banc.plateforme.échecEcriture = [](const Chemin&) { return EchecFichier::Ecriture; };
     banc.AnnoncerBoîte(u"Impossible d'enregistrer…");
     EXPECT_FALSE(SauverBilan(banc.Choix()));
     banc.plateforme.échecEcriture = nullptr;
@@ -281,9 +274,7 @@ TEST(SauverBilan, QuitterSansPouvoirEnregistrerSeDemande)
     Banc banc;
     banc.Texte_(u"Un texte.");
     Noter(banc, 0, 5);
-    banc.plateforme.échecEcriture = [](const Chemin&) {
-        return EchecFichier::Ecriture;
-    };
+    banc.plateforme.échecEcriture = [](const Chemin&) { return EchecFichier::Ecriture; };
     banc.AnnoncerBoîte(u"Impossible d'enregistrer…");
     EXPECT_FALSE(SauverBilan(banc.Choix()));
     for (const auto réponse : {Réponse::Non, Réponse::Oui}) {

@@ -501,9 +501,7 @@ TEST(Exercices, LesMotsMarquésFontLeVocabulaire)
     Banc banc;
     Connexion choix{banc};
     TexteRiche texte{u"un zèbre et un âne et un âne"};
-    const auto barrer = [](Format& format) {
-        format.Barré = true;
-    };
+    const auto barrer = [](Format& format) { format.Barré = true; };
     texte.Formater(3, 5, barrer);
     texte.Formater(15, 3, barrer);
     texte.Formater(25, 3, barrer); // ends the text

@@ -115,9 +115,8 @@ TEST(GestionEleves, DossierRevenuEntreTempsEstListé)
 {
     Banc banc;
     banc.état.CheminBilans = banc.état.CheminAppli + u"/parti";
-    banc.plateforme.boîtes.push_back({Texte{DossierInaccessible}, Réponse::Ok, std::nullopt, [&] {
-                                          banc.Ecrire("parti/Paul.bil", "");
-                                      }});
+    banc.plateforme.boîtes.push_back(
+        {Texte{DossierInaccessible}, Réponse::Ok, std::nullopt, [&] { banc.Ecrire("parti/Paul.bil", ""); }});
     auto& écran = banc.Ouvrir<frmGestionEleves>();
     EXPECT_EQ(écran.cmbNoms.Text, u"Paul");
     EXPECT_EQ(banc.état.CheminBilans, banc.état.CheminAppli + u"/parti");
@@ -130,9 +129,7 @@ TEST(GestionEleves, DeuxMilleElèvesSontListésEnUneFois)
         banc.Ecrire("Élève " + std::to_string(i) + ".bil", "");
     auto écran = std::make_unique<frmGestionEleves>(banc.application);
     int changements = 0;
-    écran->cmbNoms.Observateur = [&] {
-        ++changements;
-    };
+    écran->cmbNoms.Observateur = [&] { ++changements; };
     auto& gestion = *écran;
     banc.Montrer(std::move(écran));
     EXPECT_EQ(gestion.cmbNoms.ListCount(), 2000);
@@ -248,9 +245,7 @@ TEST(GestionEleves, CréationImpossibleEstDite)
 {
     Banc banc;
     auto& écran = banc.Ouvrir<frmGestionEleves>();
-    banc.plateforme.échecEcriture = [](const Chemin&) {
-        return EchecFichier::Ouverture;
-    };
+    banc.plateforme.échecEcriture = [](const Chemin&) { return EchecFichier::Ouverture; };
     const auto fichier = DepuisChemin(banc.dossier / "Paul.bil");
     banc.AnnoncerBoîte(MessageEchec(EchecFichier::Ouverture, fichier));
     Valider(écran, u"Paul");
@@ -492,9 +487,7 @@ TEST(GestionEleves, CodeQuiNeSEcritPasEstDitEtNOuvreRien)
     auto& écran = banc.Ouvrir<frmGestionEleves>();
     écran.cmdSupprimer.Cliquer();
     Frapper(écran.txtCode, u"123456");
-    banc.plateforme.échecEcriture = [](const Chemin&) {
-        return EchecFichier::Ecriture;
-    };
+    banc.plateforme.échecEcriture = [](const Chemin&) { return EchecFichier::Ecriture; };
     banc.AnnoncerBoîte(MessageEchec(EchecFichier::Ecriture, DepuisChemin(banc.dossier / "Code.txt")));
     Frapper(écran.txtVérif, u"123456");
     EXPECT_FALSE(banc.état.CodeValide);
@@ -566,9 +559,7 @@ TEST(GestionEleves, CheminQuiNeSEcritPasEstDitEtLAncienReste)
     auto& écran = banc.Ouvrir<frmGestionEleves>();
     écran.cmdCheminRéseau.Cliquer();
     écran.dirLecteurs.Ouvrir(0);
-    banc.plateforme.échecEcriture = [](const Chemin&) {
-        return EchecFichier::Ouverture;
-    };
+    banc.plateforme.échecEcriture = [](const Chemin&) { return EchecFichier::Ouverture; };
     banc.AnnoncerBoîte(MessageEchec(EchecFichier::Ouverture, DepuisChemin(banc.dossier / "Chemin.txt")));
     écran.cmdValiderCheminRéseau.Cliquer();
     EXPECT_EQ(banc.état.CheminBilans, DepuisChemin(banc.dossier));

@@ -249,9 +249,7 @@ TEST(Progression, LeCadreDUnGroupeEtSonImageLOuvrent)
     auto& choix = banc.Choix();
     Notes(banc, 0, {u"5"});
     const auto légende = [](Texte attendue) {
-        return [attendue](frmProgression& écran) {
-            EXPECT_EQ(écran.lblLégende(0).Caption, attendue);
-        };
+        return [attendue](frmProgression& écran) { EXPECT_EQ(écran.lblLégende(0).Caption, attendue); };
     };
     banc.QuandOuvert<frmProgression>(légende(u"Mots en désordre"));
     choix.frmOrdre.Cliquer();

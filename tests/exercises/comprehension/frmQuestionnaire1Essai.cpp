@@ -224,9 +224,7 @@ TEST(Questionnaire, VitesseQuiNeSEcritPasEstDiteEtLesQuestionsViennent)
     auto& écran = Ouvrir(banc, 0);
     écran.cmdCommencer.Cliquer();
     banc.Avancer(60s);
-    banc.plateforme.échecEcriture = [](const Chemin&) {
-        return EchecFichier::Ecriture;
-    };
+    banc.plateforme.échecEcriture = [](const Chemin&) { return EchecFichier::Ecriture; };
     banc.AnnoncerBoîte(u"Impossible d'enregistrer…");
     écran.cmdOk.Cliquer();
     EXPECT_TRUE(écran.frameQuestions.Visible);
