@@ -433,7 +433,7 @@ public:
             éléments_.emplace_back(écran, NomIndexé(nom, Nombre()), initial);
         }
     }
-    Tableau(Ecran& écran, std::string_view nom, std::initializer_list<EtatInitial> états)
+    Tableau(Ecran& écran, std::string_view nom, const std::vector<EtatInitial>& états)
     {
         for (const auto& état : états)
             éléments_.emplace_back(écran, NomIndexé(nom, Nombre()), état);

@@ -1,5 +1,7 @@
 #include "exercises/Lacunes.h"
 
+#include "exercises/BandeDePoints.h"
+
 #include <algorithm>
 #include <cassert>
 
@@ -140,14 +142,15 @@ void EssayerMot(const JeuDeLacunes& jeu)
         }
         Incrémenter(jeu.lblPoints(1));
     }
-    if (!Contient(jeu.texte.Text(), Trait))
+    if (!Contient(jeu.texte.Text(), Trait)) {
         jeu.frameFin.Visible = true;
+        jeu.cmdQuitter.SetFocus();
+    }
 }
 
 Arrangement BarreDeLacunes(const JeuDeLacunes& jeu, Button& ok, Image& image)
 {
-    auto& points = jeu.lblPoints;
-    return Ligne{AuMoins(720, 480, image), AuMoins(3600, 0, jeu.mots), ok, Ressort{}, points(0), points(2), points(1)};
+    return Ligne{AuMoins(720, 480, image), AuMoins(3600, 0, jeu.mots), ok, Ressort{}, BandeDePoints(jeu.lblPoints)};
 }
 
 Dessin DessinCrayon()

@@ -29,6 +29,7 @@ struct JeuDeLacunes {
     ComboBox& mots;
     Tableau<Label>& lblPoints;
     Frame& frameFin;
+    Button& cmdQuitter;
 };
 
 // Puts the words in the list and shows the first.

@@ -1,5 +1,6 @@
 // Closures: every seventh word of the text gives way to a gap; the pupil puts the words back from a list.
 #pragma once
+#include "exercises/BandeDePoints.h"
 #include "exercises/Lacunes.h"
 
 class frmClosures final : public Ecran {
@@ -10,11 +11,7 @@ public:
     ComboBox cmbClosures{
         *this, "cmbClosures", {.Caption = u" Liste des mots enlevés ", .FontSize = 16, .Sorted = true}};
     Button cmdOk{*this, "cmdOk", {.Caption = u"&Ok", .FontSize = 16}};
-    Tableau<Label> lblPoints{*this,
-                             "lblPoints",
-                             {EtatInitial{.Caption = u"0", .BackColor = Jaune, .ForeColor = Rouge, .FontSize = 16},
-                              EtatInitial{.Caption = u"0", .BackColor = Jaune, .ForeColor = Rouge, .FontSize = 16},
-                              EtatInitial{.Caption = u" / ", .BackColor = Jaune, .ForeColor = Bleu, .FontSize = 16}}};
+    Tableau<Label> lblPoints{*this, "lblPoints", EtatsDesPoints()};
     Frame frameFin{*this, "frameFin", {.Caption = u"Texte complété", .Visible = false, .BackColor = BleuClair}};
     TextBox Text1{*this, "Text1", {.Caption = u"C'est fini !", .FontSize = 24, .Centré = true}};
     Button cmdQuitter{*this, "cmdQuitter", {.Caption = u"&Quitter", .FontSize = 16}};
@@ -31,7 +28,7 @@ private:
     void OuvrirTrous();
 
     frmExercices& choix_;
-    const JeuDeLacunes jeu_{choix_, rtfClosures, cmbClosures, lblPoints, frameFin};
+    const JeuDeLacunes jeu_{choix_, rtfClosures, cmbClosures, lblPoints, frameFin, cmdQuitter};
 };
 
 // The words that the exercise takes out of a text, from a start on.

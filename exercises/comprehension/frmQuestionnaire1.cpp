@@ -62,7 +62,7 @@ Arrangement frmQuestionnaire1::Disposer()
                 Ressort{}},
         Libre{rtfTexte, Cadre{frameQuestions,
                               Colonne{
-                                  Ligne{Label1, lblNuméro, Ressort{}, lblPoints(0), lblPoints(2), lblPoints(1)},
+                                  Ligne{Label1, lblNuméro, Ressort{}, BandeDePoints(lblPoints)},
                                   AuMoins(0, 900, txtQuestion),
                                   Arrangement(Disposition::Colonne, std::move(choix)),
                                   Ressort{},

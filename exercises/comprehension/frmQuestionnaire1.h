@@ -2,6 +2,7 @@
 // view, in a frame that the pupil can drag away.
 #pragma once
 #include "core/Ecran.h"
+#include "exercises/BandeDePoints.h"
 #include "followup/frmExercices.h"
 
 class frmQuestionnaire1 final : public Ecran {
@@ -29,11 +30,7 @@ public:
         *this, "frameQuestions", {.Caption = u"   Questionnaire", .Visible = false, .BackColor = GrisClair}};
     Label Label1{*this, "Label1", {.Caption = u"Question N° ", .Gras = true}};
     Label lblNuméro{*this, "lblNuméro", {.Caption = u"1", .Gras = true}};
-    Tableau<Label> lblPoints{*this,
-                             "lblPoints",
-                             {EtatInitial{.Caption = u"0", .BackColor = Jaune, .ForeColor = Rouge, .Gras = true},
-                              EtatInitial{.Caption = u"0", .BackColor = Jaune, .ForeColor = Rouge, .Gras = true},
-                              EtatInitial{.Caption = u" / ", .BackColor = Jaune, .ForeColor = Bleu, .Gras = true}}};
+    Tableau<Label> lblPoints{*this, "lblPoints", EtatsDesPoints()};
     TextBox txtQuestion{*this, "txtQuestion", {.Gras = true, .MultiLine = true}};
     Tableau<CheckBox> chkRéponse{*this, "chkRéponse", 5};
     Tableau<TextBox> txtChoix{

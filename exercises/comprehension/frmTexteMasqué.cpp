@@ -23,7 +23,7 @@ Arrangement frmTexteMasqué::Disposer()
     for (auto& lettre : lblLettre)
         lettres.push_back(Extensible(lettre));
     auto barre = Colonne{
-        Ligne{Extensible(Label1), lblPoints(0), lblPoints(2), lblPoints(1)},
+        Ligne{Extensible(Label1), BandeDePoints(lblPoints)},
         Arrangement(Disposition::Ligne, std::move(lettres)),
     };
     return TexteEtBarre(rtfMasqué, std::move(barre), frameFin, Text1, cmdQuitter);
@@ -117,8 +117,10 @@ void frmTexteMasqué::DévoilerLettre(int k, VueTexte classe)
     }
     rtfMasqué.Transcrire(std::move(texte));
     rtfMasqué.Refresh();
-    if (rtfMasqué.Text() == clé)
+    if (rtfMasqué.Text() == clé) {
         frameFin.Visible = true;
+        cmdQuitter.SetFocus();
+    }
 }
 
 void frmTexteMasqué::cmdQuitter_Click()

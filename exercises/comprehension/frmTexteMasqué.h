@@ -2,6 +2,7 @@
 // everywhere.
 #pragma once
 #include "core/Ecran.h"
+#include "exercises/BandeDePoints.h"
 #include "followup/frmExercices.h"
 
 class frmTexteMasqué final : public Ecran {
@@ -16,11 +17,7 @@ public:
         "lblLettre",
         26,
         {.ForeColor = Bleu, .FontSize = 14, .Gras = true, .Police = u"Comic Sans MS", .Centré = true, .Bordure = true}};
-    Tableau<Label> lblPoints{*this,
-                             "lblPoints",
-                             {EtatInitial{.Caption = u"0", .BackColor = Jaune, .ForeColor = Rouge, .FontSize = 14},
-                              EtatInitial{.Caption = u"0", .BackColor = Jaune, .ForeColor = Rouge, .FontSize = 14},
-                              EtatInitial{.Caption = u" / ", .BackColor = Jaune, .ForeColor = Bleu, .FontSize = 14}}};
+    Tableau<Label> lblPoints{*this, "lblPoints", EtatsDesPoints(14)};
     Frame frameFin{*this, "frameFin", {.Caption = u"Texte complété", .Visible = false, .BackColor = BleuClair}};
     TextBox Text1{*this, "Text1", {.Caption = u"C'est fini !", .FontSize = 24, .Centré = true}};
     Button cmdQuitter{*this, "cmdQuitter", {.Caption = u"&Quitter", .FontSize = 16}};

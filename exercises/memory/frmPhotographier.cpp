@@ -48,7 +48,7 @@ Arrangement frmPhotographier::Disposer()
 {
     return Pile{
         Colonne{
-            Ligne{lblVitesse, Ressort{}, lblPoints(0), lblPoints(2), lblPoints(1)},
+            Ligne{lblVitesse, Ressort{}, BandeDePoints(lblPoints)},
             Extensible(Ligne{
                 Extensible(Colonne{
                     Ressort{}, Extensible(Ligne{AuMoins(900, 600, Image1), Extensible(AuMoins(4200, 1500, lblMot))}),

@@ -2,6 +2,7 @@
 // it. Twenty flashes.
 #pragma once
 #include "core/Ecran.h"
+#include "exercises/BandeDePoints.h"
 #include "followup/frmExercices.h"
 
 class frmPhotographier final : public Ecran {
@@ -24,12 +25,7 @@ public:
                       .Centré = true}};
     Timer Chrono{*this, "Chrono", 100}; // exposure, ms
     Button cmdAfficher{*this, "cmdAfficher", {.Caption = u"&Afficher le mot  dans le cadre blanc", .FontSize = 16}};
-    Tableau<Label> lblPoints{
-        *this,
-        "lblPoints",
-        {EtatInitial{.Caption = u"0", .BackColor = Jaune, .ForeColor = Rouge, .FontSize = 16, .Gras = true},
-         EtatInitial{.Caption = u"0", .BackColor = Jaune, .ForeColor = Rouge, .FontSize = 16, .Gras = true},
-         EtatInitial{.Caption = u" / ", .BackColor = Jaune, .ForeColor = Bleu, .FontSize = 16, .Gras = true}}};
+    Tableau<Label> lblPoints{*this, "lblPoints", EtatsDesPoints()};
     Button cmdQuitter{*this, "cmdQuitter", {.Caption = u"&Quitter", .Visible = false, .FontSize = 16}};
 
     Frame frameQuitter{*this, "frameQuitter", {.Caption = u"Pas assez de vocabulaire sélectionné", .Visible = false}};

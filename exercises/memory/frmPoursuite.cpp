@@ -64,7 +64,7 @@ Arrangement frmPoursuite::Disposer()
         Centré{Cadre{frameConsigne, AuMoins(10000, 0, Colonne{lblConsigne, Centré{cmdCommencer}})}},
         Cadre{frameMot,
               Colonne{
-                  Ligne{Label1, Ressort{}, lblPoints(0), lblPoints(2), lblPoints(1)},
+                  Ligne{Label1, Ressort{}, BandeDePoints(lblPoints)},
                   Extensible(Ligne{Extensible(Colonne{lblMot}), Ressort{}}),
                   Ligne{Ressort{}, cmdContinuer},
               }},

@@ -2,6 +2,7 @@
 // faster, wrong ones slower. Five chases.
 #pragma once
 #include "core/Ecran.h"
+#include "exercises/BandeDePoints.h"
 #include "followup/frmExercices.h"
 
 class frmPoursuite final : public Ecran {
@@ -23,12 +24,7 @@ public:
     Label Label1{
         *this, "Label1", {.Caption = u"Clique sur le dernier mot qui est apparu.", .FontSize = 16, .Gras = true}};
     Tableau<Label> lblMot{*this, "lblMot", 10, {.BackColor = Blanc, .ForeColor = Bleu, .FontSize = 18}};
-    Tableau<Label> lblPoints{
-        *this,
-        "lblPoints",
-        {EtatInitial{.Caption = u"0", .BackColor = Jaune, .ForeColor = Rouge, .FontSize = 16, .Gras = true},
-         EtatInitial{.Caption = u"0", .BackColor = Jaune, .ForeColor = Rouge, .FontSize = 16, .Gras = true},
-         EtatInitial{.Caption = u" / ", .BackColor = Jaune, .ForeColor = Bleu, .FontSize = 16, .Gras = true}}};
+    Tableau<Label> lblPoints{*this, "lblPoints", EtatsDesPoints()};
     Button cmdContinuer{*this, "cmdContinuer", {.Caption = u"&Continuer", .Visible = false, .FontSize = 16}};
 
     Label lblPassage{*this, "lblPassage", {.Visible = false}}; // the last word that TirerMotTexte got

@@ -23,6 +23,9 @@ constexpr int Ecart = 90;            // twips, between slots
 frmSérie::frmSérie(frmExercices& choix)
     : Ecran(choix.ApplicationDe(), "frmSérie", u"Mémoriser une série"), choix_(choix)
 {
+    lblPoints(0).ToolTipText = u" Seul le score de la meilleure série est retenu. ";
+    lblPoints(1).ToolTipText = u" Seul le score de la meilleure série est retenu. ";
+    lblPoints(2).ToolTipText = u" Seul le score de la meilleur série est retenu. ";
     cmdVoir.Click = [this] { cmdVoir_Click(); };
     lblChoix.Click([this](int c) { lblChoix_Click(c); });
     cmdContinuer.Click = [this] { cmdContinuer_Click(); };
@@ -44,7 +47,7 @@ Arrangement frmSérie::Disposer()
     deuxColonnes.colonnes = 2;
     return Pile{
         Colonne{
-            Ligne{cmdVoir, cmdContinuer, Ressort{}, lblPoints(0), lblPoints(2), lblPoints(1)},
+            Ligne{cmdVoir, cmdContinuer, Ressort{}, BandeDePoints(lblPoints)},
             Extensible(Ligne{Extensible(cases), Extensible(Cadre{frameChoix, deuxColonnes})}),
             lblConsigne,
         },

@@ -2,6 +2,7 @@
 // words in their order. Three series at most, the best one counts.
 #pragma once
 #include "core/Ecran.h"
+#include "exercises/BandeDePoints.h"
 #include "followup/frmExercices.h"
 
 class frmSérie final : public Ecran {
@@ -24,26 +25,7 @@ public:
     Tableau<Label> lblChoix{
         *this, "lblChoix", 10, {.Visible = false, .BackColor = Blanc, .ForeColor = Bleu, .FontSize = TailleMots}};
     Label lblCompteur{*this, "lblCompteur", {.Caption = u"0", .Visible = false}};
-    Tableau<Label> lblPoints{*this,
-                             "lblPoints",
-                             {EtatInitial{.Caption = u"0",
-                                          .ToolTipText = u" Seul le score de la meilleure série est retenu. ",
-                                          .BackColor = Jaune,
-                                          .ForeColor = Rouge,
-                                          .FontSize = 16,
-                                          .Gras = true},
-                              EtatInitial{.Caption = u"0",
-                                          .ToolTipText = u" Seul le score de la meilleure série est retenu. ",
-                                          .BackColor = Jaune,
-                                          .ForeColor = Rouge,
-                                          .FontSize = 16,
-                                          .Gras = true},
-                              EtatInitial{.Caption = u" / ",
-                                          .ToolTipText = u" Seul le score de la meilleur série est retenu. ",
-                                          .BackColor = Jaune,
-                                          .ForeColor = Bleu,
-                                          .FontSize = 16,
-                                          .Gras = true}}};
+    Tableau<Label> lblPoints{*this, "lblPoints", EtatsDesPoints()};
     Button cmdVoir{*this, "cmdVoir", {.Caption = u"&Voir", .FontSize = 16}};
     Button cmdContinuer{*this, "cmdContinuer", {.Caption = u"Série suivante", .Visible = false, .FontSize = 16}};
 

@@ -43,8 +43,8 @@ Arrangement frmMotsEnDésordre::Disposer()
 {
     return Pile{
         Colonne{
-            Ligne{Label1, lblCoups, Ressort{}, Label3, lblEssais, Label4, lblEssaisMax, Ressort{}, lblPoints(0),
-                  lblPoints(2), lblPoints(1)},
+            Ligne{Label1, lblCoups, Ressort{}, Label3, lblEssais, Label4, lblEssaisMax, Ressort{},
+                  BandeDePoints(lblPoints)},
             lblConsigne,
             Extensible(Grille{ColonnesDeMots, lblMot}),
             AuMoins(0, 1600, txtPhrase),

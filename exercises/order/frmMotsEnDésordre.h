@@ -2,6 +2,7 @@
 // check costs a point and shows one more word of the sentence's beginning.
 #pragma once
 #include "core/Ecran.h"
+#include "exercises/BandeDePoints.h"
 #include "followup/frmExercices.h"
 
 class frmMotsEnDésordre final : public Ecran {
@@ -16,12 +17,7 @@ public:
     Label lblEssais{*this, "lblEssais", {.ForeColor = Rouge, .FontSize = 14, .Gras = true}};
     Label Label4{*this, "Label4", {.Caption = u" / ", .FontSize = 14}};
     Label lblEssaisMax{*this, "lblEssaisMax", {.FontSize = 14, .Gras = true}};
-    Tableau<Label> lblPoints{
-        *this,
-        "lblPoints",
-        {EtatInitial{.Caption = u"0", .BackColor = Jaune, .ForeColor = Rouge, .FontSize = 16, .Gras = true},
-         EtatInitial{.Caption = u"0", .BackColor = Jaune, .ForeColor = Rouge, .FontSize = 16, .Gras = true},
-         EtatInitial{.Caption = u" / ", .BackColor = Jaune, .ForeColor = Bleu, .FontSize = 16, .Gras = true}}};
+    Tableau<Label> lblPoints{*this, "lblPoints", EtatsDesPoints()};
     Label lblConsigne{*this,
                       "lblConsigne",
                       {.Caption = u"Clique sur les étiquettes pour placer les mots. Pour enlever un mot de la phrase, "

@@ -84,7 +84,7 @@ Arrangement frmPendu::Disposer()
     dessin.emplace_back(imgVisage);
     return Pile{
         Colonne{
-            ::Ligne{Extensible(Label1), lblPoints(0), lblPoints(2), lblPoints(1)},
+            ::Ligne{Extensible(Label1), BandeDePoints(lblPoints)},
             Extensible(::Ligne{
                 Extensible(Toile{LargeurDessin, HauteurDessin, std::move(dessin)}),
                 Extensible(Colonne{Ressort{}, AuMoins(4800, 900, lblMot), AuMoins(4800, 900, lblMotMaj), Ressort{},

@@ -1,6 +1,7 @@
 // Hangman: at most five words of the vocabulary, letter by letter. Ten wrong letters lose a word.
 #pragma once
 #include "core/Ecran.h"
+#include "exercises/BandeDePoints.h"
 #include "exercises/spelling/Visages.h"
 #include "followup/frmExercices.h"
 
@@ -12,12 +13,7 @@ public:
         *this,
         "Label1",
         {.Caption = u"Choisis un caractère en cliquant sur la lettre ou en utilisant le clavier.", .FontSize = 14}};
-    Tableau<Label> lblPoints{
-        *this,
-        "lblPoints",
-        {EtatInitial{.Caption = u"0", .BackColor = Jaune, .ForeColor = Rouge, .FontSize = 16, .Gras = true},
-         EtatInitial{.Caption = u"0", .BackColor = Jaune, .ForeColor = Rouge, .FontSize = 16, .Gras = true},
-         EtatInitial{.Caption = u" / ", .BackColor = Jaune, .ForeColor = Bleu, .FontSize = 16, .Gras = true}}};
+    Tableau<Label> lblPoints{*this, "lblPoints", EtatsDesPoints()};
     Tableau<Line> Ligne{*this, "Ligne", 10, {.Visible = false}};
     Image imgVisage{*this, "imgVisage"};
     Tableau<Image> imgRéf{*this, "imgRéf", NombreVisages, {.Visible = false}};

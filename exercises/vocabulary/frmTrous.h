@@ -1,5 +1,6 @@
 // Texte à trous: the words that the teacher has marked give way to gaps; the pupil puts them back from a list.
 #pragma once
+#include "exercises/BandeDePoints.h"
 #include "exercises/Lacunes.h"
 
 class frmTrous final : public Ecran {
@@ -9,11 +10,7 @@ public:
     RichTextBox rtfTrous{*this, "rtfTrous", {.Visible = false}};
     ComboBox cmbTrous{*this, "cmbTrous", {.Caption = u" Liste des mots enlevés ", .FontSize = 16, .Sorted = true}};
     Button cmdOk{*this, "cmdOk", {.Caption = u"&Ok", .FontSize = 16}};
-    Tableau<Label> lblPoints{*this,
-                             "lblPoints",
-                             {EtatInitial{.Caption = u"0", .BackColor = Jaune, .ForeColor = Rouge, .FontSize = 16},
-                              EtatInitial{.Caption = u"0", .BackColor = Jaune, .ForeColor = Rouge, .FontSize = 16},
-                              EtatInitial{.Caption = u" / ", .BackColor = Jaune, .ForeColor = Bleu, .FontSize = 16}}};
+    Tableau<Label> lblPoints{*this, "lblPoints", EtatsDesPoints()};
     Frame frameFin{*this, "frameFin", {.Caption = u"Texte complété", .Visible = false, .BackColor = BleuClair}};
     TextBox Text1{*this, "Text1", {.Caption = u"C'est fini !", .FontSize = 24, .Centré = true}};
     Button cmdQuitter{*this, "cmdQuitter", {.Caption = u"&Quitter", .FontSize = 16}};
@@ -32,7 +29,7 @@ private:
     void OuvrirTrous(const std::vector<Lacune>& trous);
 
     frmExercices& choix_;
-    const JeuDeLacunes jeu_{choix_, rtfTrous, cmbTrous, lblPoints, frameFin};
+    const JeuDeLacunes jeu_{choix_, rtfTrous, cmbTrous, lblPoints, frameFin, cmdQuitter};
 };
 
 // Each unbroken run of struck-through characters, whatever it holds; a run that ends the text ends with it.

@@ -1,0 +1,22 @@
+#include "exercises/BandeDePoints.h"
+
+namespace {
+
+constexpr int LargeurCompte = 600; // twips, room for two digits
+
+} // namespace
+
+std::vector<EtatInitial> EtatsDesPoints(double taille)
+{
+    const EtatInitial compte{
+        .Caption = u"0", .BackColor = Jaune, .ForeColor = Rouge, .FontSize = taille, .Gras = true, .Centré = true};
+    auto séparateur = compte;
+    séparateur.Caption = u" / ";
+    séparateur.ForeColor = Bleu;
+    return {compte, compte, séparateur};
+}
+
+Arrangement BandeDePoints(Tableau<Label>& lblPoints)
+{
+    return Ligne{AuMoins(LargeurCompte, 0, lblPoints(0)), lblPoints(2), AuMoins(LargeurCompte, 0, lblPoints(1))};
+}
