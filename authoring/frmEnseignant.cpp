@@ -66,18 +66,10 @@ frmEnseignant::frmEnseignant(frmTirelune& accueil)
     framePolices.Height = HauteurListe;
     Fond = Dégradé();
 
-    tlbBoutons.ButtonClick = [this](std::string_view clé) {
-        tlbBoutons_ButtonClick(clé);
-    };
-    rtfTexte.Change = [this] {
-        rtfTexte_Change();
-    };
-    rtfTexte.SelChange = [this] {
-        rtfTexte_SelChange();
-    };
-    rtfTexte.Click = [this] {
-        FermerPolices();
-    };
+    tlbBoutons.ButtonClick = [this](std::string_view clé) { tlbBoutons_ButtonClick(clé); };
+    rtfTexte.Change = [this] { rtfTexte_Change(); };
+    rtfTexte.SelChange = [this] { rtfTexte_SelChange(); };
+    rtfTexte.Click = [this] { FermerPolices(); };
     RelierMenus();
     RelierPolices();
 }
@@ -116,9 +108,7 @@ void frmEnseignant::RelierMenus()
     };
     for (const auto& liaison : liaisons) {
         liaison.Option.Raccourci = liaison.Raccourci;
-        liaison.Option.Click = [this, faire = liaison.Faire] {
-            (this->*faire)();
-        };
+        liaison.Option.Click = [this, faire = liaison.Faire] { (this->*faire)(); };
     }
     mnuRécent.Click([this](int i) { mnuRécent_Click(i); });
 }
@@ -128,28 +118,14 @@ void frmEnseignant::RelierPolices()
     for (auto& ligne : txtPolices)
         ligne.Locked = true;
     for (int i = 1; i <= NombreLignes; ++i) {
-        txtPolices(i).Click = [this, i] {
-            txtPolices_Click(i);
-        };
-        txtPolices(i).MouseMove = [this, i] {
-            MettreEnEvidence(i);
-        };
-        txtPolices(i).KeyPress = [this, i](Touche& touche) {
-            txtPolices_KeyPress(i, touche);
-        };
+        txtPolices(i).Click = [this, i] { txtPolices_Click(i); };
+        txtPolices(i).MouseMove = [this, i] { MettreEnEvidence(i); };
+        txtPolices(i).KeyPress = [this, i](Touche& touche) { txtPolices_KeyPress(i, touche); };
     }
-    flèchePolice.Click = [this] {
-        flèchePolice_Click();
-    };
-    scrlPolices.Change = [this] {
-        scrlPolices_Change();
-    };
-    cmbFontSize.Click = [this] {
-        cmbFontSize_Click();
-    };
-    cmbFontSize.Enter = [this] {
-        cmbFontSize_Click();
-    };
+    flèchePolice.Click = [this] { flèchePolice_Click(); };
+    scrlPolices.Change = [this] { scrlPolices_Change(); };
+    cmbFontSize.Click = [this] { cmbFontSize_Click(); };
+    cmbFontSize.Enter = [this] { cmbFontSize_Click(); };
 }
 
 std::vector<Menu> frmEnseignant::Menus()
@@ -723,9 +699,7 @@ void frmEnseignant::ActualiserFormat()
     MontrerEtat("btnSouligné", mnuSouligné, rtfTexte.SelUnderline());
     MontrerEtat("btnItalique", mnuItalique, rtfTexte.SelItalic());
     const auto alignement = rtfTexte.SelAlignment();
-    const auto est = [&](Alignement un) {
-        return alignement ? std::optional{*alignement == un} : std::nullopt;
-    };
+    const auto est = [&](Alignement un) { return alignement ? std::optional{*alignement == un} : std::nullopt; };
     MontrerEtat("btnGauche", mnuGauche, est(Alignement::Gauche));
     MontrerEtat("btnCentrer", mnuCentre, est(Alignement::Centre));
     MontrerEtat("btnDroite", mnuDroite, est(Alignement::Droite));

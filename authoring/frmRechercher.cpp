@@ -6,24 +6,12 @@ frmRechercher::frmRechercher(Application& application, RichTextBox& rtfTexte, Ri
     : Ecran(application, "frmRechercher", u"Rechercher"), rtfTexte_(rtfTexte), rtfSauve_(rtfSauve)
 {
     PetiteFenêtre = true;
-    cmdSuivant.Click = [this] {
-        cmdSuivant_Click();
-    };
-    cmdRemplacer.Click = [this] {
-        cmdRemplacer_Click();
-    };
-    cmdToutRemplacer.Click = [this] {
-        cmdToutRemplacer_Click();
-    };
-    cmdFermer.Click = [this] {
-        Décharger();
-    };
-    txtRechercher.Enter = [this] {
-        cmdSuivant_Click();
-    };
-    txtRemplacer.Enter = [this] {
-        cmdRemplacer_Click();
-    };
+    cmdSuivant.Click = [this] { cmdSuivant_Click(); };
+    cmdRemplacer.Click = [this] { cmdRemplacer_Click(); };
+    cmdToutRemplacer.Click = [this] { cmdToutRemplacer_Click(); };
+    cmdFermer.Click = [this] { Décharger(); };
+    txtRechercher.Enter = [this] { cmdSuivant_Click(); };
+    txtRemplacer.Enter = [this] { cmdRemplacer_Click(); };
 }
 
 Arrangement frmRechercher::Disposer()

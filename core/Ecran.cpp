@@ -44,7 +44,6 @@ void Ecran::Ranger(const Arrangement& place, const Elément* conteneur)
 
 void Ecran::Activer()
 {
-    activé_ = true;
     if (chargé_)
         Activate();
 }

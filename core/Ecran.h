@@ -49,7 +49,6 @@ public:
     bool Taper(Touche touche);
     void Décharger();
     [[nodiscard]] bool EstChargé() const { return chargé_; }
-    [[nodiscard]] bool EstActif() const { return chargé_ && activé_; }
 
     [[nodiscard]] Application& ApplicationDe() const { return application_; }
     [[nodiscard]] const Arrangement& Disposition_() const { return arrangement_; }
@@ -98,7 +97,6 @@ private:
     void Ranger(const Arrangement& place, const Elément* conteneur);
 
     bool chargé_ = false;
-    bool activé_ = false;
     Elément* focus_ = nullptr;
     std::vector<Elément*> éléments_;
     std::vector<Timer*> minuteries_;

@@ -66,6 +66,18 @@ void Appeler(const std::function<void()>& événement)
         événement();
 }
 
+// The key goes through KeyPress; Enter goes on to Enter. False: the key was thrown away.
+bool Frapper(Touche touche, const std::function<void(Touche&)>& KeyPress, const std::function<void()>& Enter)
+{
+    if (KeyPress)
+        KeyPress(touche);
+    if (!touche.Avalée && touche.Code == Touche::Entrée && Enter) {
+        touche.Avaler();
+        Enter();
+    }
+    return !touche.Avalée;
+}
+
 } // namespace
 
 Légendé::Légendé(Ecran& écran, std::string_view nom, const EtatInitial& initial)
@@ -158,13 +170,7 @@ void TextBox::DoubleCliquer(std::size_t position)
 
 bool TextBox::Taper(Touche touche)
 {
-    if (KeyPress)
-        KeyPress(touche);
-    if (!touche.Avalée && touche.Code == Touche::Entrée && Enter) {
-        touche.Avaler();
-        Enter();
-    }
-    return !touche.Avalée;
+    return Frapper(touche, KeyPress, Enter);
 }
 
 // ---- Lists ---------------------------------------------------------------------------------------------------
@@ -263,13 +269,7 @@ void ComboBox::Saisir(Texte texte)
 
 bool ComboBox::Taper(Touche touche)
 {
-    if (KeyPress)
-        KeyPress(touche);
-    if (!touche.Avalée && touche.Code == Touche::Entrée && Enter) {
-        touche.Avaler();
-        Enter();
-    }
-    return !touche.Avalée;
+    return Frapper(touche, KeyPress, Enter);
 }
 
 // ---- Files and folders -----------------------------------------------------------------------------------------

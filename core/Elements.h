@@ -449,9 +449,7 @@ public:
     void Click(const std::function<void(int)>& clic)
     {
         for (int i = 0; i < Nombre(); ++i)
-            (*this)(i).Click = [clic, i] {
-                clic(i);
-            };
+            (*this)(i).Click = [clic, i] { clic(i); };
     }
 
 private:

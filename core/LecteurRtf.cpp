@@ -84,9 +84,7 @@ unsigned PremiersSimples(const char* octets)
     constexpr std::uint64_t Uns = 0x0101010101010101U;
     std::uint64_t huit = 0;
     std::memcpy(&huit, octets, sizeof huit);
-    const auto sous = [huit](std::uint64_t borne) {
-        return (huit - borne * Uns) & ~huit;
-    };
+    const auto sous = [huit](std::uint64_t borne) { return (huit - borne * Uns) & ~huit; };
     const auto égal = [huit](char c) {
         const auto écart = huit ^ (static_cast<unsigned char>(c) * Uns);
         return (écart - Uns) & ~écart;

@@ -121,9 +121,10 @@ void TexteRiche::Remplacer(std::size_t début, std::size_t longueur, VueTexte no
 
 void TexteRiche::Transcrire(Texte nouveaux)
 {
-    assert(std::equal(texte_.begin(), texte_.end(), nouveaux.begin(), nouveaux.end(), [](char16_t avant, char16_t après) {
-        return avant == après || !(avant == u'\r' || avant == u'\n' || après == u'\r' || après == u'\n');
-    }));
+    assert(
+        std::equal(texte_.begin(), texte_.end(), nouveaux.begin(), nouveaux.end(), [](char16_t avant, char16_t après) {
+            return avant == après || !(avant == u'\r' || avant == u'\n' || après == u'\r' || après == u'\n');
+        }));
     texte_ = std::move(nouveaux);
 }
 

@@ -28,27 +28,13 @@ frmTirelune::frmTirelune(Application& application)
               u"Une banque de textes régulièrement mise à jour est disponible sur le site suivant :",
               u"tirelune.example/textes", u"Pour nous écrire : bonjour@tirelune.example"})
 {
-    mnuElève.Click = [this] {
-        Ouvrir("frmExercices");
-    };
-    mnuEnseignant.Click = [this] {
-        mnuEnseignant_Click();
-    };
-    mnuQuitter.Click = [this] {
-        application_.plateforme.Terminer();
-    };
-    cmdCode.Click = [this] {
-        cmdCode_Click();
-    };
-    txtCodeEnseignant.Enter = [this] {
-        cmdCode_Click();
-    };
-    txtVérificationCode.Enter = [this] {
-        cmdCode_Click();
-    };
-    cmdAnnuler.Click = [this] {
-        cmdAnnuler_Click();
-    };
+    mnuElève.Click = [this] { Ouvrir("frmExercices"); };
+    mnuEnseignant.Click = [this] { mnuEnseignant_Click(); };
+    mnuQuitter.Click = [this] { application_.plateforme.Terminer(); };
+    cmdCode.Click = [this] { cmdCode_Click(); };
+    txtCodeEnseignant.Enter = [this] { cmdCode_Click(); };
+    txtVérificationCode.Enter = [this] { cmdCode_Click(); };
+    cmdAnnuler.Click = [this] { cmdAnnuler_Click(); };
 }
 
 std::vector<Menu> frmTirelune::Menus()
@@ -130,6 +116,8 @@ void frmTirelune::DéfinirCode(const Texte& fichier)
         return;
     const auto contenu = ComposerChamps({txtCodeEnseignant.Text});
     if (const auto échec = application_.plateforme.Réécrire(EnChemin(fichier), *contenu)) {
+        std::error_code ignorée; // half a file would be a code that nobody has typed
+        std::filesystem::remove(EnChemin(fichier), ignorée);
         Avertir(MessageEchec(*échec, fichier));
         return;
     }

@@ -233,6 +233,7 @@ Bouton::Bouton(QWidget* parent) : QPushButton(parent)
     setSizePolicy(QSizePolicy::Minimum, QSizePolicy::Fixed);
     setCursor(Qt::PointingHandCursor);
     setAttribute(Qt::WA_InputMethodEnabled);
+    setAutoDefault(true); // Enter presses the button that has the focus, in a screen as in a box
 }
 
 QSize Bouton::sizeHint() const

@@ -21,6 +21,16 @@ double EchelleDe(const QWidget* parent)
     return fenêtre != nullptr ? fenêtre->Echelle() : 1;
 }
 
+// A mark that French sets off with a blank stays on the line of the word before it.
+QString SansCoupureFautive(QString texte)
+{
+    for (qsizetype i = 1; i < texte.size(); ++i) {
+        if (texte[i - 1] == u' ' && QStringLiteral("!?:;»").contains(texte[i]))
+            texte[i - 1] = QChar::Nbsp;
+    }
+    return texte;
+}
+
 } // namespace
 
 // ---- Message boxes ---------------------------------------------------------------------------------------------
@@ -31,8 +41,7 @@ BoîteMessage::BoîteMessage(const Boîte& boîte, QWidget* parent) : QMessageBo
     setFont(PolicePour({}, 0, false, échelle));
     setTextFormat(Qt::PlainText);
     setWindowTitle(EnQString(boîte.Titre));
-    auto texte = EnQString(boîte.Message);
-    setText(texte.remove(u'\r'));
+    setText(SansCoupureFautive(EnQString(boîte.Message).remove(u'\r')));
     setIcon(boîte.Symbole == Icône::Critique   ? QMessageBox::Critical
             : boîte.Symbole == Icône::Question ? QMessageBox::Question
                                                : QMessageBox::Information);

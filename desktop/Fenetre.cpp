@@ -105,9 +105,7 @@ Fenêtre::~Fenêtre()
 void Fenêtre::Observer()
 {
     for (const auto& vue : vues_)
-        vue->élément.Observateur = [this, une = vue.get()] {
-            Marquer(*une);
-        };
+        vue->élément.Observateur = [this, une = vue.get()] { Marquer(*une); };
     sales_.clear();
     for (const auto& vue : vues_)
         sales_.push_back(vue.get());
@@ -356,27 +354,25 @@ Fenêtre::Place Fenêtre::BâtirGrille(const Arrangement& place, QWidget* parent
 
 Fenêtre::Place Fenêtre::BâtirCadre(const Arrangement& place, QWidget* parent, bool garder)
 {
-    auto& vue = Créer(place.élément, parent);
-    Remplir(vue.widget, place.enfants.front());
-    if (auto* panneau = dynamic_cast<Panneau*>(vue.widget))
-        panneau->AjusterMarges();
+    auto& panneau = dynamic_cast<Panneau&>(*Créer(place.élément, parent).widget);
+    Remplir(&panneau, place.enfants.front());
+    panneau.AjusterMarges();
     if (garder)
-        GarderPlace(*vue.widget);
-    return {vue.widget, nullptr};
+        GarderPlace(panneau);
+    return {&panneau, nullptr};
 }
 
 void Fenêtre::BâtirCouverture(const Arrangement& place)
 {
     auto& vue = Créer(place.élément, contenu_);
     couvertures_.push_back(&vue);
+    auto& panneau = dynamic_cast<Panneau&>(*vue.widget);
     const Arrangement milieu{Centré{place.enfants.front()}};
-    Remplir(vue.widget, milieu);
-    if (auto* panneau = dynamic_cast<Panneau*>(vue.widget)) {
-        panneau->couvrant = true;
-        panneau->AjusterMarges();
-    }
-    vue.widget->layout()->setSizeConstraint(QLayout::SetNoConstraint);
-    vue.widget->hide();
+    Remplir(&panneau, milieu);
+    panneau.couvrant = true;
+    panneau.AjusterMarges();
+    panneau.layout()->setSizeConstraint(QLayout::SetNoConstraint);
+    panneau.hide();
 }
 
 Fenêtre::Place Fenêtre::BâtirLibre(const Arrangement& place, QWidget* parent)
@@ -419,9 +415,7 @@ Fenêtre::Place Fenêtre::BâtirToile(const Arrangement& place, QWidget* parent)
         auto* vue = enfant.élément != nullptr ? VueDe(*enfant.élément) : nullptr;
         if (vue == nullptr || vue->widget == nullptr)
             continue;
-        vue->échelle = [toile] {
-            return toile->Facteur();
-        };
+        vue->échelle = [toile] { return toile->Facteur(); };
         toile->Ajouter(*vue);
     }
     toile->étendue = [this, toile] {

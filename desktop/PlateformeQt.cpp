@@ -102,12 +102,8 @@ void PlateformeQt::MontrerDialogue(QDialog& dialogue)
     auto* devant = Devant();
     if (devant != nullptr)
         devant->Synchroniser();
-    const Séjour séjour{*this,
-                        {devant != nullptr ? &devant->EcranDe() : nullptr, nullptr,
-                         [&dialogue] {
-                             dialogue.reject();
-                         }},
-                        false};
+    const Séjour séjour{
+        *this, {devant != nullptr ? &devant->EcranDe() : nullptr, nullptr, [&dialogue] { dialogue.reject(); }}, false};
     dialogue.exec();
 }
 
@@ -244,12 +240,7 @@ void PlateformeQt::AfficherModal(Ecran& écran)
         Fenêtre fenêtre{*this, écran};
         fenêtres_.push_back(&fenêtre);
         QEventLoop boucle;
-        const Séjour séjour{*this,
-                            {&écran, nullptr,
-                             [&boucle] {
-                                 boucle.quit();
-                             }},
-                            false};
+        const Séjour séjour{*this, {&écran, nullptr, [&boucle] { boucle.quit(); }}, false};
         const bool activé = std::exchange(fondDAbord_, false);
         if (activé)
             MontrerFond(fenêtre);
@@ -275,12 +266,7 @@ void PlateformeQt::MontrerFond(Fenêtre& fenêtre)
     fenêtre.MontrerFond();
     fenêtre.EcranDe().Activer(); // it may say what the background is
     jusquAuFond_ = &boucle;
-    const Séjour séjour{*this,
-                        {&fenêtre.EcranDe(), nullptr,
-                         [&boucle] {
-                             boucle.quit();
-                         }},
-                        true};
+    const Séjour séjour{*this, {&fenêtre.EcranDe(), nullptr, [&boucle] { boucle.quit(); }}, true};
     QTimer::singleShot(Patience, &boucle, [&boucle] { boucle.quit(); });
     if (!fenêtre.Fermée())
         boucle.exec();
@@ -329,12 +315,7 @@ bool PlateformeQt::Attendre(Ecran& écran, std::chrono::milliseconds durée)
     Repeindre(écran);
     {
         QEventLoop boucle;
-        const Séjour séjour{*this,
-                            {&écran, nullptr,
-                             [&boucle] {
-                                 boucle.quit();
-                             }},
-                            true};
+        const Séjour séjour{*this, {&écran, nullptr, [&boucle] { boucle.quit(); }}, true};
         QTimer fin;
         fin.setTimerType(Qt::PreciseTimer);
         fin.setSingleShot(true);
@@ -358,12 +339,7 @@ bool PlateformeQt::AttendreArrêt(Timer& minuterie)
     if (minuterie.EnMarche()) {
         Armer(minuterie);
         QEventLoop boucle;
-        const Séjour séjour{*this,
-                            {&écran, &minuterie,
-                             [&boucle] {
-                                 boucle.quit();
-                             }},
-                            false};
+        const Séjour séjour{*this, {&écran, &minuterie, [&boucle] { boucle.quit(); }}, false};
         boucle.exec();
     }
     return écran.EstChargé() && !terminé_;

@@ -45,6 +45,15 @@ Texte FichierBilan(VueTexte dossier, VueTexte nomElève)
     return Joindre(dossier, Texte{nomElève} + u".bil");
 }
 
+std::optional<Texte> CopierBilan(const Texte& fichier, VueTexte suffixe)
+{
+    Texte copie;
+    std::error_code erreur;
+    for (int numéro = 1; copie.empty() || std::filesystem::exists(EnChemin(copie), erreur); ++numéro)
+        copie = Texte{fichier}.append(suffixe) + EnTexte(static_cast<long long>(numéro));
+    return std::filesystem::copy_file(EnChemin(fichier), EnChemin(copie), erreur) ? std::optional{copie} : std::nullopt;
+}
+
 bool RéessayerRéseau(Application& application)
 {
     return application.plateforme.AfficherBoîte({.Message =
@@ -124,6 +133,22 @@ std::string ComposerBilan(const Grid& grille)
     return *octets;
 }
 
+// A file that this grid was neither read from nor written to has results of its own, from when the other folder was
+// out of reach: they stay under another name. False: they could not be copied, and must not be replaced.
+bool GarderAutresRésultats(frmExercices& choix, const Texte& fichier)
+{
+    std::error_code erreur;
+    const bool plein = std::filesystem::file_size(EnChemin(fichier), erreur) > 0 && !erreur;
+    if (!plein || choix.BilansConnus.contains(fichier))
+        return true;
+    const auto copie = CopierBilan(fichier, u".autre");
+    choix.ApplicationDe().Avertir(
+        u"Le fichier des résultats\n" + fichier + u"\ncontient d'autres résultats.\n\n" +
+        (copie ? u"Ils sont gardés sous le nom\n" + *copie
+               : Texte{u"Ils n'ont pas pu être copiés : rien n'a été enregistré. Prévenez votre enseignant."}));
+    return copie.has_value();
+}
+
 // The file could not be opened: asks where to go on. False: nowhere.
 bool ChangerDeDossier(frmExercices& choix)
 {
@@ -148,8 +173,11 @@ bool SauverBilan(frmExercices& choix)
     choix.BilanEnregistré = false;
     for (;;) {
         const auto fichier = FichierBilan(état.CheminBilans, état.NomElève);
+        if (!GarderAutresRésultats(choix, fichier))
+            return false;
         const auto échec = application.plateforme.Réécrire(EnChemin(fichier), contenu);
         if (!échec) {
+            choix.BilansConnus.insert(fichier);
             choix.BilanEnregistré = true;
             return true;
         }

@@ -6,7 +6,6 @@
 #include <optional>
 
 class Application;
-class Ecran;
 class frmExercices;
 class Label;
 
@@ -47,6 +46,10 @@ Texte NoteCourte(VueTexte note);
 
 // Path of the pupil's file in a folder.
 Texte FichierBilan(VueTexte dossier, VueTexte nomElève);
+
+// Copies a pupil's file beside itself, under its name, `suffixe` and the first number that is free: the copy's name.
+// Nothing when it can't be copied.
+std::optional<Texte> CopierBilan(const Texte& fichier, VueTexte suffixe);
 
 // The box for a pupils' folder out of reach. True: try again; false: go on in the program's own folder.
 bool RéessayerRéseau(Application& application);

@@ -16,9 +16,7 @@ frmCodeCouleur::frmCodeCouleur(frmExercices& choix)
         lblExo(i).BackColor = teinte;
         lblMoyenne(i).BackColor = teinte;
     }
-    cmdQuitter.Click = [this] {
-        Décharger();
-    };
+    cmdQuitter.Click = [this] { Décharger(); };
 }
 
 Arrangement frmCodeCouleur::Disposer()

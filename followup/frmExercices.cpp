@@ -13,7 +13,6 @@ constexpr std::size_t CaractèresMinimum = 250;
 constexpr int IndexQuestionnaire1 = 0;
 constexpr int IndexQuestionnaire2 = 1;
 constexpr VueTexte AFaire = u" A faire ";
-constexpr VueTexte SansQuestionnaire = u"Je ne trouve pas de questionnaire associé au texte !";
 
 // A small picture of curves on their axes.
 Dessin Courbes()
@@ -65,29 +64,17 @@ frmExercices::frmExercices(Application& application)
 {
     for (int i = 0; i < NombreExercices; ++i)
         lblExo(i).Caption = Texte{Exercices[static_cast<std::size_t>(i)].libellé};
-    cmdOk.Click = [this] {
-        cmdOk_Click();
-    };
-    cmdCharger.Click = [this] {
-        cmdCharger_Click();
-    };
-    cmbTextes.Click = [this] {
-        cmbTextes_Click();
-    };
+    cmdOk.Click = [this] { cmdOk_Click(); };
+    cmdCharger.Click = [this] { cmdCharger_Click(); };
+    cmbTextes.Click = [this] { cmbTextes_Click(); };
     lblExo.Click([this](int i) { lblExo_Click(i); });
     for (int groupe = 0; groupe < imgCourbes.Nombre(); ++groupe) {
-        CadreDe(groupe).Click = [this, groupe] {
-            Progression_Click(groupe);
-        };
+        CadreDe(groupe).Click = [this, groupe] { Progression_Click(groupe); };
         imgCourbes(groupe).Picture = Courbes();
     }
     imgCourbes.Click([this](int i) { Progression_Click(i); });
-    cmdCode.Click = [this] {
-        Ouvrir("frmCodeCouleur");
-    };
-    cmdQuitter.Click = [this] {
-        Décharger();
-    };
+    cmdCode.Click = [this] { Ouvrir("frmCodeCouleur"); };
+    cmdQuitter.Click = [this] { QueryUnload(); };
 }
 
 Frame& frmExercices::CadreDe(int groupe)
@@ -131,18 +118,13 @@ void frmExercices::Load()
     frameElève.Visible = true;
 }
 
-void frmExercices::Unload()
+void frmExercices::QueryUnload()
 {
-    if (!BilanEnregistré) // a save has failed since: the grid goes now, so try once more
-        SauverBilan(*this);
-}
-
-void frmExercices::Resize()
-{
-    frameElève.Left = 0;
-    frameElève.Top = 0;
-    frameElève.Width = Width;
-    frameElève.Height = Height;
+    // The grid goes with the screen: after a save that failed, this is the last one.
+    if (BilanEnregistré || SauverBilan(*this) ||
+        application_.Demander(u"Les derniers résultats ne sont pas enregistrés et seront perdus.\n"
+                              u"Souhaitez-vous quitter quand même ?"))
+        Décharger();
 }
 
 void frmExercices::ListerElèves()
@@ -155,20 +137,35 @@ void frmExercices::ListerElèves()
 void frmExercices::cmdOk_Click()
 {
     état.NomElève = cmbNoms.Text;
+    const auto champs = LireBilan();
+    if (!champs)
+        return; // the first save would replace what can't be read now
     AjouterNomElève();
-    ChargerBilan();
+    ChargerBilan(*champs);
     frameElève.Visible = false;
 }
 
 // ---- The pupil's results ---------------------------------------------------------------------------------------
 
-void frmExercices::ChargerBilan()
+// No fields where the pupil has no file. Nothing, which the pupil is told, when it is there and can't be read.
+std::optional<std::vector<Texte>> frmExercices::LireBilan()
 {
     const auto fichier = FichierBilan(état.CheminBilans, état.NomElève);
-    if (const auto champs = LireChamps(EnChemin(fichier), Valeurs::SurUneLigne))
-        RangerChamps(*champs);
-    else if (std::error_code erreur; std::filesystem::exists(EnChemin(fichier), erreur))
-        Avertir(u"Impossible de lire le fichier\n" + fichier);
+    if (auto champs = LireChamps(EnChemin(fichier), Valeurs::SurUneLigne)) {
+        BilansConnus.insert(fichier);
+        return champs;
+    }
+    std::error_code erreur;
+    const bool absent = !std::filesystem::exists(EnChemin(fichier), erreur) && !erreur;
+    if (absent && std::filesystem::is_directory(EnChemin(état.CheminBilans), erreur))
+        return std::vector<Texte>{};
+    Avertir(u"Impossible de lire le fichier\n" + fichier);
+    return std::nullopt;
+}
+
+void frmExercices::ChargerBilan(const std::vector<Texte>& champs)
+{
+    RangerChamps(champs);
     CalculerMoyennes();
     PeindreMoyennes();
     if (cmbTextes.ListCount() == 0)
@@ -180,9 +177,7 @@ void frmExercices::ChargerBilan()
 void frmExercices::RangerChamps(const std::vector<Texte>& champs)
 {
     // A cell is written trimmed: what would then open a record opens one now.
-    const auto ouvre = [](const Texte& champ) {
-        return Rogner(champ) == Marqueur;
-    };
+    const auto ouvre = [](const Texte& champ) { return Rogner(champ) == Marqueur; };
     const auto textes = static_cast<int>(std::count_if(champs.begin(), champs.end(), ouvre));
     fgRésultats.Rows(textes + 1);
     std::vector<Texte> titres;
@@ -206,7 +201,7 @@ void frmExercices::RangerChamps(const std::vector<Texte>& champs)
     }
     cmbTextes.AddItems(std::move(titres));
     if (abîmé)
-        GarderCopie();
+        GarderBilanAbîmé();
 }
 
 // A score may come from a machine with another decimal separator; this machine's own is what gets written.
@@ -221,16 +216,12 @@ Texte frmExercices::AvecSéparateur(Texte champ, int colonne) const
 }
 
 // Some of the file has no place in the grid: the next save would lose it, so the file stays under another name.
-void frmExercices::GarderCopie()
+void frmExercices::GarderBilanAbîmé()
 {
     const auto fichier = FichierBilan(état.CheminBilans, état.NomElève);
-    Texte copie;
-    std::error_code erreur;
-    for (int numéro = 1; copie.empty() || std::filesystem::exists(EnChemin(copie), erreur); ++numéro)
-        copie = fichier + u".abîmé" + EnTexte(static_cast<long long>(numéro));
-    const bool copié = std::filesystem::copy_file(EnChemin(fichier), EnChemin(copie), erreur);
+    const auto copie = CopierBilan(fichier, u".abîmé");
     Avertir(u"Le fichier des résultats\n" + fichier + u"\nest abîmé. Ce qui est lisible a été lu.\n\n" +
-            (copié ? u"Le fichier tel qu'il était est gardé sous le nom\n" + copie
+            (copie ? u"Le fichier tel qu'il était est gardé sous le nom\n" + *copie
                    : Texte{u"Il n'a pas pu être copié : prévenez votre enseignant avant de continuer."}));
 }
 
@@ -385,16 +376,19 @@ void frmExercices::OuvrirExercice(int i)
         Avertir(u"Tu dois faire l'exercice - QUESTIONNAIRE 1 - avant tous les autres.");
         return;
     }
-    if (i == IndexQuestionnaire2) {
-        VérifQuestions(état, lblTexte.Caption);
-        if (!état.QuestionnaireExiste) {
-            Avertir(Texte{SansQuestionnaire});
-            return;
-        }
-    }
+    if (i == IndexQuestionnaire2 && !TrouverQuestionnaire())
+        return;
     const auto& [libellé, écran] = Exercices.at(static_cast<std::size_t>(i));
     if (!Ouvrir(écran))
         Avertir(u"L'exercice « " + Texte{libellé} + u" » n'est pas encore là.");
+}
+
+bool frmExercices::TrouverQuestionnaire()
+{
+    VérifQuestions(état, lblTexte.Caption);
+    if (!état.QuestionnaireExiste)
+        Avertir(u"Je ne trouve pas de questionnaire associé au texte !");
+    return état.QuestionnaireExiste;
 }
 
 void frmExercices::Progression_Click(int groupe)

@@ -4,6 +4,8 @@
 #include "core/Ecran.h"
 #include "followup/Exercices.h"
 
+#include <set>
+
 class frmExercices final : public Ecran {
 public:
     explicit frmExercices(Application& application);
@@ -38,15 +40,17 @@ public:
     ComboBox cmbVocabulaire{*this, "cmbVocabulaire", {.Visible = false, .Sorted = true}};
     Label lblIndex{*this, "lblIndex", {.Visible = false}};
 
-    bool BilanEnregistré = true; // the grid is on the disk
+    bool BilanEnregistré = true;  // the grid is on the disk
+    std::set<Texte> BilansConnus; // the files that it was read from or written to
 
     // Shows in lblExo how the text of a grid row has been worked on.
     void PeindreTexte(int rangée);
+    // Whether the text has questions; when it has none, the pupil is told.
+    [[nodiscard]] bool TrouverQuestionnaire();
 
 private:
     void Load() override;
-    void Unload() override;
-    void Resize() override;
+    void QueryUnload() override;
     Arrangement Disposer() override;
 
     void cmdOk_Click();
@@ -56,10 +60,11 @@ private:
     void Progression_Click(int groupe);
 
     void ListerElèves();
-    void ChargerBilan();
+    [[nodiscard]] std::optional<std::vector<Texte>> LireBilan();
+    void ChargerBilan(const std::vector<Texte>& champs);
     void RangerChamps(const std::vector<Texte>& champs);
     [[nodiscard]] Texte AvecSéparateur(Texte champ, int colonne) const;
-    void GarderCopie();
+    void GarderBilanAbîmé();
     void CalculerMoyennes();
     void PeindreMoyennes();
     void MontrerRésultats(const Texte& titre);

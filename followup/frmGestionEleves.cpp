@@ -34,41 +34,19 @@ void GarderChiffres(TextBox& boîte)
 frmGestionEleves::frmGestionEleves(Application& application)
     : Ecran(application, "frmGestionEleves", u"Gestion du fichier \"élèves\"")
 {
-    cmbNoms.Click = [this] {
-        cmbNoms_Click();
-    };
-    cmdAjouter.Click = [this] {
-        cmdAjouter_Click();
-    };
-    cmdAnnuler.Click = [this] {
-        cmdAnnuler_Click();
-    };
-    cmdSupprimer.Click = [this] {
-        cmdSupprimer_Click();
-    };
-    cmdCheminRéseau.Click = [this] {
-        cmdCheminRéseau_Click();
-    };
-    cmdValiderCheminRéseau.Click = [this] {
-        cmdValiderCheminRéseau_Click();
-    };
-    cmdQuitter.Click = [this] {
-        Décharger();
-    };
-    drvLecteurs.Change = [this] {
-        drvLecteurs_Change();
-    };
-    txtNom.Enter = [this] {
-        txtNom_Enter();
-    };
+    cmbNoms.Click = [this] { cmbNoms_Click(); };
+    cmdAjouter.Click = [this] { cmdAjouter_Click(); };
+    cmdAnnuler.Click = [this] { cmdAnnuler_Click(); };
+    cmdSupprimer.Click = [this] { cmdSupprimer_Click(); };
+    cmdCheminRéseau.Click = [this] { cmdCheminRéseau_Click(); };
+    cmdValiderCheminRéseau.Click = [this] { cmdValiderCheminRéseau_Click(); };
+    cmdQuitter.Click = [this] { Décharger(); };
+    drvLecteurs.Change = [this] { drvLecteurs_Change(); };
+    txtNom.Enter = [this] { txtNom_Enter(); };
     txtCode.KeyPress = ChiffresSeuls;
     txtVérif.KeyPress = ChiffresSeuls;
-    txtCode.Change = [this] {
-        txtCode_Change();
-    };
-    txtVérif.Change = [this] {
-        txtVérif_Change();
-    };
+    txtCode.Change = [this] { txtCode_Change(); };
+    txtVérif.Change = [this] { txtVérif_Change(); };
 }
 
 Arrangement frmGestionEleves::Disposer()
@@ -198,8 +176,7 @@ void frmGestionEleves::CréerElève(const Texte& nom)
         return;
     }
     Relister();
-    if (const int place = cmbNoms.Chercher(nom); place >= 0)
-        cmbNoms.Montrer(place);
+    cmbNoms.ListIndex = cmbNoms.Chercher(nom); // some disks spell a name otherwise: then no item stands for it
     cmbNoms.Text = txtNom.Text;
     cmbNoms.Visible = true;
 }
@@ -222,7 +199,7 @@ void frmGestionEleves::cmdSupprimer_Click()
 void frmGestionEleves::SupprimerElève()
 {
     // The field may show a new name as it was typed; the item is the file's stem.
-    const auto nom = cmbNoms.ListIndex >= 0 ? cmbNoms.List(cmbNoms.ListIndex) : cmbNoms.Text();
+    const auto nom = cmbNoms.ListIndex >= 0 ? cmbNoms.List(cmbNoms.ListIndex) : Rogner(cmbNoms.Text);
     const auto fichier = FichierBilan(état.CheminBilans, nom);
     std::error_code erreur;
     std::filesystem::remove(EnChemin(fichier), erreur);

@@ -71,9 +71,7 @@ frmProgression::frmProgression(frmExercices& choix)
     BackColor = FondSombre;
     TracerAxes();
     lblLégende.Click([this](int courbe) { lblLégende_Click(courbe); });
-    cmdQuitter.Click = [this] {
-        Décharger();
-    };
+    cmdQuitter.Click = [this] { Décharger(); };
 }
 
 void frmProgression::TracerAxes()

@@ -62,28 +62,16 @@ frmClosures::frmClosures(frmExercices& choix) : Ecran(choix.ApplicationDe(), "fr
     rtfClosures.Locked = true;
     Text1.Locked = true;
     Image1.Picture = DessinCrayon();
-    rtfClosures.Click = [this] {
-        SélectionnerTrait(rtfClosures);
-    };
-    rtfClosures.KeyPress = [this](Touche& touche) {
-        rtfClosures_KeyPress(touche);
-    };
-    rtfClosures.DblClick = [this] {
-        RefuserDoubleClic(rtfClosures);
-    };
-    rtfClosures.SelChange = [this] {
-        EffacerSélectionRefusée(rtfClosures);
-    };
+    rtfClosures.Click = [this] { SélectionnerTrait(rtfClosures); };
+    rtfClosures.KeyPress = [this](Touche& touche) { rtfClosures_KeyPress(touche); };
+    rtfClosures.DblClick = [this] { RefuserDoubleClic(rtfClosures); };
+    rtfClosures.SelChange = [this] { EffacerSélectionRefusée(rtfClosures); };
     cmbClosures.KeyPress = [](Touche& touche) {
         if (touche.Caractère != 0) // nothing can be typed; the arrows go through the list
             touche.Avaler();
     };
-    cmdOk.Click = [this] {
-        EssayerMot(jeu_);
-    };
-    cmdQuitter.Click = [this] {
-        cmdQuitter_Click();
-    };
+    cmdOk.Click = [this] { EssayerMot(jeu_); };
+    cmdQuitter.Click = [this] { cmdQuitter_Click(); };
 }
 
 Arrangement frmClosures::Disposer()

@@ -1,7 +1,6 @@
 #include "exercises/comprehension/frmQuestionnaire1.h"
 
 #include "core/FichierChamps.h"
-#include "core/Fonctions.h"
 #include "exercises/Conclure.h"
 #include "followup/EnregistrerNotes.h"
 
@@ -12,7 +11,7 @@ namespace {
 
 constexpr int ColonneQuestion = 0;
 constexpr int NombreChoix = 5;
-constexpr int ChampsParQuestion = 11;
+constexpr std::size_t ChampsParQuestion = 11;
 constexpr int QuestionsMaximum = 12;
 constexpr int PlaceDesQuestions = 1000; // twips from the text's left and from the top
 constexpr int LargeurQuestions = 8400;  // twips
@@ -21,7 +20,6 @@ constexpr double SecondesParJour = 86400;
 constexpr VueTexte Vérifier = u"&Vérifier";
 constexpr VueTexte Suivante = u"&Suivante";
 constexpr VueTexte Fin = u"Fin du questionnaire";
-constexpr VueTexte SansQuestionnaire = u"Je ne trouve pas de questionnaire associé au texte !";
 
 int ColonneChoix(int i)
 {
@@ -43,27 +41,18 @@ frmQuestionnaire1::frmQuestionnaire1(frmExercices& choix)
     for (auto& texte : txtChoix)
         texte.Locked = true;
     rtfTexte.Locked = true;
-    cmdCommencer.Click = [this] {
-        cmdCommencer_Click();
-    };
-    cmdOk.Click = [this] {
-        cmdOk_Click();
-    };
-    cmdVérifier.Click = [this] {
-        cmdVérifier_Click();
-    };
-    cmdQuitter.Click = [this] {
-        cmdQuitter_Click();
-    };
-    cmdInitialise.Click = [this] {
-        PlacerQuestions();
-    };
+    cmdCommencer.Click = [this] { cmdCommencer_Click(); };
+    cmdOk.Click = [this] { cmdOk_Click(); };
+    cmdVérifier.Click = [this] { cmdVérifier_Click(); };
+    cmdQuitter.Click = [this] { cmdQuitter_Click(); };
+    cmdInitialise.Click = [this] { PlacerQuestions(); };
     txtChoix.Click([this](int i) { txtChoix_Click(i); });
 }
 
 Arrangement frmQuestionnaire1::Disposer()
 {
     std::vector<Arrangement> choix;
+    choix.reserve(NombreChoix);
     for (int i = 0; i < NombreChoix; ++i)
         choix.emplace_back(Ligne{chkRéponse(i), Extensible(txtChoix(i))});
     return Pile{
@@ -88,9 +77,7 @@ void frmQuestionnaire1::Load()
     rtfTexte.TextRTF(choix_.rtfTexte.TextRTF());
     rtfTexte.ToutFormater([](Format& format) { format.Barré = false; });
     if (TexteEnVue()) {
-        VérifQuestions(état, choix_.lblTexte.Caption);
-        if (!état.QuestionnaireExiste) {
-            Avertir(Texte{SansQuestionnaire});
+        if (!choix_.TrouverQuestionnaire()) {
             Décharger();
             return;
         }
@@ -106,9 +93,7 @@ bool frmQuestionnaire1::TexteEnVue() const
 
 void frmQuestionnaire1::CommencerTexteEnVue()
 {
-    frameQuestions.MouseMove = [this](double x, double y) {
-        frameQuestions_MouseMove(x, y);
-    };
+    frameQuestions.MouseMove = [this](double x, double y) { frameQuestions_MouseMove(x, y); };
     frameQuestions.DragDrop = [this](const Elément* cible, double x, double y) {
         frameQuestions_DragDrop(cible, x, y);
     };
@@ -163,9 +148,7 @@ void frmQuestionnaire1::cmdOk_Click()
         return;
     }
     EnregistrerVitesse(secondes);
-    VérifQuestions(état, choix_.lblTexte.Caption);
-    if (!état.QuestionnaireExiste) {
-        Avertir(Texte{SansQuestionnaire});
+    if (!choix_.TrouverQuestionnaire()) {
         Décharger();
         return;
     }
@@ -200,7 +183,6 @@ void frmQuestionnaire1::MontrerQuestionsSansTexte()
 
 void frmQuestionnaire1::ChargerQuestions()
 {
-    état.NomFichierQuestions = état.CheminTexteElève + Rogner(choix_.lblTexte.Caption) + u".qst";
     const auto champs = LireChamps(EnChemin(état.NomFichierQuestions)).value_or(std::vector<Texte>{});
     const auto nombre = std::min<std::size_t>(champs.size(), QuestionsMaximum * ChampsParQuestion);
     for (std::size_t i = 0; i < nombre; ++i)

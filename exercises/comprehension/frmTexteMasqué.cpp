@@ -11,16 +11,10 @@ frmTexteMasqué::frmTexteMasqué(frmExercices& choix)
 {
     rtfMasqué.Locked = true;
     Text1.Locked = true;
-    rtfMasqué.Click = [this] {
-        rtfMasqué_Click();
-    };
-    rtfMasqué.KeyPress = [this](Touche& touche) {
-        rtfMasqué_KeyPress(touche);
-    };
+    rtfMasqué.Click = [this] { rtfMasqué_Click(); };
+    rtfMasqué.KeyPress = [this](Touche& touche) { rtfMasqué_KeyPress(touche); };
     lblLettre.Click([this](int k) { ProposerLettre(k); });
-    cmdQuitter.Click = [this] {
-        cmdQuitter_Click();
-    };
+    cmdQuitter.Click = [this] { cmdQuitter_Click(); };
 }
 
 Arrangement frmTexteMasqué::Disposer()

@@ -37,19 +37,11 @@ frmPhotographier::frmPhotographier(frmExercices& choix)
     : Ecran(choix.ApplicationDe(), "frmPhotographier", u"Photographier"), choix_(choix)
 {
     Image1.Picture = Flèche();
-    cmdAfficher.Click = [this] {
-        cmdAfficher_Click();
-    };
-    Chrono.Tick = [this] {
-        Chrono_Tick();
-    };
+    cmdAfficher.Click = [this] { cmdAfficher_Click(); };
+    Chrono.Tick = [this] { Chrono_Tick(); };
     lblRéponse.Click([this](int i) { lblRéponse_Click(i); });
-    cmdQuitter.Click = [this] {
-        cmdQuitter_Click();
-    };
-    cmdAbandonner.Click = [this] {
-        Décharger();
-    };
+    cmdQuitter.Click = [this] { cmdQuitter_Click(); };
+    cmdAbandonner.Click = [this] { Décharger(); };
 }
 
 Arrangement frmPhotographier::Disposer()

@@ -50,19 +50,11 @@ frmPoursuite::frmPoursuite(frmExercices& choix)
 {
     BackColor = GrisClair;
     rtfPoursuite.Locked = true;
-    cmdCommencer.Click = [this] {
-        cmdCommencer_Click();
-    };
-    Horloge.Tick = [this] {
-        Horloge_Tick();
-    };
-    Horloge2.Tick = [this] {
-        Horloge2_Tick();
-    };
+    cmdCommencer.Click = [this] { cmdCommencer_Click(); };
+    Horloge.Tick = [this] { Horloge_Tick(); };
+    Horloge2.Tick = [this] { Horloge2_Tick(); };
     lblMot.Click([this](int i) { lblMot_Click(i); });
-    cmdContinuer.Click = [this] {
-        cmdContinuer_Click();
-    };
+    cmdContinuer.Click = [this] { cmdContinuer_Click(); };
 }
 
 Arrangement frmPoursuite::Disposer()

@@ -23,16 +23,10 @@ constexpr int Ecart = 90;            // twips, between slots
 frmSérie::frmSérie(frmExercices& choix)
     : Ecran(choix.ApplicationDe(), "frmSérie", u"Mémoriser une série"), choix_(choix)
 {
-    cmdVoir.Click = [this] {
-        cmdVoir_Click();
-    };
+    cmdVoir.Click = [this] { cmdVoir_Click(); };
     lblChoix.Click([this](int c) { lblChoix_Click(c); });
-    cmdContinuer.Click = [this] {
-        cmdContinuer_Click();
-    };
-    cmdAbandonner.Click = [this] {
-        Décharger();
-    };
+    cmdContinuer.Click = [this] { cmdContinuer_Click(); };
+    cmdAbandonner.Click = [this] { Décharger(); };
 }
 
 Arrangement frmSérie::Disposer()

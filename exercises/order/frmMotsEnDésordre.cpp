@@ -31,24 +31,12 @@ frmMotsEnDésordre::frmMotsEnDésordre(frmExercices& choix)
     txtPhrase.Locked = true;
     txtAide.Locked = true;
     lblMot.Click([this](int i) { lblMot_Click(i); });
-    txtPhrase.Click = [this] {
-        txtPhrase_Click();
-    };
-    txtPhrase.DblClick = [this] {
-        txtPhrase_Click();
-    };
-    txtPhrase.KeyPress = [this](Touche& touche) {
-        txtPhrase_KeyPress(touche);
-    };
-    cmdTerminé.Click = [this] {
-        cmdTerminé_Click();
-    };
-    cmdSuivant.Click = [this] {
-        cmdSuivant_Click();
-    };
-    cmdAbandonner.Click = [this] {
-        cmdAbandonner_Click();
-    };
+    txtPhrase.Click = [this] { txtPhrase_Click(); };
+    txtPhrase.DblClick = [this] { txtPhrase_Click(); };
+    txtPhrase.KeyPress = [this](Touche& touche) { txtPhrase_KeyPress(touche); };
+    cmdTerminé.Click = [this] { cmdTerminé_Click(); };
+    cmdSuivant.Click = [this] { cmdSuivant_Click(); };
+    cmdAbandonner.Click = [this] { cmdAbandonner_Click(); };
 }
 
 Arrangement frmMotsEnDésordre::Disposer()

@@ -73,12 +73,8 @@ frmPendu::frmPendu(frmExercices& choix) : Ecran(choix.ApplicationDe(), "frmPendu
     imgVisage.Width = CôtéVisage;
     imgVisage.Height = CôtéVisage;
     lblLettre.Click([this](int i) { lblLettre_Click(i); });
-    cmdSuivant.Click = [this] {
-        cmdSuivant_Click();
-    };
-    cmdAbandonner.Click = [this] {
-        Décharger();
-    };
+    cmdSuivant.Click = [this] { cmdSuivant_Click(); };
+    cmdAbandonner.Click = [this] { Décharger(); };
 }
 
 Arrangement frmPendu::Disposer()

@@ -22,30 +22,16 @@ frmTrous::frmTrous(frmExercices& choix) : Ecran(choix.ApplicationDe(), "frmTrous
     rtfTrous.Locked = true;
     Text1.Locked = true;
     Image1.Picture = DessinCrayon();
-    rtfTrous.Click = [this] {
-        SélectionnerTrait(rtfTrous);
-    };
-    rtfTrous.KeyPress = [this](Touche& touche) {
-        rtfTrous_KeyPress(touche);
-    };
-    rtfTrous.DblClick = [this] {
-        RefuserDoubleClic(rtfTrous);
-    };
-    rtfTrous.SelChange = [this] {
-        EffacerSélectionRefusée(rtfTrous);
-    };
+    rtfTrous.Click = [this] { SélectionnerTrait(rtfTrous); };
+    rtfTrous.KeyPress = [this](Touche& touche) { rtfTrous_KeyPress(touche); };
+    rtfTrous.DblClick = [this] { RefuserDoubleClic(rtfTrous); };
+    rtfTrous.SelChange = [this] { EffacerSélectionRefusée(rtfTrous); };
     cmbTrous.KeyPress = [](Touche& touche) {
         touche.Avaler(); // the arrows as well: here the words are picked with the mouse alone
     };
-    cmdOk.Click = [this] {
-        EssayerMot(jeu_);
-    };
-    cmdQuitter.Click = [this] {
-        cmdQuitter_Click();
-    };
-    cmdAbandonner.Click = [this] {
-        Décharger();
-    };
+    cmdOk.Click = [this] { EssayerMot(jeu_); };
+    cmdQuitter.Click = [this] { cmdQuitter_Click(); };
+    cmdAbandonner.Click = [this] { Décharger(); };
 }
 
 Arrangement frmTrous::Disposer()

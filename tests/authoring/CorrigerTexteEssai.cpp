@@ -417,9 +417,7 @@ TEST_F(CorrigerTexteEssai, LaBoîteNEntendQuUneEdition)
 {
     rtfTexte.Text(u"un . deux\ntrois ( quatre )");
     int éditions = 0;
-    rtfTexte.EditionFaite = [&](const RichTextBox::Edition&) {
-        ++éditions;
-    };
+    rtfTexte.EditionFaite = [&](const RichTextBox::Edition&) { ++éditions; };
     CorrigerTexte(rtfTexte);
     EXPECT_EQ(éditions, 1);
     EXPECT_EQ(rtfTexte.SelStart(), 0U);
@@ -430,9 +428,7 @@ TEST_F(CorrigerTexteEssai, UnTexteDéjàCorrectNEstPasTouché)
     rtfTexte.Text(u"Le chat dort. \r\n\tIl rêve");
     CorrigerTexte(rtfTexte);
     bool changé = false;
-    rtfTexte.Change = [&] {
-        changé = true;
-    };
+    rtfTexte.Change = [&] { changé = true; };
     CorrigerTexte(rtfTexte);
     EXPECT_FALSE(changé);
 }

@@ -66,9 +66,7 @@ TEST_F(MarquerMotEssai, HorsDUnMotRienNeChangeEtLeCaractèreResteSélectionné)
 {
     rtfTexte.Text(u"Oh ! Oui");
     bool changé = false;
-    rtfTexte.Change = [&] {
-        changé = true;
-    };
+    rtfTexte.Change = [&] { changé = true; };
     EXPECT_FALSE(MarquerEn(2));
     EXPECT_EQ(rtfTexte.SelStart(), 2U);
     EXPECT_EQ(rtfTexte.SelLength(), 1U);

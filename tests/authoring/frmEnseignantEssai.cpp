@@ -21,9 +21,7 @@ private:
 
 void PlacerTémoin(BancEditeur& banc, const std::string& nom)
 {
-    banc.application.écrans[nom] = [nom](Ecran& ouvreur) {
-        return std::make_unique<Témoin>(ouvreur, nom);
-    };
+    banc.application.écrans[nom] = [nom](Ecran& ouvreur) { return std::make_unique<Témoin>(ouvreur, nom); };
 }
 
 Texte Entrée(int i, const Texte& chemin)
@@ -224,9 +222,7 @@ TEST_P(Départ, NAPasLieuQuandLEnregistrementVouluEchoue)
     BancEditeur banc;
     banc.Nommer("chat.rtf");
     banc.Taper(u"Le chat");
-    banc.plateforme.échecEcriture = [](const Chemin&) {
-        return EchecFichier::Ecriture;
-    };
+    banc.plateforme.échecEcriture = [](const Chemin&) { return EchecFichier::Ecriture; };
     banc.AnnoncerBoîte(Question, Réponse::Oui);
     banc.AnnoncerBoîte(MessageEchec(EchecFichier::Ecriture, banc.CheminDe("chat.rtf")));
     Partir(banc.écran);
@@ -503,9 +499,7 @@ TEST(Editeur, NouveauGardeLeTexteQueLEnregistrementNAPasPuEcrire)
     BancEditeur banc;
     banc.Nommer("chat.rtf");
     banc.Taper(u"Le chat");
-    banc.plateforme.échecEcriture = [](const Chemin&) {
-        return EchecFichier::Ouverture;
-    };
+    banc.plateforme.échecEcriture = [](const Chemin&) { return EchecFichier::Ouverture; };
     banc.AnnoncerBoîte(Question, Réponse::Oui);
     banc.AnnoncerBoîte(MessageEchec(EchecFichier::Ouverture, banc.CheminDe("chat.rtf")));
     banc.écran.mnuNouveau.Cliquer();
@@ -657,9 +651,7 @@ TEST(Editeur, EnregistrerUneSecondeFoisRéussitAprèsUnEchec)
     BancEditeur banc;
     banc.Nommer("chat.rtf");
     banc.Taper(u"Le chat");
-    banc.plateforme.échecEcriture = [](const Chemin&) {
-        return EchecFichier::Ecriture;
-    };
+    banc.plateforme.échecEcriture = [](const Chemin&) { return EchecFichier::Ecriture; };
     banc.AnnoncerBoîte(MessageEchec(EchecFichier::Ecriture, banc.CheminDe("chat.rtf")));
     banc.écran.mnuEnregistrer.Cliquer();
     EXPECT_TRUE(banc.état.TexteModifié);
@@ -955,9 +947,7 @@ TEST(Editeur, UnRécentNePerdPasLeTexteQuiNAPasPuEtreEcrit)
     banc.AnnoncerFichier(banc.CheminDe("a.rtf"));
     banc.écran.mnuOuvrir.Cliquer();
     banc.Taper(u"b");
-    banc.plateforme.échecEcriture = [](const Chemin&) {
-        return EchecFichier::Ouverture;
-    };
+    banc.plateforme.échecEcriture = [](const Chemin&) { return EchecFichier::Ouverture; };
     banc.AnnoncerBoîte(Question, Réponse::Oui);
     banc.AnnoncerBoîte(MessageEchec(EchecFichier::Ouverture, banc.CheminDe("a.rtf")));
     banc.écran.mnuRécent(0).Cliquer();

@@ -338,6 +338,10 @@ class Pilote:
     def texte(self, nom):
         return self.attendre(nom).texte
 
+    def elements(self):
+        """All that the active window is made of, by name: to be kept where much is to be looked at or clicked."""
+        return {element.nom: element for element in self.fenetre().descendants()}
+
     def attendre_texte(self, nom, texte, delai=DELAI):
         """The widget shows that text, blanks at the ends apart."""
         self.jusqu_a(lambda: self.attendre(nom).texte.strip() == texte.strip(), f"{nom!r} shows {texte!r}", delai)
@@ -455,6 +459,9 @@ class Pilote:
         """The menu of that caption, without its blanks and underlined letter, once its window is in front."""
         def option():
             for racine in reversed(self.fenetres()):
+                # A screen below another still shows its menus, but a click there would go to the one in front.
+                if not racine.etat("ACTIVE") and "menu" not in racine.role:
+                    continue
                 for element in [racine, *racine.descendants()]:
                     if element.role in ("menu", "menu item", "check menu item", "radio menu item") \
                             and element.visible and sans_esperluette(element.nom) == libelle:
@@ -532,9 +539,9 @@ class Pilote:
         subprocess.run(["import", "-window", "root", fichier], check=True, timeout=60)
         return fichier
 
-    def couleurs(self, nom):
-        """The colours that a widget shows, each as (red, green, blue), with their counts of pixels."""
-        x, y, l, h = self.attendre(nom).place
+    def couleurs(self, zone):
+        """The colours of a widget, or of (left, top, width, height): counts of pixels by (red, green, blue)."""
+        x, y, l, h = self.attendre(zone).place if isinstance(zone, str) else zone
         image = subprocess.run(["import", "-window", "root", "-crop", f"{l}x{h}+{x}+{y}", "-depth", "8", "rgb:-"],
                                check=True, stdout=subprocess.PIPE, timeout=60).stdout
         return collections.Counter(zip(image[0::3], image[1::3], image[2::3]))
@@ -559,6 +566,13 @@ class Pilote:
                 lignes.append(" " * retrait + f"{enfant.nom!r} {enfant.role} {enfant.place} {enfant.texte!r}")
                 lignes += self.arbre(enfant, retrait + 2)
         return lignes
+
+
+def mots_barres(chemin):
+    """The words that are marked in a text, in its order, read without the program's help."""
+    with open(chemin, encoding="cp1252", newline="") as fichier:
+        rtf = re.sub(r"\\'(..)", lambda m: bytes.fromhex(m[1]).decode("cp1252"), fichier.read())
+    return re.findall(r"\\strike (.*?)\\strike0", rtf)
 
 
 def champs(donnees):

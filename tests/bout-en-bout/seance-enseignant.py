@@ -2,7 +2,6 @@
 """A teacher writes a text, marks its words and saves it; a pupil reads it and fills its gaps."""
 
 import os
-import re
 import sys
 
 import pilote
@@ -61,7 +60,7 @@ def mettre_en_forme(p):
     p.attendre_selection("rtfTexte", 0, len(TITRE))
     p.touche("ctrl+b")
     p.jusqu_a(lambda: p.coche("btnGras"), "the title is bold")
-    p.clic("btnCentrer")
+    p.menu("Format", "Aligné au Centre")
     p.jusqu_a(lambda: p.coche("btnCentrer"), "the title is centred")
     for mot in MOTS:
         marquer(p, mot)
@@ -76,14 +75,7 @@ def enregistrer(p, chemin):
     p.capture("enregistrer-sous")
     p.fichier("Enregistrer sous", chemin)
     p.attendre_titre(chemin)
-    p.verifier_egal(barres(chemin), MOTS, "the saved text holds the marks")
-
-
-def barres(chemin):
-    """The marked words of a saved text, in its order."""
-    with open(chemin, encoding="cp1252") as fichier:
-        rtf = re.sub(r"\\'(..)", lambda m: bytes.fromhex(m[1]).decode("cp1252"), fichier.read())
-    return re.findall(r"\\strike (.*?)\\strike0", rtf)
+    p.verifier_egal(pilote.mots_barres(chemin), MOTS, "the saved text holds the marks")
 
 
 def rechercher(p, mot):
@@ -105,7 +97,7 @@ def quitter_l_editeur(p, chemin):
     p.capture("modifications")
     p.boite("Les modifications n'ont pas été enregistrées.", "Oui")
     p.attendre_menu("Elève")
-    p.verifier_egal(barres(chemin), [*MOTS, DERNIER_MOT], "what was left unsaved is saved on the way out")
+    p.verifier_egal(pilote.mots_barres(chemin), [*MOTS, DERNIER_MOT], "what was left unsaved is saved on the way out")
 
 
 def un_mauvais_code(p):

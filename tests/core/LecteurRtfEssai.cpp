@@ -471,12 +471,8 @@ TEST(LecteurRtf, LaMiseEnFormeDeLibreOfficeEtDAbiWordEstLue)
         const auto texte = LireRtf(Donnée(nom));
         ASSERT_TRUE(texte);
         const auto& caractères = texte->Caractères();
-        const auto format = [&](VueTexte mot) {
-            return texte->FormatEn(caractères.find(mot));
-        };
-        const auto paragraphe = [&](VueTexte mot) {
-            return texte->ParagrapheEn(caractères.find(mot));
-        };
+        const auto format = [&](VueTexte mot) { return texte->FormatEn(caractères.find(mot)); };
+        const auto paragraphe = [&](VueTexte mot) { return texte->ParagrapheEn(caractères.find(mot)); };
         EXPECT_EQ(format(u"Le cerf").Police, u"Arial") << nom;
         EXPECT_EQ(format(u"Le cerf").Taille, 20) << nom;
         EXPECT_TRUE(format(u"Le cerf").Gras) << nom;

@@ -15,9 +15,7 @@ private:
 std::vector<RichTextBox::Edition> Editions(RichTextBox& boîte, const Texte& nouveaux)
 {
     std::vector<RichTextBox::Edition> éditions;
-    boîte.EditionFaite = [&](const RichTextBox::Edition& édition) {
-        éditions.push_back(édition);
-    };
+    boîte.EditionFaite = [&](const RichTextBox::Edition& édition) { éditions.push_back(édition); };
     boîte.Transcrire(nouveaux);
     boîte.EditionFaite = nullptr;
     return éditions;
@@ -73,9 +71,7 @@ TEST(DoubleClic, LeSecondAppuiDéplaceLeCurseur)
     écran.rtf.Text(u"abc");
     écran.rtf.Sélectionner(1, 1);
     std::size_t longueur = 99;
-    écran.rtf.DblClick = [&] {
-        longueur = écran.rtf.SelLength();
-    };
+    écran.rtf.DblClick = [&] { longueur = écran.rtf.SelLength(); };
 
     écran.rtf.DoubleCliquer(1);
 

@@ -52,7 +52,19 @@ TEST(Tirelune, LégendesAvecLeursBlancs)
     EXPECT_EQ(écran.mnuEnseignant.Caption, u"        E&nseignant        ");
     EXPECT_EQ(écran.mnuElève.Caption, u"        E&lève        ");
     EXPECT_EQ(écran.mnuQuitter.Caption, u"                      &Quitter                      ");
+    EXPECT_EQ(écran.Frame1.Caption, u"Avertissement");
+    EXPECT_TRUE(écran.Label2(0).Caption().starts_with(
+        u"     Tirelune nécessite un affichage de 800x600, avec 65 000 couleurs (24 bits) ou plus pour un meilleur "
+        u"confort.  "));
+    EXPECT_EQ(écran.Label2(1).Caption,
+              u"Une banque de textes régulièrement mise à jour est disponible sur le site suivant :");
+    EXPECT_EQ(écran.frameCodeEnseignant.Caption, u"Code d'accès requis pour le module Enseignant");
+    EXPECT_EQ(écran.lblCodeEnseignant.Caption, u"Saisissez votre code :");
     EXPECT_EQ(écran.Label1.Caption, u"(6 caratères maximum)");
+    EXPECT_EQ(écran.lblVérificationCode.Caption, u"Saisissez votre code à nouveau :");
+    EXPECT_EQ(écran.lblCodeRappel.Caption, u"Retenez bien ce code qui vous sera demandé à chaque accès enseignant.");
+    EXPECT_EQ(écran.cmdCode.Caption, u"O&k");
+    EXPECT_EQ(écran.cmdAnnuler.Caption, u"&Annuler");
     EXPECT_EQ(écran.Menus().size(), 3U);
     EXPECT_FALSE(écran.frameCodeEnseignant.Visible);
 }
@@ -159,6 +171,7 @@ TEST(Tirelune, CodeJusteOuvreCodeFauxRevientAuMenu)
     for (const auto* faux : {u"secret", u"ancien", u"", u"Secre"}) {
         écran.mnuEnseignant.Cliquer();
         EXPECT_EQ(écran.txtCodeEnseignant.Text, u"");
+        EXPECT_FALSE(écran.txtVérificationCode.EstAtteignable()); // no second entry while there is a code
         Valider(écran.txtCodeEnseignant, faux);
         EXPECT_FALSE(écran.frameCodeEnseignant.Visible);
         EXPECT_TRUE(banc.plateforme.écransMontrés.empty());
@@ -198,13 +211,20 @@ TEST(Tirelune, CodeQuiNeSEcritPasEstDit)
     auto& écran = Ouvrir(banc);
     écran.mnuEnseignant.Cliquer();
     Valider(écran.txtCodeEnseignant, u"abc");
-    banc.plateforme.échecEcriture = [](const Chemin&) {
+    banc.plateforme.échecEcriture = [&](const Chemin&) {
+        banc.Ecrire("CodeEnseignant.txt", "\"ab"); // the disk is full
         return EchecFichier::Ecriture;
     };
     banc.AnnoncerBoîte(MessageEchec(EchecFichier::Ecriture, DepuisChemin(banc.dossier / "CodeEnseignant.txt")));
     Valider(écran.txtVérificationCode, u"abc");
     EXPECT_TRUE(écran.frameCodeEnseignant.Visible);
     EXPECT_TRUE(banc.plateforme.écransMontrés.empty());
+    EXPECT_FALSE(banc.Existe("CodeEnseignant.txt"));
+
+    banc.plateforme.échecEcriture = nullptr;
+    banc.QuandOuvert<Bouchon>([](Bouchon&) {});
+    Valider(écran.txtVérificationCode, u"abc");
+    EXPECT_EQ(banc.Lire("CodeEnseignant.txt"), "\"abc\"\r\n");
 }
 
 TEST(Tirelune, LeCodePrendSixCaractèresQueLeFichierPeutGarder)

@@ -34,12 +34,8 @@ TEST_F(Attentes, UnÉcranDessusRendLaMainÀSaFermeture)
 {
     EcranAttente dessus{application};
     std::string suite;
-    écran.àLActivation = [&] {
-        suite += 'a';
-    };
-    dessus.àLActivation = [&] {
-        suite += 'b';
-    };
+    écran.àLActivation = [&] { suite += 'a'; };
+    dessus.àLActivation = [&] { suite += 'b'; };
     écran.cmdOk.Click = [&] {
         Ensuite([&] {
             EXPECT_EQ(&Devant().EcranDe(), &dessus);
@@ -61,18 +57,14 @@ TEST_F(Attentes, UnÉcranDessusRendLaMainÀSaFermeture)
 
 TEST_F(Attentes, UnÉcranQuiSeDéchargeEnChargeantNeSeMontrePas)
 {
-    écran.auChargement = [&] {
-        écran.Décharger();
-    };
+    écran.auChargement = [&] { écran.Décharger(); };
     écran.Afficher();
     EXPECT_EQ(écran.déchargements, 1);
 }
 
 TEST_F(Attentes, UnÉcranQuiSeDéchargeEnVenantDevantSeFerme)
 {
-    écran.àLActivation = [&] {
-        écran.Décharger();
-    };
+    écran.àLActivation = [&] { écran.Décharger(); };
     écran.Afficher();
     EXPECT_EQ(écran.déchargements, 1);
 }
@@ -81,9 +73,7 @@ TEST_F(Attentes, AttendreJetteCeQuiSeTapeEtSeClique)
 {
     int clics = 0;
     bool finie = false;
-    écran.cmdOk.Click = [&] {
-        ++clics;
-    };
+    écran.cmdOk.Click = [&] { ++clics; };
     Avec(écran, [&] {
         Ensuite([&] {
             QTest::keyClicks(&Widget(écran.txtMot), "abc");
@@ -184,7 +174,7 @@ TEST_F(Attentes, UneBoîteRépondParSesBoutons)
         Ensuite([&] {
             auto* boîte = BoîteOuverte();
             ASSERT_NE(boîte, nullptr);
-            EXPECT_EQ(boîte->text(), "Le texte est trop court !");
+            EXPECT_EQ(boîte->text(), QStringLiteral("Le texte est trop court\u00A0!"));
             ASSERT_EQ(boîte->buttons().size(), 1);
             EXPECT_EQ(boîte->buttons().front()->text(), "OK");
             boîte->buttons().front()->click();
@@ -197,12 +187,22 @@ TEST_F(Attentes, UneBoîteRépondParSesBoutons)
     });
 }
 
+TEST_F(Attentes, UneBoîteNeCoupePasAvantUnPointDInterrogation)
+{
+    Avec(écran, [&] {
+        Ensuite([&] {
+            EXPECT_EQ(BoîteOuverte()->text(),
+                      QStringLiteral("Oui\u00A0: non\u00A0; «peut-être\u00A0»\u00A0?\nEt\u00A0!"));
+            BoîteOuverte()->buttons().front()->click();
+        });
+        application.Avertir(u"Oui : non ; «peut-être » ?\r\nEt !");
+    });
+}
+
 TEST_F(Attentes, EchappementRefuse)
 {
     Avec(écran, [&] {
-        const auto échapper = [] {
-            QTest::keyClick(BoîteOuverte(), Qt::Key_Escape);
-        };
+        const auto échapper = [] { QTest::keyClick(BoîteOuverte(), Qt::Key_Escape); };
         Ensuite(échapper);
         EXPECT_EQ(plateforme.AfficherBoîte({u"?", u"T", Boutons::OuiNon}), Réponse::Non);
         Ensuite(échapper);
@@ -225,9 +225,7 @@ TEST_F(Attentes, TerminerFermeTousLesÉcrans)
 {
     EcranAttente dessus{application};
     bool attente = true;
-    écran.cmdOk.Click = [&] {
-        dessus.Afficher();
-    };
+    écran.cmdOk.Click = [&] { dessus.Afficher(); };
     Avec(écran, [&] {
         Ensuite([&] {
             Ensuite([&] { plateforme.Terminer(); });
@@ -282,9 +280,7 @@ TEST_F(Attentes, LaPremièreFenêtreMontreDAbordSonFond)
         EXPECT_EQ(activations, 1);
         Ensuite([&] { Cliquer(écran.cmdOk); });
     };
-    écran.cmdOk.Click = [&] {
-        écran.Décharger();
-    };
+    écran.cmdOk.Click = [&] { écran.Décharger(); };
     écran.Afficher();
     EXPECT_EQ(activations, 1);
     EXPECT_EQ(écran.déchargements, 1);

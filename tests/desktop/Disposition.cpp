@@ -30,9 +30,7 @@ protected:
 
 TEST_F(Disposition_, UnePileDonneÀTousLaMêmePlace)
 {
-    écran.disposer = [&] {
-        return Colonne{Extensible(Pile{écran.lblFond, écran.lblDevant}), écran.cmdJouer};
-    };
+    écran.disposer = [&] { return Colonne{Extensible(Pile{écran.lblFond, écran.lblDevant}), écran.cmdJouer}; };
     Avec(écran, [&] {
         EXPECT_EQ(Widget(écran.lblFond).geometry(), Widget(écran.lblDevant).geometry());
         EXPECT_GT(Widget(écran.lblFond).height(), Devant().height() / 2);
@@ -46,12 +44,8 @@ TEST_F(Disposition_, UneCouvertureCacheToutEtPrendLeClavier)
     écran.disposer = [&] {
         return Pile{Colonne{écran.cmdJouer}, Couverture{écran.frameQuitter, Colonne{écran.cmdAbandonner}}};
     };
-    écran.cmdJouer.Click = [&] {
-        clics += 1;
-    };
-    écran.cmdAbandonner.Click = [&] {
-        clics += 10;
-    };
+    écran.cmdJouer.Click = [&] { clics += 1; };
+    écran.cmdAbandonner.Click = [&] { clics += 10; };
     Avec(écran, [&] {
         EXPECT_TRUE(Widget(écran.frameQuitter).isHidden());
         écran.frameQuitter.Visible = true;
@@ -74,9 +68,7 @@ TEST_F(Disposition_, CeQuiEstLibreVaOùLesRèglesLePlacent)
     écran.lblMot.AutoSize = true;
     écran.lblMot.Left = 1500;
     écran.lblMot.Top = 750;
-    écran.disposer = [&] {
-        return Pile{Colonne{écran.cmdJouer, Ressort{}}, Libre{écran.lblMot, écran.cache}};
-    };
+    écran.disposer = [&] { return Pile{Colonne{écran.cmdJouer, Ressort{}}, Libre{écran.lblMot, écran.cache}}; };
     Avec(écran, [&] {
         const auto origine = Widget(écran.cmdJouer).pos(); // of all that lies in the stack
         EXPECT_EQ(Widget(écran.lblMot).pos(), origine + QPoint(100, 50));
@@ -102,9 +94,7 @@ TEST_F(Disposition_, UneToileGardeSesProportions)
     écran.lblMot.Top = 25;
     écran.lblMot.Width = 50;
     écran.lblMot.Height = 25;
-    écran.disposer = [&] {
-        return Pile{Toile{100, 100, {écran.trait, écran.lblMot}}};
-    };
+    écran.disposer = [&] { return Pile{Toile{100, 100, {écran.trait, écran.lblMot}}}; };
     Avec(écran, [&] {
         auto& toile = dynamic_cast<VueToile&>(*Widget(écran.lblMot).parentWidget());
         const double facteur = toile.Facteur();
@@ -121,12 +111,8 @@ TEST_F(Disposition_, UneToileGardeSesProportions)
 TEST_F(Disposition_, LÉcranApprendSaTailleEtLesPlaces)
 {
     int fois = 0;
-    écran.àLaTaille = [&] {
-        ++fois;
-    };
-    écran.disposer = [&] {
-        return Colonne{écran.lblFond, écran.cmdJouer};
-    };
+    écran.àLaTaille = [&] { ++fois; };
+    écran.disposer = [&] { return Colonne{écran.lblFond, écran.cmdJouer}; };
     Avec(écran, [&] {
         EXPECT_EQ(fois, 1);
         EXPECT_EQ(écran.Width, Devant().Twips(Devant().width()));
@@ -142,9 +128,7 @@ TEST_F(Disposition_, LÉcranApprendSaTailleEtLesPlaces)
 
 TEST_F(Disposition_, LesLettresGrandissentAvecLaFenêtre)
 {
-    écran.disposer = [&] {
-        return Colonne{écran.lblFond};
-    };
+    écran.disposer = [&] { return Colonne{écran.lblFond}; };
     Avec(écran, [&] {
         Devant().setGeometry(0, 0, 800, 600);
         Mettre();
@@ -163,9 +147,7 @@ TEST_F(Disposition_, UnEcranCompteDèsLeDébutSurLaPlaceDeCeluiDuDessous)
         échelle = Devant().Echelle();
         return Colonne{dessus.lblMot};
     };
-    écran.disposer = [&] {
-        return Colonne{écran.lblFond};
-    };
+    écran.disposer = [&] { return Colonne{écran.lblFond}; };
     Avec(écran, [&] {
         Devant().setGeometry(0, 0, 700, 520); // what a window manager's borders leave
         Ensuite([&] { dessus.Décharger(); });
@@ -200,9 +182,7 @@ TEST_F(Disposition_, UnCadreSeTraîneEtSeDépose)
     écran.frameLibre.Top = 3000;
     écran.frameLibre.Width = 3000;
     écran.frameLibre.Height = 1500;
-    écran.frameLibre.MouseMove = [&](double x, double) {
-        prise = x;
-    };
+    écran.frameLibre.MouseMove = [&](double x, double) { prise = x; };
     écran.frameLibre.DragDrop = [&](const Elément* cible, double x, double) {
         cibles.push_back(cible);
         lieu = x;

@@ -115,9 +115,7 @@ TEST_F(Eléments, LesCouleursDeLÉlémentSePeignent)
 
 TEST_F(Eléments, CliquerUneÉtiquette)
 {
-    écran.lblMot.Click = [&] {
-        ++clics;
-    };
+    écran.lblMot.Click = [&] { ++clics; };
     Avec(écran, [&] {
         Cliquer(écran.lblMot);
         EXPECT_EQ(clics, 1);
@@ -136,9 +134,7 @@ TEST_F(Eléments, CliquerUneÉtiquette)
 
 TEST_F(Eléments, UneÉtiquetteSansClicEstHorsDuClavier)
 {
-    écran.lblMot.Click = [&] {
-        ++clics;
-    };
+    écran.lblMot.Click = [&] { ++clics; };
     Avec(écran, [&] {
         EXPECT_EQ(Widget(écran.lblMot).focusPolicy(), Qt::TabFocus);
         EXPECT_EQ(Widget(écran.lblMuet).focusPolicy(), Qt::NoFocus);
@@ -147,9 +143,7 @@ TEST_F(Eléments, UneÉtiquetteSansClicEstHorsDuClavier)
 
 TEST_F(Eléments, CliquerUnBouton)
 {
-    écran.cmdOk.Click = [&] {
-        ++clics;
-    };
+    écran.cmdOk.Click = [&] { ++clics; };
     Avec(écran, [&] {
         Cliquer(écran.cmdOk);
         QTest::keyClick(&Widget(écran.cmdOk), Qt::Key_Space);
@@ -157,6 +151,20 @@ TEST_F(Eléments, CliquerUnBouton)
         écran.cmdOk.Visible = false;
         Mettre();
         EXPECT_TRUE(Widget(écran.cmdOk).isHidden());
+    });
+}
+
+TEST_F(Eléments, EntréePresseLeBoutonQuiALeClavier)
+{
+    écran.cmdOk.Click = [&] { ++clics; };
+    Avec(écran, [&] {
+        écran.cmdOk.SetFocus();
+        Mettre();
+        QTest::keyClick(&Devant(), Qt::Key_Return);
+        EXPECT_EQ(clics, 0); // pressed into the window, which is no button
+        QTest::keyClick(&Widget(écran.cmdOk), Qt::Key_Return);
+        QTest::keyClick(&Widget(écran.cmdOk), Qt::Key_Enter);
+        EXPECT_EQ(clics, 2);
     });
 }
 
@@ -174,9 +182,7 @@ TEST_F(Eléments, UnWidgetCachéGardeSaPlace)
 TEST_F(Eléments, TaperDansUnChamp)
 {
     int changements = 0;
-    écran.txtNom.Change = [&] {
-        ++changements;
-    };
+    écran.txtNom.Change = [&] { ++changements; };
     Avec(écran, [&] {
         QTest::keyClicks(&Widget(écran.txtNom), "lune");
         EXPECT_EQ(écran.txtNom.Text(), u"lune");
@@ -201,9 +207,7 @@ TEST_F(Eléments, UneToucheJetéeNÉcritRien)
 
 TEST_F(Eléments, EntréeDansUnChamp)
 {
-    écran.txtNom.Enter = [&] {
-        ++clics;
-    };
+    écran.txtNom.Enter = [&] { ++clics; };
     Avec(écran, [&] {
         QTest::keyClick(&Widget(écran.txtNom), Qt::Key_Return);
         EXPECT_EQ(clics, 1);
@@ -266,9 +270,7 @@ TEST_F(Eléments, UnTexteDePlusieursLignesFinitSesLignesCommeUnFichier)
 TEST_F(Eléments, UneListeMontreUnTexteQuiNEstPasDElle)
 {
     écran.cmbMots.AddItems({u"chat", u"chien"});
-    écran.cmbMots.Click = [&] {
-        ++clics;
-    };
+    écran.cmbMots.Click = [&] { ++clics; };
     Avec(écran, [&] {
         auto& liste = Widget<QComboBox>(écran.cmbMots);
         EXPECT_EQ(liste.placeholderText(), " Liste des mots enlevés ");
@@ -304,9 +306,7 @@ TEST_F(Eléments, DesTouchesJetéesNeChoisissentRien)
 TEST_F(Eléments, SaisirDansUneListe)
 {
     écran.cmbTailles.AddItems({u"10", u"12"});
-    écran.cmbTailles.Enter = [&] {
-        ++clics;
-    };
+    écran.cmbTailles.Enter = [&] { ++clics; };
     Avec(écran, [&] {
         auto& champ = *Widget<QComboBox>(écran.cmbTailles).lineEdit();
         champ.setFocus();
@@ -337,9 +337,7 @@ TEST_F(Eléments, DeuxMilleÉlémentsDUnCoup)
 TEST_F(Eléments, ChoisirDansUneListeOuverte)
 {
     écran.lstNoms.AddItems({u"Léa", u"Tom"});
-    écran.lstNoms.Click = [&] {
-        ++clics;
-    };
+    écran.lstNoms.Click = [&] { ++clics; };
     Avec(écran, [&] {
         auto& liste = Widget<QListWidget>(écran.lstNoms);
         QTest::mouseClick(liste.viewport(), Qt::LeftButton, {}, liste.visualItemRect(liste.item(1)).center());
@@ -353,9 +351,7 @@ TEST_F(Eléments, ChoisirDansUneListeOuverte)
 
 TEST_F(Eléments, CocherUneCase)
 {
-    écran.chkOui.Click = [&] {
-        ++clics;
-    };
+    écran.chkOui.Click = [&] { ++clics; };
     Avec(écran, [&] {
         auto& case_ = Widget<QCheckBox>(écran.chkOui);
         QTest::keyClick(&case_, Qt::Key_Space);
@@ -370,9 +366,7 @@ TEST_F(Eléments, CocherUneCase)
 TEST_F(Eléments, DéplacerUneBarreDeDéfilement)
 {
     écran.scrl.Max = 20;
-    écran.scrl.Change = [&] {
-        ++clics;
-    };
+    écran.scrl.Change = [&] { ++clics; };
     Avec(écran, [&] {
         auto& barre = Widget<QScrollBar>(écran.scrl);
         barre.setValue(7);
@@ -388,9 +382,7 @@ TEST_F(Eléments, DéplacerUneBarreDeDéfilement)
 TEST_F(Eléments, UneImageSePeintEtSeClique)
 {
     écran.imgTête.Picture = Dessin{10, 10, {{GenreForme::Ellipse, {{0, 0}, {10, 10}}, Noir, 1, Jaune}}};
-    écran.imgTête.Click = [&] {
-        ++clics;
-    };
+    écran.imgTête.Click = [&] { ++clics; };
     Avec(écran, [&] {
         auto& image = Widget(écran.imgTête);
         EXPECT_EQ(image.grab().toImage().pixelColor(image.rect().center()), (QColor{255, 255, 0}));
@@ -401,9 +393,7 @@ TEST_F(Eléments, UneImageSePeintEtSeClique)
 
 TEST_F(Eléments, CliquerUnCadre)
 {
-    écran.frame.Click = [&] {
-        ++clics;
-    };
+    écran.frame.Click = [&] { ++clics; };
     Avec(écran, [&] {
         QTest::mouseClick(&Widget(écran.frame), Qt::LeftButton, {}, QPoint{20, 6});
         EXPECT_EQ(clics, 1);
@@ -414,9 +404,7 @@ TEST_F(Eléments, CliquerUnCadre)
 
 TEST_F(Eléments, CliquerHorsDesÉlémentsEstUnClicDeLÉcran)
 {
-    écran.auClic = [&] {
-        ++clics;
-    };
+    écran.auClic = [&] { ++clics; };
     Avec(écran, [&] {
         QTest::mouseClick(Devant().Plan(), Qt::LeftButton, {}, QPoint{1, 1});
         EXPECT_EQ(clics, 1);
@@ -429,9 +417,7 @@ TEST_F(Eléments, CliquerHorsDesÉlémentsEstUnClicDeLÉcran)
 TEST_F(Eléments, LaBarreDeBoutonsMontreLesÉtats)
 {
     std::string cliqué;
-    écran.tlb.ButtonClick = [&](std::string_view clé) {
-        cliqué = clé;
-    };
+    écran.tlb.ButtonClick = [&](std::string_view clé) { cliqué = clé; };
     Avec(écran, [&] {
         auto* gras = Devant().findChild<QToolButton*>("btnGras");
         ASSERT_NE(gras, nullptr);
@@ -448,8 +434,7 @@ TEST_F(Eléments, LaBarreDeBoutonsMontreLesÉtats)
 
 TEST_F(Eléments, LaTabulationSuitLaDéclaration)
 {
-    écran.lblMot.Click = [] {
-    };
+    écran.lblMot.Click = [] {};
     Avec(écran, [&] {
         auto* un = &Widget(écran.lblMot);
         un->setFocus();
@@ -498,9 +483,7 @@ TEST_F(Eléments, LÉcranVoitLesTouchesEnPremier)
 TEST_F(Eléments, UnCaractèreComposéArriveÀLÉcranEtAuChamp)
 {
     Texte vues;
-    écran.auClavier = [&](Touche& touche) {
-        vues += touche.Caractère;
-    };
+    écran.auClavier = [&](Touche& touche) { vues += touche.Caractère; };
     Avec(écran, [&] {
         QInputMethodEvent composé;
         composé.setCommitString("ê");
@@ -533,12 +516,8 @@ TEST_F(Atelier, LesMenusSuiventLeursOptions)
 {
     EcranMenus écran{application};
     int clics = 0;
-    écran.mnuOuvrir.Click = [&] {
-        ++clics;
-    };
-    écran.mnuQuitter.Click = [&] {
-        clics += 10;
-    };
+    écran.mnuOuvrir.Click = [&] { ++clics; };
+    écran.mnuQuitter.Click = [&] { clics += 10; };
     Avec(écran, [&] {
         auto* barre = Devant().findChild<QMenuBar*>();
         ASSERT_NE(barre, nullptr);

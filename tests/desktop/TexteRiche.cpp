@@ -98,9 +98,7 @@ TEST_F(TexteRicheAffiché, LesDeuxMoitiésDUnCaractèreLeDonnent)
     écran.rtf.Text(u"bonjour\r\nla lune");
     écran.rtf.Locked = true;
     std::vector<std::size_t> clics;
-    écran.rtf.Click = [&] {
-        clics.push_back(écran.rtf.SelStart());
-    };
+    écran.rtf.Click = [&] { clics.push_back(écran.rtf.SelStart()); };
     Avec(écran, [&] {
         for (const int position : {0, 3, 9}) {
             for (const bool droite : {false, true})
@@ -135,12 +133,8 @@ TEST_F(TexteRicheAffiché, UnDoubleClicFaitUnSeulClic)
     écran.rtf.Text(u"bonjour");
     écran.rtf.Locked = true;
     std::string suite;
-    écran.rtf.Click = [&] {
-        suite += 'c';
-    };
-    écran.rtf.DblClick = [&] {
-        suite += 'd';
-    };
+    écran.rtf.Click = [&] { suite += 'c'; };
+    écran.rtf.DblClick = [&] { suite += 'd'; };
     Avec(écran, [&] {
         DoubleCliquer(*Zone().viewport(), Moitié(2, true));
         EXPECT_EQ(suite, "cd");
@@ -154,9 +148,7 @@ TEST_F(TexteRicheAffiché, LeClavierJoueCommeLaSouris)
     écran.rtf.Text(u"bon");
     écran.rtf.Locked = true;
     std::vector<std::size_t> clics;
-    écran.rtf.Click = [&] {
-        clics.push_back(écran.rtf.SelStart());
-    };
+    écran.rtf.Click = [&] { clics.push_back(écran.rtf.SelStart()); };
     bool entréeAvalée = false;
     écran.rtf.KeyPress = [&](Touche& touche) {
         if (entréeAvalée || touche.Code != Touche::Entrée)
@@ -179,9 +171,7 @@ TEST_F(TexteRicheAffiché, LeClavierJoueCommeLaSouris)
 TEST_F(TexteRicheAffiché, CeQuiEstTapéEstDansLÉlément)
 {
     int changements = 0;
-    écran.rtf.Change = [&] {
-        ++changements;
-    };
+    écran.rtf.Change = [&] { ++changements; };
     Avec(écran, [&] {
         Zone().setFocus();
         Taper("un\ndeux");
@@ -250,9 +240,7 @@ TEST_F(TexteRicheAffiché, CollerDonneDuTexteSimple)
 TEST_F(TexteRicheAffiché, CollerSeJetteCommeUneTouche)
 {
     écran.rtf.Text(u"ab");
-    écran.rtf.KeyPress = [](Touche& touche) {
-        touche.Avaler();
-    };
+    écran.rtf.KeyPress = [](Touche& touche) { touche.Avaler(); };
     Avec(écran, [&] {
         Zone().setFocus();
         Coller(QStringLiteral("xyz"));
@@ -319,9 +307,7 @@ TEST_F(TexteRicheAffiché, LaSélectionDeLUtilisateurVaÀLÉlément)
 {
     écran.rtf.Text(u"un\r\ndeux");
     int fois = 0;
-    écran.rtf.SelChange = [&] {
-        ++fois;
-    };
+    écran.rtf.SelChange = [&] { ++fois; };
     Avec(écran, [&] {
         Zone().setFocus();
         QTest::keyClick(&Zone(), Qt::Key_End);

@@ -92,9 +92,7 @@ TEST(SélectionnerTrait, UneSeuleSélectionPourUneLacuneDeMilleTraits)
     écran.rtf.Text(u"a" + Texte(1000, u'_') + u"b");
     int changements = 0;
     écran.rtf.Sélectionner(900, 0);
-    écran.rtf.SelChange = [&] {
-        ++changements;
-    };
+    écran.rtf.SelChange = [&] { ++changements; };
 
     SélectionnerTrait(écran.rtf);
 

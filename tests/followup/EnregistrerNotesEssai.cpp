@@ -166,9 +166,8 @@ TEST(SauverBilan, DossierPerduEnCoursDeRouteOkRéessaie)
     ASSERT_TRUE(SauverBilan(banc.Choix()));
     std::filesystem::remove_all(banc.dossier / "réseau");
     banc.AnnoncerBoîte(Texte{DossierInaccessible}, Réponse::Ok);
-    banc.plateforme.boîtes.push_back({Texte{DossierInaccessible}, Réponse::Ok, u"CONNEXION RESEAU DEFECTUEUSE", [&] {
-                                          std::filesystem::create_directory(banc.dossier / "réseau");
-                                      }});
+    banc.plateforme.boîtes.push_back({Texte{DossierInaccessible}, Réponse::Ok, u"CONNEXION RESEAU DEFECTUEUSE",
+                                      [&] { std::filesystem::create_directory(banc.dossier / "réseau"); }});
     Noter(banc, 0, 6);
     EXPECT_TRUE(SauverBilan(banc.Choix()));
     EXPECT_TRUE(banc.Lire("réseau/Léa.bil")->find("\"6\"") != std::string::npos);
@@ -193,14 +192,43 @@ TEST(SauverBilan, AnnulerEnregistreSurPlaceEtLeSuivantRevientAuRéseau)
     EXPECT_EQ(banc.état.CheminBilans, banc.état.CheminRéseau);
 }
 
+TEST(SauverBilan, CeQuUnAutreDossierContenaitEstGardéUneFois)
+{
+    Banc banc;
+    banc.Texte_(u"Un texte.");
+    Noter(banc, 0, 5);
+    banc.Ecrire("réseau/Léa.bil", "des années de résultats"); // read here while the network was out of reach
+    banc.état.CheminRéseau = banc.état.CheminAppli + u"/réseau";
+    const auto fichier = banc.état.CheminRéseau + u"/Léa.bil";
+    banc.AnnoncerBoîte(u"Le fichier des résultats\n" + fichier +
+                       u"\ncontient d'autres résultats.\n\nIls sont gardés sous le nom\n" + fichier + u".autre1");
+    EXPECT_TRUE(SauverBilan(banc.Choix()));
+    EXPECT_EQ(banc.Lire("réseau/Léa.bil.autre1"), "des années de résultats");
+    EXPECT_NE(banc.Lire("réseau/Léa.bil")->find("\"5\""), std::string::npos);
+    EXPECT_TRUE(SauverBilan(banc.Choix())); // its own now
+    EXPECT_FALSE(banc.Existe("réseau/Léa.bil.autre2"));
+}
+
+TEST(SauverBilan, CeQuiNeSeCopiePasNEstPasRemplacé)
+{
+    Banc banc;
+    banc.Texte_(u"Un texte.");
+    Noter(banc, 0, 5);
+    banc.état.NomElève = Texte(251, u'a'); // no room left in the name for a copy's
+    const auto nom = std::string(251, 'a') + ".bil";
+    banc.Ecrire(nom, "des années de résultats");
+    banc.AnnoncerBoîte(u"Le fichier des résultats…");
+    EXPECT_FALSE(SauverBilan(banc.Choix()));
+    EXPECT_FALSE(banc.Choix().BilanEnregistré);
+    EXPECT_EQ(banc.Lire(nom), "des années de résultats");
+}
+
 TEST(SauverBilan, AucunDossierNAccepteLeDitEtGardeTout)
 {
     Banc banc;
     banc.Texte_(u"Un texte.");
     Noter(banc, 0, 5);
-    banc.plateforme.échecEcriture = [](const Chemin&) {
-        return EchecFichier::Ouverture;
-    };
+    banc.plateforme.échecEcriture = [](const Chemin&) { return EchecFichier::Ouverture; };
     banc.AnnoncerBoîte(Texte{DossierInaccessible}, Réponse::Annuler);
     const auto fichier = DepuisChemin(banc.dossier / "Léa.bil");
     banc.AnnoncerBoîte(MessageEchec(EchecFichier::Ouverture, fichier));
@@ -219,9 +247,7 @@ TEST(SauverBilan, EcritureQuiEchoueAprèsOuvertureNommeLeFichier)
     Banc banc;
     banc.Texte_(u"Un texte.");
     Noter(banc, 0, 5);
-    banc.plateforme.échecEcriture = [](const Chemin&) {
-        return EchecFichier::Ecriture;
-    };
+    banc.plateforme.échecEcriture = [](const Chemin&) { return EchecFichier::Ecriture; };
     banc.AnnoncerBoîte(MessageEchec(EchecFichier::Ecriture, DepuisChemin(banc.dossier / "Léa.bil")));
     EXPECT_FALSE(SauverBilan(banc.Choix()));
     EXPECT_EQ(banc.Note(0), u"5");
@@ -235,14 +261,29 @@ TEST(SauverBilan, FermerLeChoixRéessaieCeQuiNAPasPuSEcrire)
     Banc banc;
     banc.Texte_(u"Un texte.");
     Noter(banc, 0, 5);
-    banc.plateforme.échecEcriture = [](const Chemin&) {
-        return EchecFichier::Ecriture;
-    };
+    banc.plateforme.échecEcriture = [](const Chemin&) { return EchecFichier::Ecriture; };
     banc.AnnoncerBoîte(u"Impossible d'enregistrer…");
     EXPECT_FALSE(SauverBilan(banc.Choix()));
     banc.plateforme.échecEcriture = nullptr;
     banc.Choix().cmdQuitter.Cliquer();
     EXPECT_NE(banc.Lire("Léa.bil")->find("\"5\""), std::string::npos);
+}
+
+TEST(SauverBilan, QuitterSansPouvoirEnregistrerSeDemande)
+{
+    Banc banc;
+    banc.Texte_(u"Un texte.");
+    Noter(banc, 0, 5);
+    banc.plateforme.échecEcriture = [](const Chemin&) { return EchecFichier::Ecriture; };
+    banc.AnnoncerBoîte(u"Impossible d'enregistrer…");
+    EXPECT_FALSE(SauverBilan(banc.Choix()));
+    for (const auto réponse : {Réponse::Non, Réponse::Oui}) {
+        banc.AnnoncerBoîte(u"Impossible d'enregistrer…");
+        banc.AnnoncerBoîte(u"Les derniers résultats ne sont pas enregistrés et seront perdus.…", réponse);
+        banc.Choix().FermerParCroix();
+        EXPECT_EQ(banc.Choix().EstChargé(), réponse == Réponse::Non);
+        EXPECT_EQ(banc.Note(0), u"5");
+    }
 }
 
 // ---- Many machines -----------------------------------------------------------------------------------------------

@@ -95,6 +95,35 @@ TEST(Exercices, ListeLesElèvesSousLeCadre)
     EXPECT_TRUE(banc.plateforme.dialogues.empty());
 }
 
+TEST(Exercices, LégendesEtBulles)
+{
+    Banc banc;
+    banc.Ecrire("Zoé.bil", "");
+    auto& choix = banc.Ouvrir<frmExercices>();
+    EXPECT_EQ(choix.frameElève.Caption, u"Elève");
+    EXPECT_EQ(choix.cmdCharger.Caption, u"C&harger un fichier texte");
+    EXPECT_EQ(choix.cmdCode.Caption, u"&Code des Couleurs");
+    EXPECT_EQ(choix.cmdQuitter.Caption, u"&Quitter");
+    EXPECT_EQ(choix.Label1.Caption, u" Afficher les résultats (textes déjà étudiés) :");
+    EXPECT_EQ(choix.Label2.Caption, u" Vitesse de lecture (signes par minute) ");
+    EXPECT_EQ(
+        choix.lblConsigne.Caption,
+        u"            AVERTISSEMENT                    Afficher les résultats ne charge pas le texte en mémoire.  "
+        u"                     Pour cela, vous devez cliquer sur le bouton \"Charger un fichier texte\".");
+    EXPECT_EQ(choix.lblTexte.ToolTipText, u" Texte chargé ");
+    EXPECT_FALSE(choix.lblTexte.Visible);
+    EXPECT_EQ(choix.cmbTextes.ToolTipText, u" Affiche les résultats dans l'ordre des textes étudiés. ");
+    EXPECT_EQ(choix.lblVitesse.ToolTipText, u" Texte en cours ");
+    EXPECT_EQ(choix.lblVitesseMoyenne.ToolTipText, u" Moyenne ");
+    for (const auto& moyenne : choix.lblMoyenne)
+        EXPECT_EQ(moyenne.ToolTipText, u" Moyenne sur 10 pour tous les textes étudiés. ");
+    for (const auto* cadre :
+         {&choix.frmCompréhension, &choix.frmVocabulaire, &choix.frmVitesse, &choix.frmOrdre, &choix.frmOrthographe})
+        EXPECT_EQ(cadre->ToolTipText, u" Cliquer sur le cadre de couleur pour voir la progression. ");
+    for (const auto& image : choix.imgCourbes)
+        EXPECT_EQ(image.ToolTipText, u" Cliquer ici pour voir les courbes de progression. ");
+}
+
 TEST(Exercices, SansElèveLeDitEtSeConnecteSansNom)
 {
     Banc banc;
@@ -306,7 +335,29 @@ TEST(Bilan, FichierIllisibleEstDit)
     std::filesystem::create_directory(banc.dossier / "Zoé.bil");
     banc.AnnoncerBoîte(u"Impossible de lire le fichier\n" + DepuisChemin(banc.dossier / "Zoé.bil"));
     choix.cmdOk.Cliquer();
-    EXPECT_EQ(choix.fgRésultats.Rows(), 1);
+    EXPECT_TRUE(choix.frameElève.Visible); // a save would replace it: nobody plays before it can be read
+    EXPECT_EQ(choix.Caption, u"Choix des exercices");
+    std::filesystem::remove(banc.dossier / "Zoé.bil");
+    banc.EcrireChamps("Zoé.bil", Fiche(u"A", u"90"));
+    choix.cmdOk.Cliquer();
+    EXPECT_FALSE(choix.frameElève.Visible);
+    EXPECT_EQ(choix.Caption, u"Choix des exercices / Zoé");
+    EXPECT_EQ(choix.fgRésultats.TextMatrix(1, ColonneVitesse), u"90");
+}
+
+TEST(Bilan, DossierPerduEntreLaListeEtLaConnexionEstDit)
+{
+    Banc banc;
+    banc.EcrireChamps("réseau/Zoé.bil", Fiche(u"A", u"90"));
+    banc.état.CheminBilans = banc.état.CheminAppli + u"/réseau";
+    auto& choix = banc.Ouvrir<frmExercices>();
+    std::filesystem::rename(banc.dossier / "réseau", banc.dossier / "parti");
+    banc.AnnoncerBoîte(u"Impossible de lire le fichier\n" + DepuisChemin(banc.dossier / "réseau" / "Zoé.bil"));
+    choix.cmdOk.Cliquer();
+    EXPECT_TRUE(choix.frameElève.Visible);
+    std::filesystem::rename(banc.dossier / "parti", banc.dossier / "réseau");
+    choix.cmdOk.Cliquer();
+    EXPECT_EQ(choix.fgRésultats.Rows(), 2);
 }
 
 TEST(Bilan, CinqMilleTextes)
@@ -450,9 +501,7 @@ TEST(Exercices, LesMotsMarquésFontLeVocabulaire)
     Banc banc;
     Connexion choix{banc};
     TexteRiche texte{u"un zèbre et un âne et un âne"};
-    const auto barrer = [](Format& format) {
-        format.Barré = true;
-    };
+    const auto barrer = [](Format& format) { format.Barré = true; };
     texte.Formater(3, 5, barrer);
     texte.Formater(15, 3, barrer);
     texte.Formater(25, 3, barrer); // ends the text

@@ -55,6 +55,30 @@ TEST(GestionEleves, OuvertureMontreLesNomsEtLeDossier)
     EXPECT_FALSE(écran.drvLecteurs.Visible || écran.dirLecteurs.Visible || écran.cmdValiderCheminRéseau.Visible);
 }
 
+TEST(GestionEleves, LégendesEtBulles)
+{
+    Banc banc;
+    auto& écran = banc.Ouvrir<frmGestionEleves>();
+    EXPECT_EQ(écran.cmdAjouter.Caption, u"&Ajouter");
+    EXPECT_EQ(écran.cmdAjouter.ToolTipText, u" Ajouter un élève. ");
+    EXPECT_EQ(écran.cmdSupprimer.Caption, u"&Supprimer");
+    EXPECT_EQ(écran.cmdSupprimer.ToolTipText, u" Supprimer un fichier élève ");
+    EXPECT_EQ(écran.cmdAnnuler.Caption, u"A&nnuler");
+    EXPECT_FALSE(écran.cmdAnnuler.Visible || écran.lblConsigne.Visible);
+    EXPECT_EQ(écran.cmdQuitter.Caption, u"&Modifications terminées");
+    EXPECT_EQ(écran.txtNom.ToolTipText, u" Entrée pour valider ");
+    EXPECT_EQ(écran.lblConsigne.Caption, u"Entrée pour valider");
+    EXPECT_EQ(écran.txtCode.ToolTipText,
+              u" Entrez votre code à 6 chiifres (votre date de naissance par exemple) et retenez bien ce code. ");
+    EXPECT_EQ(écran.txtVérif.ToolTipText, u" Confirmez votre code ici. ");
+    EXPECT_EQ(écran.lblCode.Caption, u"Code erroné");
+    EXPECT_EQ(écran.cmdCheminRéseau.Caption, u"Travailler en réseau");
+    EXPECT_EQ(écran.cmdValiderCheminRéseau.Caption, u"Valider le chemin réseau");
+    EXPECT_EQ(écran.cmdValiderCheminRéseau.ToolTipText,
+              u" C'est le chemin qui sera désormais utilisé pour l'enregistrement des bilans. ");
+    EXPECT_EQ(écran.Label2.Caption, u"Chemin Réseau actuel pour les bilans des élèves :");
+}
+
 TEST(GestionEleves, OuvertureSansElèveNAfficheAucuneBoîte)
 {
     Banc banc;
@@ -91,9 +115,8 @@ TEST(GestionEleves, DossierRevenuEntreTempsEstListé)
 {
     Banc banc;
     banc.état.CheminBilans = banc.état.CheminAppli + u"/parti";
-    banc.plateforme.boîtes.push_back({Texte{DossierInaccessible}, Réponse::Ok, std::nullopt, [&] {
-                                          banc.Ecrire("parti/Paul.bil", "");
-                                      }});
+    banc.plateforme.boîtes.push_back(
+        {Texte{DossierInaccessible}, Réponse::Ok, std::nullopt, [&] { banc.Ecrire("parti/Paul.bil", ""); }});
     auto& écran = banc.Ouvrir<frmGestionEleves>();
     EXPECT_EQ(écran.cmbNoms.Text, u"Paul");
     EXPECT_EQ(banc.état.CheminBilans, banc.état.CheminAppli + u"/parti");
@@ -106,9 +129,7 @@ TEST(GestionEleves, DeuxMilleElèvesSontListésEnUneFois)
         banc.Ecrire("Élève " + std::to_string(i) + ".bil", "");
     auto écran = std::make_unique<frmGestionEleves>(banc.application);
     int changements = 0;
-    écran->cmbNoms.Observateur = [&] {
-        ++changements;
-    };
+    écran->cmbNoms.Observateur = [&] { ++changements; };
     auto& gestion = *écran;
     banc.Montrer(std::move(écran));
     EXPECT_EQ(gestion.cmbNoms.ListCount(), 2000);
@@ -224,9 +245,7 @@ TEST(GestionEleves, CréationImpossibleEstDite)
 {
     Banc banc;
     auto& écran = banc.Ouvrir<frmGestionEleves>();
-    banc.plateforme.échecEcriture = [](const Chemin&) {
-        return EchecFichier::Ouverture;
-    };
+    banc.plateforme.échecEcriture = [](const Chemin&) { return EchecFichier::Ouverture; };
     const auto fichier = DepuisChemin(banc.dossier / "Paul.bil");
     banc.AnnoncerBoîte(MessageEchec(EchecFichier::Ouverture, fichier));
     Valider(écran, u"Paul");
@@ -348,6 +367,26 @@ TEST(GestionEleves, NomSaisiAvecDesBlancsSeSupprimeAussitôt)
     EXPECT_FALSE(banc.Existe("Paul.bil"));
 }
 
+TEST(GestionEleves, NomQueLeDisqueEcritAutrementNeFaitPasSupprimerUnAutre)
+{
+    Banc banc;
+    banc.EcrireChamps("Code.txt", {u"123456"});
+    banc.Ecrire("Paul.bil", "gardé");
+    auto& écran = banc.Ouvrir<frmGestionEleves>();
+    écran.cmbNoms.Observateur = [&] {
+        if (const int place = écran.cmbNoms.Chercher(u"Zoé"); place >= 0)
+            écran.cmbNoms.RemoveItem(place);
+    };
+    Valider(écran, u"Zoé ");
+    EXPECT_EQ(écran.cmbNoms.Text, u"Zoé ");
+    EXPECT_EQ(écran.cmbNoms.ListIndex, -1);
+    écran.cmdSupprimer.Cliquer();
+    banc.AnnoncerBoîte(Texte{QuestionDestruction}, Réponse::Oui);
+    Frapper(écran.txtCode, u"123456");
+    EXPECT_EQ(banc.Lire("Paul.bil"), "gardé");
+    EXPECT_FALSE(banc.Existe("Zoé.bil"));
+}
+
 TEST(GestionEleves, SuppressionImpossibleEstDite)
 {
     Banc banc;
@@ -448,9 +487,7 @@ TEST(GestionEleves, CodeQuiNeSEcritPasEstDitEtNOuvreRien)
     auto& écran = banc.Ouvrir<frmGestionEleves>();
     écran.cmdSupprimer.Cliquer();
     Frapper(écran.txtCode, u"123456");
-    banc.plateforme.échecEcriture = [](const Chemin&) {
-        return EchecFichier::Ecriture;
-    };
+    banc.plateforme.échecEcriture = [](const Chemin&) { return EchecFichier::Ecriture; };
     banc.AnnoncerBoîte(MessageEchec(EchecFichier::Ecriture, DepuisChemin(banc.dossier / "Code.txt")));
     Frapper(écran.txtVérif, u"123456");
     EXPECT_FALSE(banc.état.CodeValide);
@@ -522,9 +559,7 @@ TEST(GestionEleves, CheminQuiNeSEcritPasEstDitEtLAncienReste)
     auto& écran = banc.Ouvrir<frmGestionEleves>();
     écran.cmdCheminRéseau.Cliquer();
     écran.dirLecteurs.Ouvrir(0);
-    banc.plateforme.échecEcriture = [](const Chemin&) {
-        return EchecFichier::Ouverture;
-    };
+    banc.plateforme.échecEcriture = [](const Chemin&) { return EchecFichier::Ouverture; };
     banc.AnnoncerBoîte(MessageEchec(EchecFichier::Ouverture, DepuisChemin(banc.dossier / "Chemin.txt")));
     écran.cmdValiderCheminRéseau.Cliquer();
     EXPECT_EQ(banc.état.CheminBilans, DepuisChemin(banc.dossier));

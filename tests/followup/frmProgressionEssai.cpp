@@ -224,7 +224,15 @@ TEST(Progression, AxesEtMarques)
     EXPECT_EQ(écran.Line2.Nombre(), 11);
     EXPECT_EQ(écran.Line2(0).Y1, écran.lineAbs.Y1);
     EXPECT_EQ(écran.Line2(10).Y1, écran.lineOrd.Y1);
+    EXPECT_EQ(écran.Label1.Caption, u"Textes étudiés (dans l'ordre)");
+    EXPECT_EQ(écran.Label2(0).Caption, u"0");
     EXPECT_EQ(écran.Label2(1).Caption, u"5");
+    EXPECT_EQ(écran.Label2(2).Caption, u"10");
+    EXPECT_EQ(écran.Label3.Caption,
+              u"Cliquez sur un texte de légende pour faire apparaître la courbe en sur-impression.");
+    EXPECT_EQ(écran.lblLégende(0).ToolTipText,
+              u" Cliquer sur le texte de légende pour tracer la courbe en sur-impression. ");
+    EXPECT_EQ(écran.cmdQuitter.Caption, u"&Quitter");
     EXPECT_EQ(écran.Label2(1).Top + écran.Label2(1).Height / 2, écran.Line2(5).Y1());
     // The drawing has the units of the axes.
     EXPECT_EQ(écran.imgCourbes.Picture().largeur, écran.imgCourbes.Width());
@@ -241,9 +249,7 @@ TEST(Progression, LeCadreDUnGroupeEtSonImageLOuvrent)
     auto& choix = banc.Choix();
     Notes(banc, 0, {u"5"});
     const auto légende = [](Texte attendue) {
-        return [attendue](frmProgression& écran) {
-            EXPECT_EQ(écran.lblLégende(0).Caption, attendue);
-        };
+        return [attendue](frmProgression& écran) { EXPECT_EQ(écran.lblLégende(0).Caption, attendue); };
     };
     banc.QuandOuvert<frmProgression>(légende(u"Mots en désordre"));
     choix.frmOrdre.Cliquer();

@@ -279,9 +279,7 @@ TEST(Closures, FerméPendantLeMessageDeTexteTropCourt)
     auto& référence = *écran;
     banc.Texte_(u"court");
     banc.Hasards({0.0});
-    banc.plateforme.boîtes.push_back({TropCourt, Réponse::Ok, {}, [&] {
-                                          référence.FermerParCroix();
-                                      }});
+    banc.plateforme.boîtes.push_back({TropCourt, Réponse::Ok, {}, [&] { référence.FermerParCroix(); }});
     banc.Montrer(std::move(écran));
     EXPECT_FALSE(référence.EstChargé());
 }
@@ -421,9 +419,7 @@ TEST(Closures, FerméPendantLeMessageDuDoubleClic)
 {
     Banc banc;
     auto& écran = Ouvrir(banc, Nombres);
-    banc.plateforme.boîtes.push_back({UneSeuleFois, Réponse::Ok, u"Avertissement", [&] {
-                                          écran.FermerParCroix();
-                                      }});
+    banc.plateforme.boîtes.push_back({UneSeuleFois, Réponse::Ok, u"Avertissement", [&] { écran.FermerParCroix(); }});
     écran.rtfClosures.DoubleCliquer(35);
     EXPECT_FALSE(écran.EstChargé());
     EXPECT_FALSE(banc.état.CorrectionEnCours);
@@ -491,9 +487,7 @@ TEST(Closures, UnLongTexteSOuvreEnUneEdition)
     auto& boîte = écran->rtfClosures;
     auto& liste = écran->cmbClosures;
     int éditions = 0;
-    boîte.EditionFaite = [&](const RichTextBox::Edition&) {
-        ++éditions;
-    };
+    boîte.EditionFaite = [&](const RichTextBox::Edition&) { ++éditions; };
     banc.Montrer(std::move(écran));
 
     EXPECT_EQ(éditions, 1);

@@ -73,6 +73,15 @@ TEST(Questionnaire, CommenceParLaConsigneTexteCaché)
     Questionnaire(banc, 1);
     auto& écran = Ouvrir(banc, 0);
     EXPECT_EQ(écran.Caption, u"Questionnaire / Léa");
+    EXPECT_EQ(écran.Text1.Text, u"Lis bien le texte qui va s'afficher : tu devras ensuite répondre à des questions "
+                                u"sans pouvoir le relire.\r\n");
+    EXPECT_EQ(écran.cmdCommencer.Caption, u"Afficher le texte");
+    EXPECT_EQ(écran.cmdOk.Caption, u"Clique ici quand tu as lu tout le texte");
+    EXPECT_EQ(écran.frameQuestions.Caption, u"   Questionnaire");
+    EXPECT_EQ(écran.Label1.Caption, u"Question N° ");
+    EXPECT_EQ(écran.cmdQuitter.Caption, u"&Quitter");
+    EXPECT_EQ(écran.lblConseil.Caption, u"Clique sur le cadre gris du questionnaire pour le déplacer.");
+    EXPECT_EQ(écran.cmdInitialise.Caption, u"Questions disparues ! Clique ici.");
     EXPECT_TRUE(écran.frameConsigne.Visible && écran.cmdCommencer.Visible);
     EXPECT_FALSE(écran.rtfTexte.Visible || écran.cmdOk.Visible || écran.frameQuestions.Visible ||
                  écran.lblConseil.Visible || écran.cmdInitialise.Visible);
@@ -215,9 +224,7 @@ TEST(Questionnaire, VitesseQuiNeSEcritPasEstDiteEtLesQuestionsViennent)
     auto& écran = Ouvrir(banc, 0);
     écran.cmdCommencer.Cliquer();
     banc.Avancer(60s);
-    banc.plateforme.échecEcriture = [](const Chemin&) {
-        return EchecFichier::Ecriture;
-    };
+    banc.plateforme.échecEcriture = [](const Chemin&) { return EchecFichier::Ecriture; };
     banc.AnnoncerBoîte(u"Impossible d'enregistrer…");
     écran.cmdOk.Cliquer();
     EXPECT_TRUE(écran.frameQuestions.Visible);

@@ -199,9 +199,7 @@ TEST(TexteMasqué, FerméPendantLAide)
 {
     Banc banc;
     auto& écran = Ouvrir(banc, u"abc");
-    banc.plateforme.boîtes.push_back({Aide, Réponse::Ok, u"Aide", [&] {
-                                          écran.FermerParCroix();
-                                      }});
+    banc.plateforme.boîtes.push_back({Aide, Réponse::Ok, u"Aide", [&] { écran.FermerParCroix(); }});
     Frapper(écran, u'a');
     EXPECT_FALSE(écran.EstChargé());
     EXPECT_EQ(banc.Note(IndexTexteMasqué), u"");
@@ -385,9 +383,7 @@ TEST(TexteMasqué, UnLongTexteSeMasqueEtSeDévoileEnUneEdition)
     auto nouvel = std::make_unique<frmTexteMasqué>(banc.Choix());
     auto& écran = *nouvel;
     std::vector<RichTextBox::Edition> éditions;
-    écran.rtfMasqué.EditionFaite = [&](const RichTextBox::Edition& édition) {
-        éditions.push_back(édition);
-    };
+    écran.rtfMasqué.EditionFaite = [&](const RichTextBox::Edition& édition) { éditions.push_back(édition); };
     banc.Montrer(std::move(nouvel));
     EXPECT_EQ(éditions.size(), 1U);
 

@@ -221,18 +221,14 @@ TEST_F(MotsEnDésordreEssai, SansPhraseQuiConvienneQuatreVingtDixNeufTiragesMèn
 TEST_F(MotsEnDésordreEssai, UnTexteVideMèneALaSortie)
 {
     texte = u"";
-    banc.plateforme.toujours = [] {
-        return 0.5;
-    };
+    banc.plateforme.toujours = [] { return 0.5; };
     EXPECT_TRUE(Ouvrir({}).frameQuitter.Visible);
 }
 
 TEST_F(MotsEnDésordreEssai, UnTexteSansBlancNiSigneMèneALaSortie)
 {
     texte = Texte(100000, u'a');
-    banc.plateforme.toujours = [] {
-        return 0.5;
-    };
+    banc.plateforme.toujours = [] { return 0.5; };
     EXPECT_TRUE(Ouvrir({}).frameQuitter.Visible);
 }
 
@@ -516,9 +512,7 @@ TEST_F(MotsEnDésordreEssai, TroisPhrasesJustesPuisLaSortieValentDix)
     Reconstituer(écran);
     Suivante(écran, 3);
     Reconstituer(écran);
-    banc.plateforme.toujours = [] {
-        return 0.0;
-    };
+    banc.plateforme.toujours = [] { return 0.0; };
     écran.cmdSuivant.Cliquer();
     EXPECT_TRUE(écran.frameQuitter.Visible);
     écran.cmdAbandonner.Cliquer();

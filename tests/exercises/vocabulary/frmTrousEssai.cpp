@@ -329,9 +329,7 @@ TEST(Trous, FerméPendantLeMessageDuDoubleClic)
 {
     Banc banc;
     auto& écran = Ouvrir(banc, u"Le [chat] dort.");
-    banc.plateforme.boîtes.push_back({UneSeuleFois, Réponse::Ok, u"Avertissement", [&] {
-                                          écran.FermerParCroix();
-                                      }});
+    banc.plateforme.boîtes.push_back({UneSeuleFois, Réponse::Ok, u"Avertissement", [&] { écran.FermerParCroix(); }});
     écran.rtfTrous.DoubleCliquer(4);
     EXPECT_FALSE(écran.EstChargé());
     EXPECT_FALSE(banc.état.CorrectionEnCours);
@@ -424,9 +422,7 @@ TEST(Trous, UnLongTexteSOuvreEnUneEdition)
     auto écran = std::make_unique<frmTrous>(banc.Choix());
     auto& boîte = écran->rtfTrous;
     int éditions = 0;
-    boîte.EditionFaite = [&](const RichTextBox::Edition&) {
-        ++éditions;
-    };
+    boîte.EditionFaite = [&](const RichTextBox::Edition&) { ++éditions; };
     auto& liste = écran->cmbTrous;
     banc.Montrer(std::move(écran));
 
