@@ -16,6 +16,7 @@
 #include <QTextLayout>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -85,7 +86,7 @@ protected:
     void mousePressEvent(QMouseEvent* événement) override
     {
         pressée_ = événement->button() == Qt::LeftButton;
-        clavier_ = false;
+        const bool anneau = std::exchange(clavier_, false);
         if (!isReadOnly()) {
             QTextEdit::mousePressEvent(événement);
             return;
@@ -94,7 +95,8 @@ protected:
             return;
         setFocus(Qt::MouseFocusReason);
         visé_ = CaractèreSous(événement->position().toPoint());
-        viewport()->update();
+        if (anneau)
+            viewport()->update();
     }
 
     void mouseMoveEvent(QMouseEvent* événement) override

@@ -191,15 +191,8 @@ private:
     Millisecondes maximum_{20000};
 };
 
-} // namespace
-
-int main()
+void Répondre(Display* affichage)
 {
-    auto* affichage = XOpenDisplay(nullptr);
-    if (affichage == nullptr) {
-        std::cerr << "sonde : pas d'affichage\n";
-        return 1;
-    }
     Sonde sonde{affichage};
     for (std::string ligne; std::getline(std::cin, ligne);) {
         std::istringstream mots{ligne};
@@ -230,5 +223,22 @@ int main()
             std::cout << "?" << std::endl;
         }
     }
-    // The display closes with the process: what is shared with the server goes by itself.
+}
+
+} // namespace
+
+int main()
+{
+    auto* affichage = XOpenDisplay(nullptr);
+    if (affichage == nullptr) {
+        std::cerr << "sonde : pas d'affichage\n";
+        return 1;
+    }
+    try {
+        Répondre(affichage);
+    } catch (const std::exception& échec) {
+        std::cerr << échec.what() << '\n';
+        return 1;
+    }
+    XCloseDisplay(affichage);
 }
