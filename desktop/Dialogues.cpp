@@ -8,8 +8,10 @@
 #include <QApplication>
 #include <QColorDialog>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QFontDialog>
 #include <QLibraryInfo>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QTranslator>
 
@@ -96,6 +98,33 @@ void ChargerTraductions()
         QApplication::installTranslator(traducteur);
 }
 
+namespace {
+
+// The toolkit asks its own picture of the folder, which may not be read yet, whether a name typed is a folder, and then
+// empties the name: a file that is really there is taken at once.
+class DialogueFichiers final : public QFileDialog {
+public:
+    using QFileDialog::QFileDialog;
+
+    QString choisi; // the file that was really there
+
+    void accept() override
+    {
+        const auto* nom = findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+        if (const bool ouvrir = acceptMode() == QFileDialog::AcceptOpen; ouvrir && nom != nullptr) {
+            const auto fichier = directory().absoluteFilePath(nom->text());
+            if (QFileInfo{fichier}.isFile()) {
+                choisi = fichier;
+                QDialog::accept();
+                return;
+            }
+        }
+        QFileDialog::accept();
+    }
+};
+
+} // namespace
+
 QStringList TraduireFiltre(const Texte& filtre)
 {
     QStringList filtres;
@@ -110,7 +139,7 @@ QStringList TraduireFiltre(const Texte& filtre)
 
 std::unique_ptr<QFileDialog> CréerDialogueFichier(const DialogueFichier& demande, bool enregistrer, QWidget* parent)
 {
-    auto dialogue = std::make_unique<QFileDialog>(parent);
+    auto dialogue = std::make_unique<DialogueFichiers>(parent);
     dialogue->setFont(PolicePour({}, 0, false, EchelleDe(parent)));
     dialogue->setOption(QFileDialog::DontUseNativeDialog);
     dialogue->setAcceptMode(enregistrer ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
@@ -131,6 +160,9 @@ std::unique_ptr<QFileDialog> CréerDialogueFichier(const DialogueFichier& demand
     dialogue->setWindowTitle(!demande.Titre.empty() ? EnQString(demande.Titre)
                              : enregistrer          ? QStringLiteral("Enregistrer sous")
                                                     : QStringLiteral("Ouvrir"));
+    // Suggestions that pop up while a whole path is typed swallow the Enter key, and the name with it.
+    if (auto* nom = dialogue->findChild<QLineEdit*>(QStringLiteral("fileNameEdit")))
+        nom->setCompleter(nullptr);
     if (parent != nullptr)
         dialogue->resize(parent->size() * 8 / 10);
     return dialogue;
@@ -138,7 +170,12 @@ std::unique_ptr<QFileDialog> CréerDialogueFichier(const DialogueFichier& demand
 
 std::optional<Texte> FichierChoisi(const QFileDialog& dialogue)
 {
-    if (dialogue.result() != QDialog::Accepted || dialogue.selectedFiles().isEmpty())
+    if (dialogue.result() != QDialog::Accepted)
+        return std::nullopt;
+    const auto* nôtre = dynamic_cast<const DialogueFichiers*>(&dialogue);
+    if (nôtre != nullptr && !nôtre->choisi.isEmpty())
+        return DepuisQString(nôtre->choisi);
+    if (dialogue.selectedFiles().isEmpty())
         return std::nullopt;
     return DepuisQString(dialogue.selectedFiles().front());
 }
