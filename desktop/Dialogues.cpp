@@ -115,7 +115,7 @@ public:
             const auto fichier = directory().absoluteFilePath(nom->text());
             if (QFileInfo{fichier}.isFile()) {
                 choisi = fichier;
-                QDialog::accept();
+                done(QDialog::Accepted);
                 return;
             }
         }
