@@ -19,6 +19,8 @@
 #include "followup/frmGestionEleves.h"
 #include "followup/frmProgression.h"
 
+namespace tirelune {
+
 namespace {
 
 // A screen that the program opens with itself alone.
@@ -71,3 +73,5 @@ void RemplirTable(Application& application)
     table["frmTexteMasqué"] = SurLeChoix<frmTexteMasqué>;
     table["frmTrous"] = SurLeChoix<frmTrous>;
 }
+
+} // namespace tirelune

@@ -5,6 +5,8 @@
 #include <algorithm>
 #include <cassert>
 
+namespace tirelune {
+
 namespace {
 
 using NuméroFormat = Plages<Format>::Numéro;
@@ -204,7 +206,7 @@ void Aplatir(const TexteRiche& texte, std::size_t début, std::size_t fin, Plage
     plat.Caractères.assign(texte.Caractères(), début, fin - début);
     plat.Formats.clear();
     texte.PourChaqueTranche(début, fin, [&](const Tranche& tranche) {
-        plat.Formats.insert(plat.Formats.end(), tranche.Fin - tranche.Début, formats.Interner(*tranche.Format_));
+        plat.Formats.insert(plat.Formats.end(), tranche.Fin - tranche.Début, formats.Interner(*tranche.Style));
     });
 }
 
@@ -239,7 +241,7 @@ Plages<FormatParagraphe> AccorderParagraphes(const TexteRiche& avant, const Text
         débutAvant = FinDuParagraphe(avant.Caractères(), avant.Caractères().find(u'\n', débutAvant));
         const auto& suivant = avant.ParagrapheEn(débutAvant);
         if (ligne != Texte::npos && VueTexte(après).substr(0, fin).ends_with(FinDeLigne))
-            format.Alignement_ = suivant.Alignement_;
+            format.Alignement = suivant.Alignement;
         else
             format = suivant;
     }
@@ -274,3 +276,5 @@ void CorrigerTexte(RichTextBox& rtfTexte)
     if (corrigé != rtfTexte.TextRTF())
         rtfTexte.TextRTF(std::move(corrigé));
 }
+
+} // namespace tirelune

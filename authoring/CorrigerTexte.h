@@ -1,6 +1,8 @@
 // Automatic formatting of a text: blanks and punctuation in one form, a tab at the head of each paragraph.
 #pragma once
 
+namespace tirelune {
+
 class RichTextBox;
 class TexteRiche;
 
@@ -8,3 +10,5 @@ class TexteRiche;
 void CorrigerTexte(RichTextBox& rtfTexte);
 
 TexteRiche TexteCorrigé(const TexteRiche& texte);
+
+} // namespace tirelune

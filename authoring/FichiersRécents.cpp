@@ -2,6 +2,8 @@
 
 #include "core/Fichiers.h"
 
+namespace tirelune {
+
 Texte FichierRécents(VueTexte cheminAppli)
 {
     return Texte{cheminAppli} + u"Récents.dat";
@@ -47,3 +49,5 @@ std::string ComposerRécents(const ListBox& récents)
     }
     return contenu;
 }
+
+} // namespace tirelune

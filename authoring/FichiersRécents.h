@@ -4,6 +4,8 @@
 
 #include <string>
 
+namespace tirelune {
+
 inline constexpr int RécentsMaximum = 9;
 
 // Beside the program's folder, under a name that starts with the folder's own: existing lists lie there.
@@ -18,3 +20,5 @@ bool LireRécents(ListBox& récents, const Texte& fichier);
 
 // The file's bytes, Windows-1252. A path that such a line can't hold is left out.
 std::string ComposerRécents(const ListBox& récents);
+
+} // namespace tirelune

@@ -2,6 +2,8 @@
 
 #include "core/RichTextBox.h"
 
+namespace tirelune {
+
 namespace {
 
 // Neither apostrophe nor capital accented letter: a word is cut short of them.
@@ -31,3 +33,5 @@ bool MarquerMot(RichTextBox& rtfTexte)
     rtfTexte.SelStrikeThru = àBarrer;
     return true;
 }
+
+} // namespace tirelune

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+namespace tirelune {
+
 namespace {
 
 constexpr std::size_t LongueurProposée = 25; // characters
@@ -26,3 +28,5 @@ Texte NomProposé(VueTexte texte)
     // The blanks that end the text are trimmed with the name.
     return Rogner(CouperNomFichier(texte.substr(début, LongueurProposée))) + u".rtf";
 }
+
+} // namespace tirelune

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cassert>
 
+namespace tirelune {
+
 // ---- Search ------------------------------------------------------------------------------------------------------
 
 Chercheur::Chercheur(VueTexte cherché) : cherché_(Minuscules(cherché)), replis_(cherché.size(), 0)
@@ -123,12 +125,12 @@ private:
                 joint_.reset();
         }
         source_.PourChaqueParagraphe(
-            recopiés_, fin, [this](const TrancheParagraphes& tranche) { Recopier(tranche.Fin, *tranche.Format_); });
+            recopiés_, fin, [this](const TrancheParagraphes& tranche) { Recopier(tranche.Fin, *tranche.Style); });
     }
     void Recopier(std::size_t fin, const FormatParagraphe& paragraphe)
     {
         source_.PourChaqueTranche(recopiés_, fin, [&](const Tranche& tranche) {
-            résultat_.Ajouter(texte_.substr(tranche.Début, tranche.Fin - tranche.Début), *tranche.Format_, paragraphe);
+            résultat_.Ajouter(texte_.substr(tranche.Début, tranche.Fin - tranche.Début), *tranche.Style, paragraphe);
         });
         recopiés_ = fin;
     }
@@ -162,3 +164,5 @@ std::optional<TexteRemplacé> RemplacerTout(const TexteRiche& texte, VueTexte ch
 {
     return Réécriture{texte, cherché, remplacement}.Faire();
 }
+
+} // namespace tirelune

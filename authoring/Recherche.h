@@ -5,6 +5,8 @@
 #include <optional>
 #include <vector>
 
+namespace tirelune {
+
 // Looks at each character of a text once, whatever is sought. What is sought isn't empty.
 class Chercheur {
 public:
@@ -25,7 +27,7 @@ private:
 };
 
 struct TexteRemplacé {
-    TexteRiche Texte_;
+    TexteRiche Contenu;
     std::size_t Curseur = 0; // behind the last replacement
 };
 
@@ -33,3 +35,5 @@ struct TexteRemplacé {
 // began, plus the length sought, less one. It ends when it would find again what it has just put in. Nothing when
 // nothing was found. Formats as told by TexteRiche::Remplacer.
 std::optional<TexteRemplacé> RemplacerTout(const TexteRiche& texte, VueTexte cherché, VueTexte remplacement);
+
+} // namespace tirelune

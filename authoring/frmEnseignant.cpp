@@ -11,6 +11,8 @@
 #include <array>
 #include <cmath>
 
+namespace tirelune {
+
 namespace {
 
 constexpr int TaillesProposées[] = {8, 9, 10, 11, 12, 14, 16, 18, 20, 22, 24, 26, 28, 36, 48, 72};
@@ -505,7 +507,7 @@ void frmEnseignant::CorrigerTexte()
         return;
     frameCorrection.Visible = true;
     frameCorrection.Refresh();
-    ::CorrigerTexte(rtfTexte);
+    tirelune::CorrigerTexte(rtfTexte);
     frameCorrection.Visible = false;
     rtfTexte.SelStart(0);
 }
@@ -640,7 +642,7 @@ void frmEnseignant::mnuItalique_Click()
     FormatChangé();
 }
 
-void frmEnseignant::Aligner(Alignement alignement)
+void frmEnseignant::Aligner(Cadrage alignement)
 {
     rtfTexte.SelAlignment = alignement;
     FormatChangé();
@@ -648,17 +650,17 @@ void frmEnseignant::Aligner(Alignement alignement)
 
 void frmEnseignant::mnuGauche_Click()
 {
-    Aligner(Alignement::Gauche);
+    Aligner(Cadrage::Gauche);
 }
 
 void frmEnseignant::mnuCentre_Click()
 {
-    Aligner(Alignement::Centre);
+    Aligner(Cadrage::Centre);
 }
 
 void frmEnseignant::mnuDroite_Click()
 {
-    Aligner(Alignement::Droite);
+    Aligner(Cadrage::Droite);
 }
 
 void frmEnseignant::mnuPolice_Click()
@@ -699,10 +701,10 @@ void frmEnseignant::ActualiserFormat()
     MontrerEtat("btnSouligné", mnuSouligné, rtfTexte.SelUnderline());
     MontrerEtat("btnItalique", mnuItalique, rtfTexte.SelItalic());
     const auto alignement = rtfTexte.SelAlignment();
-    const auto est = [&](Alignement un) { return alignement ? std::optional{*alignement == un} : std::nullopt; };
-    MontrerEtat("btnGauche", mnuGauche, est(Alignement::Gauche));
-    MontrerEtat("btnCentrer", mnuCentre, est(Alignement::Centre));
-    MontrerEtat("btnDroite", mnuDroite, est(Alignement::Droite));
+    const auto est = [&](Cadrage un) { return alignement ? std::optional{*alignement == un} : std::nullopt; };
+    MontrerEtat("btnGauche", mnuGauche, est(Cadrage::Gauche));
+    MontrerEtat("btnCentrer", mnuCentre, est(Cadrage::Centre));
+    MontrerEtat("btnDroite", mnuDroite, est(Cadrage::Droite));
     MontrerTaille(rtfTexte.SelFontSize());
     txtPolices(0).Text = rtfTexte.SelFontName().value_or(Texte{});
 }
@@ -822,3 +824,5 @@ void frmEnseignant::txtPolices_KeyPress(int i, Touche& touche)
     }
     touche.Avaler();
 }
+
+} // namespace tirelune

@@ -7,6 +7,8 @@
 
 #include <span>
 
+namespace tirelune {
+
 class frmEnseignant final : public Ecran {
 public:
     explicit frmEnseignant(frmTirelune& accueil);
@@ -132,7 +134,7 @@ private:
     void txtPolices_KeyPress(int i, Touche& touche);
 
     void FormatChangé();
-    void Aligner(Alignement alignement);
+    void Aligner(Cadrage alignement);
     void MontrerEtat(std::string_view clé, MenuOption& option, std::optional<bool> valeur);
     void MontrerTaille(std::optional<double> taille);
 
@@ -152,3 +154,5 @@ private:
 
     frmTirelune& accueil_;
 };
+
+} // namespace tirelune

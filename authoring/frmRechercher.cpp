@@ -2,6 +2,8 @@
 
 #include "authoring/Recherche.h"
 
+namespace tirelune {
+
 frmRechercher::frmRechercher(Application& application, RichTextBox& rtfTexte, RichTextBox& rtfSauve)
     : Ecran(application, "frmRechercher", u"Rechercher"), rtfTexte_(rtfTexte), rtfSauve_(rtfSauve)
 {
@@ -102,8 +104,10 @@ void frmRechercher::cmdToutRemplacer_Click()
         return;
     GarderCopie();
     if (auto remplacé = RemplacerTout(rtfTexte_.TextRTF(), txtRechercher.Text(), txtRemplacer.Text())) {
-        rtfTexte_.TextRTF(std::move(remplacé->Texte_));
+        rtfTexte_.TextRTF(std::move(remplacé->Contenu));
         rtfTexte_.SelStart(remplacé->Curseur);
     }
     Décharger();
 }
+
+} // namespace tirelune

@@ -2,6 +2,8 @@
 #pragma once
 #include "core/Ecran.h"
 
+namespace tirelune {
+
 class frmRechercher final : public Ecran {
 public:
     // The editor's text, and the box that keeps it as it was before a replacement.
@@ -34,3 +36,5 @@ private:
     RichTextBox& rtfTexte_;
     RichTextBox& rtfSauve_;
 };
+
+} // namespace tirelune

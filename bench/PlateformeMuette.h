@@ -2,6 +2,8 @@
 #pragma once
 #include "core/Plateforme.h"
 
+namespace tirelune {
+
 class PlateformeMuette : public Plateforme {
 public:
     double Horloge() override { return 0; }
@@ -28,3 +30,5 @@ public:
     bool AttendreArrêt(Timer&) override { return true; }
     void RéglerMinuterie(Timer&) override {}
 };
+
+} // namespace tirelune

@@ -9,6 +9,8 @@
 #include <cstdlib>
 #include <string>
 
+using namespace tirelune;
+
 namespace {
 
 constexpr int BeaucoupDeTextes = 5000;

@@ -4,6 +4,8 @@
 
 #include <benchmark/benchmark.h>
 
+using namespace tirelune;
+
 namespace {
 
 // One byte a character, as the texts have them in their files.
@@ -19,7 +21,7 @@ TexteRiche Prose(std::size_t octets)
     Format gras;
     gras.Gras = true;
     FormatParagraphe centré;
-    centré.Alignement_ = Alignement::Centre;
+    centré.Alignement = Cadrage::Centre;
 
     TexteRiche texte;
     for (std::size_t i = 0; texte.Longueur() < octets; ++i) {

@@ -6,6 +6,8 @@
 
 #include <benchmark/benchmark.h>
 
+using namespace tirelune;
+
 namespace {
 
 constexpr std::size_t Caractères = 20'000;

@@ -9,6 +9,8 @@
 #include <span>
 #include <string>
 
+using namespace tirelune;
+
 namespace {
 
 // Of the whole process, from what the kernel tells about it; 0 elsewhere than on Linux.

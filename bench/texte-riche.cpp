@@ -3,6 +3,8 @@
 
 #include <benchmark/benchmark.h>
 
+using namespace tirelune;
+
 namespace {
 
 TexteRiche TexteLong()

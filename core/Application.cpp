@@ -2,6 +2,8 @@
 
 #include "core/Ecran.h"
 
+namespace tirelune {
+
 void Application::Avertir(Texte message, Texte titre, Icône symbole)
 {
     plateforme.AfficherBoîte({std::move(message), std::move(titre), Boutons::Ok, symbole});
@@ -18,3 +20,5 @@ std::size_t Tirer(Plateforme& plateforme, std::size_t n)
     plateforme.AmorcerHasard();
     return static_cast<std::size_t>(static_cast<double>(n) * plateforme.Hasard());
 }
+
+} // namespace tirelune

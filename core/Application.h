@@ -9,6 +9,8 @@
 #include <string>
 #include <string_view>
 
+namespace tirelune {
+
 class Ecran;
 
 class Application {
@@ -29,3 +31,5 @@ public:
     // A box with Yes and No.
     bool Demander(Texte question, Texte titre = u"Avertissement");
 };
+
+} // namespace tirelune

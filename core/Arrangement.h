@@ -5,6 +5,8 @@
 #include <type_traits>
 #include <vector>
 
+namespace tirelune {
+
 class Elément;
 template <class T>
 class Tableau;
@@ -14,29 +16,29 @@ enum class Disposition {
     Elément,    // one element
     Ligne,      // children side by side
     Colonne,    // children one under the other
-    Grille,     // children in rows of `colonnes`
+    Grille,     // children in rows of `Colonnes`
     Pile,       // children one upon the other, all as large as the place
     Ressort,    // takes the room that is left
     Centré,     // its child, as small as it is, in the middle of the place
     Cadre,      // a frame element and what it holds
     Couverture, // a frame element that covers the whole screen while it is visible, and what it holds
     Libre,      // children at their own Left, Top, Width, Height, in twips
-    Toile,      // children at their own places in a drawing of largeur x hauteur, scaled to the place
+    Toile,      // children at their own places in a drawing of Largeur x Hauteur, scaled to the place
 };
 
 struct Arrangement {
-    Disposition genre = Disposition::Vide;
-    Elément* élément = nullptr; // of Elément, Cadre and Couverture
-    std::vector<Arrangement> enfants;
-    int colonnes = 0;
-    int largeur = 0; // of a Toile, in its own units; else minimum in twips, 0: as the toolkit likes
-    int hauteur = 0;
-    int étirement = 0; // share of the room that is left; 0: only what it needs
+    Disposition Genre = Disposition::Vide;
+    Elément* Occupant = nullptr; // of Elément, Cadre and Couverture
+    std::vector<Arrangement> Enfants;
+    int Colonnes = 0;
+    int Largeur = 0; // of a Toile, in its own units; else minimum in twips, 0: as the toolkit likes
+    int Hauteur = 0;
+    int Etirement = 0; // share of the room that is left; 0: only what it needs
 
     Arrangement() = default;
-    Arrangement(Elément& un) : genre(Disposition::Elément), élément(&un) {} // NOLINT(google-explicit-constructor)
-    Arrangement(Disposition g, std::initializer_list<Arrangement> e) : genre(g), enfants(e) {}
-    Arrangement(Disposition g, std::vector<Arrangement> e) : genre(g), enfants(std::move(e)) {}
+    Arrangement(Elément& un) : Genre(Disposition::Elément), Occupant(&un) {} // NOLINT(google-explicit-constructor)
+    Arrangement(Disposition g, std::initializer_list<Arrangement> e) : Genre(g), Enfants(e) {}
+    Arrangement(Disposition g, std::vector<Arrangement> e) : Genre(g), Enfants(std::move(e)) {}
 };
 
 struct Ligne : Arrangement {
@@ -50,18 +52,18 @@ struct Colonne : Arrangement {
     explicit Colonne(Tableau<T>& éléments);
 };
 struct Grille : Arrangement {
-    Grille(int colonnes_, std::initializer_list<Arrangement> e) : Arrangement(Disposition::Grille, e)
+    Grille(int colonnes, std::initializer_list<Arrangement> e) : Arrangement(Disposition::Grille, e)
     {
-        colonnes = colonnes_;
+        Colonnes = colonnes;
     }
     template <class T>
-    Grille(int colonnes_, Tableau<T>& éléments);
+    Grille(int colonnes, Tableau<T>& éléments);
 };
 struct Pile : Arrangement {
     Pile(std::initializer_list<Arrangement> e) : Arrangement(Disposition::Pile, e) {}
 };
 struct Ressort : Arrangement {
-    Ressort() : Arrangement(Disposition::Ressort, std::vector<Arrangement>{}) { étirement = 1; }
+    Ressort() : Arrangement(Disposition::Ressort, std::vector<Arrangement>{}) { Etirement = 1; }
 };
 struct Centré : Arrangement {
     Centré(Arrangement un) : Arrangement(Disposition::Centré, {std::move(un)}) {} // NOLINT(google-explicit-constructor)
@@ -69,37 +71,39 @@ struct Centré : Arrangement {
 struct Cadre : Arrangement {
     Cadre(Elément& cadre, Arrangement contenu) : Arrangement(Disposition::Cadre, {std::move(contenu)})
     {
-        élément = &cadre;
+        Occupant = &cadre;
     }
 };
 struct Couverture : Arrangement {
     Couverture(Elément& cadre, Arrangement contenu) : Arrangement(Disposition::Couverture, {std::move(contenu)})
     {
-        élément = &cadre;
+        Occupant = &cadre;
     }
 };
 struct Libre : Arrangement {
     Libre(std::initializer_list<Arrangement> e) : Arrangement(Disposition::Libre, e) {}
 };
 struct Toile : Arrangement {
-    Toile(int largeur_, int hauteur_, std::vector<Arrangement> e) : Arrangement(Disposition::Toile, std::move(e))
+    Toile(int largeur, int hauteur, std::vector<Arrangement> e) : Arrangement(Disposition::Toile, std::move(e))
     {
-        largeur = largeur_;
-        hauteur = hauteur_;
-        étirement = 1;
+        Largeur = largeur;
+        Hauteur = hauteur;
+        Etirement = 1;
     }
 };
 
 // The same place, taking its share of the room that is left.
 inline Arrangement Extensible(Arrangement un, int part = 1)
 {
-    un.étirement = part;
+    un.Etirement = part;
     return un;
 }
 // The same place, never smaller than this (twips).
 inline Arrangement AuMoins(int largeur, int hauteur, Arrangement un)
 {
-    un.largeur = largeur;
-    un.hauteur = hauteur;
+    un.Largeur = largeur;
+    un.Hauteur = hauteur;
     return un;
 }
+
+} // namespace tirelune

@@ -2,6 +2,8 @@
 
 #include "core/TexteRiche.h"
 
+namespace tirelune {
+
 namespace {
 
 constexpr char16_t ApostropheOuvrante = 0x2018;
@@ -44,3 +46,5 @@ Texte NormaliserCollage(VueTexte collé)
     }
     return NormaliserLignes(texte);
 }
+
+} // namespace tirelune

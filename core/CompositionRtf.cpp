@@ -2,6 +2,8 @@
 
 #include <utility>
 
+namespace tirelune {
+
 namespace rtf {
 
 namespace {
@@ -80,10 +82,10 @@ Plages<Format>::Numéro Composition::NuméroDe(Clé clé)
 
 Plages<FormatParagraphe>::Numéro Composition::NuméroDe(const Paragraphe& paragraphe)
 {
-    return paragraphes_.Interner({.Alignement_ = paragraphe.alignement,
-                                  .RetraitGauche = paragraphe.gauche,
-                                  .RetraitDroit = paragraphe.droit,
-                                  .RetraitPremièreLigne = paragraphe.première});
+    return paragraphes_.Interner({.Alignement = paragraphe.Alignement,
+                                  .RetraitGauche = paragraphe.Gauche,
+                                  .RetraitDroit = paragraphe.Droit,
+                                  .RetraitPremièreLigne = paragraphe.Première});
 }
 
 void Composition::Vider()
@@ -93,3 +95,5 @@ void Composition::Vider()
 }
 
 } // namespace rtf
+
+} // namespace tirelune

@@ -8,6 +8,8 @@
 #include <cstddef>
 #include <cstdint>
 
+namespace tirelune {
+
 namespace rtf {
 
 inline constexpr int TailleParDéfaut = 24; // half points
@@ -21,10 +23,10 @@ inline constexpr unsigned DécalagePolice = 41;
 
 // In twips; the reader refuses what doesn't fit.
 struct Paragraphe {
-    std::int16_t gauche = 0;
-    std::int16_t droit = 0;
-    std::int16_t première = 0;
-    Alignement alignement = Alignement::Gauche;
+    std::int16_t Gauche = 0;
+    std::int16_t Droit = 0;
+    std::int16_t Première = 0;
+    Cadrage Alignement = Cadrage::Gauche;
 };
 
 class Composition {
@@ -94,3 +96,5 @@ private:
 };
 
 } // namespace rtf
+
+} // namespace tirelune

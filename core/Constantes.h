@@ -5,6 +5,8 @@
 #include <cstddef>
 #include <cstdint>
 
+namespace tirelune {
+
 struct Constantes {
     Texte CheminAppli;         // the program's own folder, no trailing separator
     Texte CheminRéseau;        // the folder named in Chemin.txt, empty if none
@@ -35,3 +37,5 @@ struct Constantes {
     std::int16_t VitessePoursuite = 0; // ms between two ordinary letters
     bool CorrectionEnCours = false;    // a double click has just been answered
 };
+
+} // namespace tirelune

@@ -2,8 +2,10 @@
 #pragma once
 #include <cstdint>
 
+namespace tirelune {
+
 struct Couleur {
-    std::uint32_t valeur = Automatique;
+    std::uint32_t Valeur = Automatique;
 
     static constexpr std::uint32_t Automatique = 0x80000000; // whatever the toolkit uses there
 
@@ -11,10 +13,10 @@ struct Couleur {
     {
         return Couleur{rouge | vert << 8U | bleu << 16U};
     }
-    [[nodiscard]] constexpr unsigned Rouge() const { return valeur & 0xFFU; }
-    [[nodiscard]] constexpr unsigned Vert() const { return valeur >> 8U & 0xFFU; }
-    [[nodiscard]] constexpr unsigned Bleu() const { return valeur >> 16U & 0xFFU; }
-    [[nodiscard]] constexpr bool EstAutomatique() const { return valeur == Automatique; }
+    [[nodiscard]] constexpr unsigned Rouge() const { return Valeur & 0xFFU; }
+    [[nodiscard]] constexpr unsigned Vert() const { return Valeur >> 8U & 0xFFU; }
+    [[nodiscard]] constexpr unsigned Bleu() const { return Valeur >> 16U & 0xFFU; }
+    [[nodiscard]] constexpr bool EstAutomatique() const { return Valeur == Automatique; }
 
     friend constexpr bool operator==(Couleur, Couleur) = default;
 };
@@ -32,3 +34,5 @@ inline constexpr Couleur Bleu{0xFF0000};
 inline constexpr Couleur BleuClair{0xFFC0C0};
 inline constexpr Couleur GrisClair{0xC0C0C0};
 inline constexpr Couleur Olive{0x008080};
+
+} // namespace tirelune

@@ -4,9 +4,11 @@
 
 #include <vector>
 
+namespace tirelune {
+
 struct Point {
-    double x = 0;
-    double y = 0;
+    double X = 0;
+    double Y = 0;
     friend bool operator==(const Point&, const Point&) = default;
 };
 
@@ -15,17 +17,19 @@ enum class GenreForme { Ellipse, Polygone, Tracé, Courbe };
 // Ellipse: two corners of its box. Polygone: closed. Tracé: open, straight. Courbe: open, quadratic Bézier (three
 // points).
 struct Forme {
-    GenreForme genre = GenreForme::Tracé;
-    std::vector<Point> points;
-    Couleur trait = Noir;       // CouleurAuto: no outline
-    double épaisseur = 1;       // in units of the drawing
-    Couleur fond = CouleurAuto; // CouleurAuto: not filled
+    GenreForme Genre = GenreForme::Tracé;
+    std::vector<Point> Points;
+    Couleur Trait = Noir;       // CouleurAuto: no outline
+    double Epaisseur = 1;       // in units of the drawing
+    Couleur Fond = CouleurAuto; // CouleurAuto: not filled
     friend bool operator==(const Forme&, const Forme&) = default;
 };
 
 struct Dessin {
-    double largeur = 0;
-    double hauteur = 0;
-    std::vector<Forme> formes;
+    double Largeur = 0;
+    double Hauteur = 0;
+    std::vector<Forme> Formes;
     friend bool operator==(const Dessin&, const Dessin&) = default;
 };
+
+} // namespace tirelune

@@ -2,5 +2,9 @@
 #pragma once
 #include "core/Dessin.h"
 
+namespace tirelune {
+
 // 256 bands from blue at the top to cyan at the bottom, whatever the size of the screen.
 Dessin Dégradé();
+
+} // namespace tirelune

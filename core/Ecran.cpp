@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+namespace tirelune {
+
 Ecran::Ecran(Application& application, std::string_view nom, Texte légende)
     : Nom(nom), Caption(*this, std::move(légende)), application_(application), état(application.état)
 {
@@ -33,12 +35,12 @@ void Ecran::Charger()
 
 void Ecran::Ranger(const Arrangement& place, const Elément* conteneur)
 {
-    if (place.élément != nullptr)
-        place.élément->RangerDans(conteneur);
-    if (place.genre == Disposition::Couverture)
-        couvertures_.push_back(place.élément);
-    const auto* intérieur = place.élément != nullptr ? place.élément : conteneur;
-    for (const auto& enfant : place.enfants)
+    if (place.Occupant != nullptr)
+        place.Occupant->RangerDans(conteneur);
+    if (place.Genre == Disposition::Couverture)
+        couvertures_.push_back(place.Occupant);
+    const auto* intérieur = place.Occupant != nullptr ? place.Occupant : conteneur;
+    for (const auto& enfant : place.Enfants)
         Ranger(enfant, intérieur);
 }
 
@@ -147,3 +149,5 @@ void Ecran::Repeindre()
 {
     application_.plateforme.Repeindre(*this);
 }
+
+} // namespace tirelune

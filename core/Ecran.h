@@ -7,11 +7,13 @@
 
 #include <chrono>
 
+namespace tirelune {
+
 // An entry of the menu bar, with what opens below it. A separator has no option, or, where it comes and goes, one
 // captioned "-". An option of a screen that stands in no menu is there for its shortcut.
 struct Menu {
-    MenuOption* option = nullptr;
-    std::vector<Menu> sous{};
+    MenuOption* Option = nullptr;
+    std::vector<Menu> Sous{};
 };
 
 class Ecran : public Observable {
@@ -51,7 +53,7 @@ public:
     [[nodiscard]] bool EstChargé() const { return chargé_; }
 
     [[nodiscard]] Application& ApplicationDe() const { return application_; }
-    [[nodiscard]] const Arrangement& Disposition_() const { return arrangement_; }
+    [[nodiscard]] const Arrangement& Plan() const { return arrangement_; }
     [[nodiscard]] virtual std::vector<Menu> Menus() { return {}; }
     [[nodiscard]] const std::vector<Elément*>& Eléments() const { return éléments_; }
     [[nodiscard]] const std::vector<Timer*>& Minuteries() const { return minuteries_; }
@@ -118,7 +120,9 @@ Colonne::Colonne(Tableau<T>& éléments) : Arrangement(Disposition::Colonne, EnP
 {
 }
 template <class T>
-Grille::Grille(int colonnes_, Tableau<T>& éléments) : Arrangement(Disposition::Grille, EnPlaces(éléments))
+Grille::Grille(int colonnes, Tableau<T>& éléments) : Arrangement(Disposition::Grille, EnPlaces(éléments))
 {
-    colonnes = colonnes_;
+    Colonnes = colonnes;
 }
+
+} // namespace tirelune

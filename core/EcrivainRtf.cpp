@@ -10,6 +10,8 @@
 #include <unordered_map>
 #include <vector>
 
+namespace tirelune {
+
 namespace {
 
 constexpr int TailleMaximale = 3'276;  // half points
@@ -49,8 +51,8 @@ private:
     const TexteRiche& texte_;
     VueTexte caractères_;
     struct Rangs {
-        std::size_t police;
-        std::size_t teinte; // numbered from 1, 0 being the automatic one
+        std::size_t Police;
+        std::size_t Teinte; // numbered from 1, 0 being the automatic one
     };
     std::unordered_map<const Format*, Rangs> rangs_; // each format stands once in the text's table
     std::vector<Texte> polices_;
@@ -89,7 +91,7 @@ void Ecrivain::ReleverLesTables()
         rangs_[&format] = {police, format.Teinte.EstAutomatique() ? 0 : Rang(teintes_, format.Teinte) + 1};
     };
     relever(texte_.FormatEn(0));
-    texte_.PourChaqueTranche(0, caractères_.size(), [&](const Tranche& tranche) { relever(*tranche.Format_); });
+    texte_.PourChaqueTranche(0, caractères_.size(), [&](const Tranche& tranche) { relever(*tranche.Style); });
 }
 
 void Ecrivain::EcrireLesTables()
@@ -120,9 +122,9 @@ void Ecrivain::EcrireLesTables()
 void Ecrivain::EcrireLeCorps()
 {
     texte_.PourChaqueParagraphe(0, caractères_.size(), [this](const TrancheParagraphes& paragraphes) {
-        EcrireParagraphe(*paragraphes.Format_);
+        EcrireParagraphe(*paragraphes.Style);
         texte_.PourChaqueTranche(paragraphes.Début, paragraphes.Fin, [this](const Tranche& tranche) {
-            EcrireFormat(*tranche.Format_);
+            EcrireFormat(*tranche.Style);
             EcrireCaractères(tranche.Début, tranche.Fin);
         });
     });
@@ -140,7 +142,7 @@ void Ecrivain::EcrireParagraphe(const FormatParagraphe& paragraphe)
             Mot(mot, std::clamp(twips, -RetraitMaximal, RetraitMaximal));
     };
     Mot("pard");
-    Mot(Alignements[static_cast<std::size_t>(paragraphe.Alignement_)]);
+    Mot(Alignements[static_cast<std::size_t>(paragraphe.Alignement)]);
     retrait("li", paragraphe.RetraitGauche);
     retrait("ri", paragraphe.RetraitDroit);
     retrait("fi", paragraphe.RetraitPremièreLigne);
@@ -154,11 +156,11 @@ void Ecrivain::EcrireFormat(const Format& format)
     if (format_ == nullptr)
         Mot("plain");
     if (format_ == nullptr || format.Police != avant.Police)
-        Mot("f", static_cast<long>(rangs.police));
+        Mot("f", static_cast<long>(rangs.Police));
     if (format.Taille != avant.Taille)
         Mot("fs", std::lround(std::clamp(format.Taille * 2, 1.0, double{TailleMaximale})));
     if (format.Teinte != avant.Teinte)
-        Mot("cf", static_cast<long>(rangs.teinte));
+        Mot("cf", static_cast<long>(rangs.Teinte));
     Interrupteur("b", format.Gras, avant.Gras);
     Interrupteur("i", format.Italique, avant.Italique);
     if (format.Souligné != avant.Souligné)
@@ -261,3 +263,5 @@ std::string EcrireRtf(const TexteRiche& texte)
 {
     return Ecrivain(texte).Ecrire();
 }
+
+} // namespace tirelune

@@ -4,5 +4,9 @@
 
 #include <string>
 
+namespace tirelune {
+
 // Pure ASCII: characters outside Windows-1252 go as \uN, those of its upper half as \'hh.
 std::string EcrireRtf(const TexteRiche& texte);
+
+} // namespace tirelune

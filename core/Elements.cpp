@@ -7,6 +7,8 @@
 #include <cassert>
 #include <cstdlib>
 
+namespace tirelune {
+
 // ---- Elément -------------------------------------------------------------------------------------------------
 
 Elément::Elément(Ecran& écran, std::string_view nom, const EtatInitial& initial)
@@ -485,9 +487,9 @@ void Toolbar::Montrer(std::string_view clé, Etat état)
 {
     const auto bouton = std::find_if(boutons_.begin(), boutons_.end(), [&](const Bouton& b) { return b.Clé == clé; });
     assert(bouton != boutons_.end());
-    if (bouton->Etat_ == état)
+    if (bouton->Pression == état)
         return;
-    bouton->Etat_ = état;
+    bouton->Pression = état;
     Changer();
 }
 
@@ -496,3 +498,5 @@ void Toolbar::Cliquer(std::string_view clé)
     if (Enabled && EstAtteignable() && ButtonClick)
         ButtonClick(clé);
 }
+
+} // namespace tirelune

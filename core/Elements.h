@@ -14,6 +14,8 @@
 #include <string_view>
 #include <vector>
 
+namespace tirelune {
+
 class Ecran;
 
 // What an element is created with; only what differs from the ordinary is written down.
@@ -402,7 +404,7 @@ public:
         std::string Clé;   // "btnOuvrir"
         std::string Icône; // freedesktop name; empty: a separator
         Texte ToolTipText;
-        Etat Etat_ = Etat::Relâché;
+        Etat Pression = Etat::Relâché;
         bool Basculant = false; // shows a state
     };
     Toolbar(Ecran& écran, std::string_view nom, std::vector<Bouton> boutons);
@@ -462,3 +464,5 @@ private:
 
 // A counter kept in a caption: its value plus `pas`, with no blanks.
 void Incrémenter(Label& compteur, int pas = 1);
+
+} // namespace tirelune

@@ -4,6 +4,8 @@
 
 #include <algorithm>
 
+namespace tirelune {
+
 namespace {
 
 bool EstFinDeLigne(char c)
@@ -108,3 +110,5 @@ bool TientDansUnChamp(VueTexte valeur)
 {
     return TientEnWindows1252(valeur) && !Contient(valeur, u'"');
 }
+
+} // namespace tirelune

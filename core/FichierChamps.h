@@ -8,6 +8,8 @@
 #include <string_view>
 #include <vector>
 
+namespace tirelune {
+
 inline constexpr VueTexte Marqueur = u"*";
 
 enum class Valeurs {
@@ -27,3 +29,5 @@ std::optional<std::string> ComposerChamps(const std::vector<Texte>& champs);
 
 // True when a value comes back as it was: no double quote, every character in Windows-1252.
 bool TientDansUnChamp(VueTexte valeur);
+
+} // namespace tirelune

@@ -11,6 +11,8 @@
 #include <unistd.h>
 #endif
 
+namespace tirelune {
+
 namespace {
 
 struct Fermeture {
@@ -115,3 +117,5 @@ Texte MessageEchec(EchecFichier échec, VueTexte fichier)
                    : u"Le disque est peut-être plein ou n'est plus accessible.";
     return message + u"\nRien n'est perdu : recommencez quand ce sera réparé, ou enregistrez ailleurs.";
 }
+
+} // namespace tirelune

@@ -6,6 +6,8 @@
 #include <string>
 #include <string_view>
 
+namespace tirelune {
+
 enum class EchecFichier {
     Ouverture, // the file could not be created: the folder is missing, out of reach or read-only
     Ecriture,  // the file was created but not written whole: the disk is full or was lost
@@ -25,3 +27,5 @@ bool TientEnWindows1252(VueTexte texte);
 
 // The message for a file that could not be written; names the file and says what to do.
 Texte MessageEchec(EchecFichier échec, VueTexte fichier);
+
+} // namespace tirelune

@@ -4,6 +4,8 @@
 
 #include <algorithm>
 
+namespace tirelune {
+
 namespace {
 
 Texte Lettres()
@@ -85,3 +87,5 @@ void VérifQuestions(Constantes& état, VueTexte titre)
         std::filesystem::remove(fichier, ignorée);
     }
 }
+
+} // namespace tirelune

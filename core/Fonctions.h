@@ -3,6 +3,8 @@
 #include "core/Constantes.h"
 #include "core/Texte.h"
 
+namespace tirelune {
+
 // Each rebuilds its character set from the start, so that what a screen has added is gone.
 void EcrireAlphabet(Constantes& état);          // LettresEtSignes
 void EcrireAlphabetSimple(Constantes& état);    // LettresEtChiffres
@@ -15,3 +17,5 @@ Texte SansAccents(VueTexte mot);
 // Sets NomFichierQuestions and QuestionnaireExiste for the text of that title. A questionnaire that holds nothing
 // but empty fields is deleted.
 void VérifQuestions(Constantes& état, VueTexte titre);
+
+} // namespace tirelune

@@ -12,6 +12,8 @@
 #include <string_view>
 #include <vector>
 
+namespace tirelune {
+
 namespace {
 
 using namespace rtf;
@@ -95,13 +97,13 @@ unsigned PremiersSimples(const char* octets)
 
 // What a group restores at its end.
 struct État {
-    std::uint16_t police = 0; // index in the fonts read; 0: the default one
-    std::uint16_t couleur = 0;
-    std::uint16_t taille = TailleParDéfaut; // half points
-    std::uint16_t repli = 1;                // characters that stand in for a \u
-    std::uint8_t drapeaux = 0;
-    Destination destination = Destination::Corps;
-    Paragraphe paragraphe;
+    std::uint16_t Police = 0; // index in the fonts read; 0: the default one
+    std::uint16_t Couleur = 0;
+    std::uint16_t Taille = TailleParDéfaut; // half points
+    std::uint16_t Repli = 1;                // characters that stand in for a \u
+    std::uint8_t Drapeaux = 0;
+    Destination Lieu = Destination::Corps;
+    Paragraphe Allure;
 };
 
 class Lecteur {
@@ -199,14 +201,14 @@ TexteRiche Lecteur::Lire()
             break;
         }
     }
-    return composition_.Achever(état_.paragraphe, CléDe(état_.drapeaux));
+    return composition_.Achever(état_.Allure, CléDe(état_.Drapeaux));
 }
 
 // A run of plain bytes, at once.
 void Lecteur::Passage()
 {
     if (!visible_) {
-        const bool tables = état_.destination == Destination::Polices || état_.destination == Destination::Couleurs;
+        const bool tables = état_.Lieu == Destination::Polices || état_.Lieu == Destination::Couleurs;
         do {
             if (tables)
                 Caractère(static_cast<unsigned char>(*p_));
@@ -273,7 +275,7 @@ void Lecteur::MotDeCommande(bool étoile)
             SauterLeGroupe();
         return;
     }
-    if (étoile && entrée->sens < Mot::TableDesPolices && entrée->sens != Mot::SansEffet)
+    if (étoile && entrée->Sens < Mot::TableDesPolices && entrée->Sens != Mot::SansEffet)
         SauterLeGroupe();
     else
         Exécuter(*entrée, paramètre, donné);
@@ -303,9 +305,9 @@ int Lecteur::LireParamètre(bool& donné)
 void Lecteur::Exécuter(const Entrée& entrée, int paramètre, bool donné)
 {
     const bool actif = !donné || paramètre != 0;
-    switch (entrée.sens) {
+    switch (entrée.Sens) {
     case Mot::Attribut:
-        Attribuer(entrée.argument, actif);
+        Attribuer(entrée.Argument, actif);
         break;
     case Mot::SansSouligné:
         Attribuer(Souligné, false);
@@ -313,7 +315,7 @@ void Lecteur::Exécuter(const Entrée& entrée, int paramètre, bool donné)
     case Mot::SansEffet:
         break;
     case Mot::Caractère:
-        Caractère(entrée.argument);
+        Caractère(entrée.Argument);
         break;
     case Mot::FinDeLigne:
         FinirLaLigne();
@@ -323,7 +325,7 @@ void Lecteur::Exécuter(const Entrée& entrée, int paramètre, bool donné)
             Unicode(paramètre);
         break;
     case Mot::Repli:
-        état_.repli = static_cast<std::uint16_t>(donné ? std::clamp(paramètre, 0, 0xFFFF) : 1);
+        état_.Repli = static_cast<std::uint16_t>(donné ? std::clamp(paramètre, 0, 0xFFFF) : 1);
         break;
     case Mot::Cellule:
         Cellule();
@@ -332,51 +334,51 @@ void Lecteur::Exécuter(const Entrée& entrée, int paramètre, bool donné)
         Rangée();
         break;
     case Mot::Police:
-        if (état_.destination == Destination::Polices)
+        if (état_.Lieu == Destination::Polices)
             polices_.Commencer(paramètre);
         else
-            état_.police = polices_.Rang(paramètre);
+            état_.Police = polices_.Rang(paramètre);
         àPréparer_ = true;
         break;
     case Mot::Taille:
         if (!donné)
-            état_.taille = TailleParDéfaut;
+            état_.Taille = TailleParDéfaut;
         else if (paramètre > 0 && paramètre <= TailleMaximale)
-            état_.taille = static_cast<std::uint16_t>(paramètre);
+            état_.Taille = static_cast<std::uint16_t>(paramètre);
         àPréparer_ = true;
         break;
     case Mot::Couleur:
         if (paramètre >= 0 && paramètre < 0xFFFF)
-            état_.couleur = static_cast<std::uint16_t>(paramètre);
+            état_.Couleur = static_cast<std::uint16_t>(paramètre);
         àPréparer_ = true;
         break;
     case Mot::Ordinaire:
-        état_.police = 0;
-        état_.couleur = 0;
-        état_.taille = TailleParDéfaut;
-        état_.drapeaux = 0;
-        visible_ = état_.destination == Destination::Corps;
+        état_.Police = 0;
+        état_.Couleur = 0;
+        état_.Taille = TailleParDéfaut;
+        état_.Drapeaux = 0;
+        visible_ = état_.Lieu == Destination::Corps;
         àPréparer_ = true;
         break;
-    case Mot::Alignement:
-        état_.paragraphe.alignement = static_cast<Alignement>(entrée.argument);
+    case Mot::Cadrage:
+        état_.Allure.Alignement = static_cast<Cadrage>(entrée.Argument);
         break;
     case Mot::RetraitGauche:
-        Retirer(état_.paragraphe.gauche, paramètre);
+        Retirer(état_.Allure.Gauche, paramètre);
         break;
     case Mot::RetraitDroit:
-        Retirer(état_.paragraphe.droit, paramètre);
+        Retirer(état_.Allure.Droit, paramètre);
         break;
     case Mot::RetraitPremièreLigne:
-        Retirer(état_.paragraphe.première, paramètre);
+        Retirer(état_.Allure.Première, paramètre);
         break;
     case Mot::Paragraphe:
-        état_.paragraphe = {};
+        état_.Allure = {};
         break;
     case Mot::Rouge:
     case Mot::Vert:
     case Mot::Bleu:
-        couleurs_.Composante(static_cast<unsigned>(entrée.sens) - static_cast<unsigned>(Mot::Rouge), paramètre);
+        couleurs_.Composante(static_cast<unsigned>(entrée.Sens) - static_cast<unsigned>(Mot::Rouge), paramètre);
         break;
     case Mot::JeuDeCaractères:
         polices_.JeuDeCaractères(paramètre);
@@ -385,11 +387,11 @@ void Lecteur::Exécuter(const Entrée& entrée, int paramètre, bool donné)
         polices_.PageDeCodes(paramètre);
         break;
     case Mot::PageDuDocument:
-        if (const auto encodage = EncodageDe(paramètre); encodage.numéro != 0)
+        if (const auto encodage = EncodageDe(paramètre); encodage.Numéro != 0)
             document_ = encodage;
         break;
     case Mot::PageFixe:
-        document_ = EncodageDe(entrée.argument);
+        document_ = EncodageDe(entrée.Argument);
         break;
     case Mot::PoliceParDéfaut:
         polices_.ParDéfaut(paramètre);
@@ -406,7 +408,7 @@ void Lecteur::Exécuter(const Entrée& entrée, int paramètre, bool donné)
         Entrer(Destination::DeuxVersions);
         break;
     case Mot::VersionUnicode:
-        if (état_.destination == Destination::DeuxVersions)
+        if (état_.Lieu == Destination::DeuxVersions)
             Entrer(Destination::Corps);
         else
             SauterLeGroupe();
@@ -491,7 +493,7 @@ void Lecteur::Ouvrir()
 // False when the outermost group ends.
 bool Lecteur::Fermer()
 {
-    if (état_.destination == Destination::Polices)
+    if (état_.Lieu == Destination::Polices)
         polices_.Terminer();
     if (groupesEnTrop_ > 0) {
         --groupesEnTrop_;
@@ -501,7 +503,7 @@ bool Lecteur::Fermer()
         return false;
     état_ = pile_.back();
     pile_.pop_back();
-    visible_ = état_.destination == Destination::Corps && (état_.drapeaux & Invisible) == 0;
+    visible_ = état_.Lieu == Destination::Corps && (état_.Drapeaux & Invisible) == 0;
     àPréparer_ = true;
     return true;
 }
@@ -537,7 +539,7 @@ const char* Lecteur::SauterLeGroupe()
         ++p_;
     }
     if (groupesEnTrop_ == 0)
-        état_.destination = Destination::Sautée;
+        état_.Lieu = Destination::Sautée;
     return ligne;
 }
 
@@ -547,11 +549,11 @@ void Lecteur::SauterLaPuce()
     if (p_ < ligneDePuce_)
         return;
     const char* const début = p_;
-    const auto destination = état_.destination;
+    const auto destination = état_.Lieu;
     if (const char* const ligne = SauterLeGroupe(); ligne != nullptr) {
         ligneDePuce_ = ligne;
         p_ = début;
-        état_.destination = destination;
+        état_.Lieu = destination;
     }
 }
 
@@ -559,7 +561,7 @@ void Lecteur::SauterLaPuce()
 // ends them.
 void Lecteur::SauterLeRepli()
 {
-    for (unsigned reste = état_.repli; reste > 0 && p_ != fin_;) {
+    for (unsigned reste = état_.Repli; reste > 0 && p_ != fin_;) {
         const auto classe = ClasseDe(*p_);
         if (classe == Classe::Ouvrante || classe == Classe::Fermante)
             return;
@@ -588,17 +590,17 @@ void Lecteur::SauterLeRepli()
 
 void Lecteur::Entrer(Destination destination)
 {
-    const bool retour = destination == Destination::Corps && état_.destination == Destination::DeuxVersions;
-    if (!retour && état_.destination != Destination::Corps)
+    const bool retour = destination == Destination::Corps && état_.Lieu == Destination::DeuxVersions;
+    if (!retour && état_.Lieu != Destination::Corps)
         return;
-    état_.destination = destination;
-    visible_ = destination == Destination::Corps && (état_.drapeaux & Invisible) == 0;
+    état_.Lieu = destination;
+    visible_ = destination == Destination::Corps && (état_.Drapeaux & Invisible) == 0;
 }
 
 void Lecteur::Attribuer(unsigned drapeau, bool actif)
 {
-    état_.drapeaux = static_cast<std::uint8_t>(actif ? état_.drapeaux | drapeau : état_.drapeaux & ~drapeau);
-    visible_ = état_.destination == Destination::Corps && (état_.drapeaux & Invisible) == 0;
+    état_.Drapeaux = static_cast<std::uint8_t>(actif ? état_.Drapeaux | drapeau : état_.Drapeaux & ~drapeau);
+    visible_ = état_.Lieu == Destination::Corps && (état_.Drapeaux & Invisible) == 0;
     àPréparer_ = true;
 }
 
@@ -617,10 +619,10 @@ void Lecteur::Caractère(char16_t c)
             Préparer();
         composition_.Poser(c);
         if (c == u'\n')
-            composition_.FinirLeParagraphe(état_.paragraphe);
-    } else if (état_.destination == Destination::Polices) {
+            composition_.FinirLeParagraphe(état_.Allure);
+    } else if (état_.Lieu == Destination::Polices) {
         c == u';' ? polices_.Terminer() : polices_.Nommer(c);
-    } else if (état_.destination == Destination::Couleurs && c == u';') {
+    } else if (état_.Lieu == Destination::Couleurs && c == u';') {
         couleurs_.Terminer();
     }
 }
@@ -632,17 +634,17 @@ void Lecteur::Octet(unsigned octet)
         Caractère(static_cast<char16_t>(octet));
         return;
     }
-    const bool nom = état_.destination == Destination::Polices;
-    const auto& propre = nom ? polices_.EncodageEnCours() : polices_.EncodageDuRang(état_.police);
-    const auto& encodage = propre.numéro == 0 ? document_ : propre;
-    if (encodage.table != nullptr) {
-        Caractère((*encodage.table)[octet - 0x80]);
-    } else if (encodage.numéro == Utf8) {
+    const bool nom = état_.Lieu == Destination::Polices;
+    const auto& propre = nom ? polices_.EncodageEnCours() : polices_.EncodageDuRang(état_.Police);
+    const auto& encodage = propre.Numéro == 0 ? document_ : propre;
+    if (encodage.Table != nullptr) {
+        Caractère((*encodage.Table)[octet - 0x80]);
+    } else if (encodage.Numéro == Utf8) {
         char16_t seconde = 0;
         Caractère(SuiteUtf8(octet, seconde));
         if (seconde != 0)
             Caractère(seconde);
-    } else if (encodage.numéro == 932 && octet >= 0xA1 && octet <= 0xDF) {
+    } else if (encodage.Numéro == 932 && octet >= 0xA1 && octet <= 0xDF) {
         Caractère(static_cast<char16_t>(0xFF61 + (octet - 0xA1))); // half-width katakana, one byte each
     } else {
         if (octet != 0x80 && octet != 0xFF)
@@ -704,11 +706,11 @@ void Lecteur::Unicode(int code)
     const auto c = code < 0 || code > 0xFFFF ? Remplacement : static_cast<char16_t>(code);
     if (c >= 0xD800 && c <= 0xDFFF)
         composition_.SignalerDemiePaire();
-    if (état_.destination == Destination::Polices && c == u';')
+    if (état_.Lieu == Destination::Polices && c == u';')
         polices_.Nommer(c); // written out, it belongs to the name
     else
         Caractère(c);
-    if (état_.repli == 1 && p_ != fin_ && *p_ == '?') // the usual one
+    if (état_.Repli == 1 && p_ != fin_ && *p_ == '?') // the usual one
         ++p_;
     else
         SauterLeRepli();
@@ -722,7 +724,7 @@ void Lecteur::FinirLaLigne()
         Préparer();
     composition_.Poser(u'\r');
     composition_.Poser(u'\n');
-    composition_.FinirLeParagraphe(état_.paragraphe);
+    composition_.FinirLeParagraphe(état_.Allure);
 }
 
 // The tab is due only once more of the row follows. It and the end of the row are nobody's marked text.
@@ -733,23 +735,23 @@ void Lecteur::Cellule()
     if (celluleFinie_)
         Préparer();
     if (!enRangée_)
-        paragrapheDeLaRangée_ = état_.paragraphe;
+        paragrapheDeLaRangée_ = état_.Allure;
     enRangée_ = true;
     celluleFinie_ = true;
     àPréparer_ = true;
-    cléDeLaCellule_ = CléDe(état_.drapeaux & ~static_cast<unsigned>(Barré));
+    cléDeLaCellule_ = CléDe(état_.Drapeaux & ~static_cast<unsigned>(Barré));
 }
 
 void Lecteur::Rangée()
 {
-    const bool lue = état_.destination == Destination::Corps || état_.destination == Destination::Muette;
-    if (!lue || (état_.drapeaux & Invisible) != 0)
+    const bool lue = état_.Lieu == Destination::Corps || état_.Lieu == Destination::Muette;
+    if (!lue || (état_.Drapeaux & Invisible) != 0)
         return;
     celluleFinie_ = false;
-    composition_.PrendreFormat(CléDe(état_.drapeaux & ~static_cast<unsigned>(Barré)));
+    composition_.PrendreFormat(CléDe(état_.Drapeaux & ~static_cast<unsigned>(Barré)));
     composition_.Poser(u'\r');
     composition_.Poser(u'\n');
-    composition_.FinirLeParagraphe(enRangée_ ? paragrapheDeLaRangée_ : état_.paragraphe);
+    composition_.FinirLeParagraphe(enRangée_ ? paragrapheDeLaRangée_ : état_.Allure);
     enRangée_ = false;
     àPréparer_ = true;
 }
@@ -761,14 +763,14 @@ void Lecteur::Préparer()
         composition_.PrendreFormat(cléDeLaCellule_);
         composition_.Poser(u'\t');
     }
-    composition_.PrendreFormat(CléDe(état_.drapeaux));
+    composition_.PrendreFormat(CléDe(état_.Drapeaux));
     àPréparer_ = false;
 }
 
 Clé Lecteur::CléDe(unsigned attributs) const
 {
-    return (attributs & Attributs) | Clé{état_.taille} << DécalageTaille |
-           Clé{couleurs_.Teinte(état_.couleur)} << DécalageTeinte | Clé{polices_.Nom(état_.police)} << DécalagePolice;
+    return (attributs & Attributs) | Clé{état_.Taille} << DécalageTaille |
+           Clé{couleurs_.Teinte(état_.Couleur)} << DécalageTeinte | Clé{polices_.Nom(état_.Police)} << DécalagePolice;
 }
 
 } // namespace
@@ -783,3 +785,5 @@ std::optional<TexteRiche> LireRtf(std::string_view octets)
         return std::nullopt;
     return Lecteur(octets).Lire();
 }
+
+} // namespace tirelune

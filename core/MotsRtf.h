@@ -6,6 +6,8 @@
 #include <cstdint>
 #include <string_view>
 
+namespace tirelune {
+
 namespace rtf {
 
 enum Drapeau : std::uint8_t { Gras = 1, Italique = 2, Souligné = 4, Barré = 8, Caché = 16, Supprimé = 32 };
@@ -25,8 +27,8 @@ enum class Mot : std::uint8_t {
     Taille,
     Couleur,
     SansSouligné,
-    Ordinaire,  // \plain
-    Alignement, // argument: the alignment
+    Ordinaire, // \plain
+    Cadrage,   // argument: the alignment
     RetraitGauche,
     RetraitDroit,
     RetraitPremièreLigne,
@@ -50,9 +52,9 @@ enum class Mot : std::uint8_t {
 };
 
 struct Entrée {
-    std::string_view mot;
-    Mot sens;
-    char16_t argument = 0;
+    std::string_view Nom;
+    Mot Sens;
+    char16_t Argument = 0;
 };
 
 inline constexpr auto Mots = std::to_array<Entrée>({
@@ -86,10 +88,10 @@ inline constexpr auto Mots = std::to_array<Entrée>({
     {"cf", Mot::Couleur},
 
     {"pard", Mot::Paragraphe},
-    {"ql", Mot::Alignement, static_cast<char16_t>(Alignement::Gauche)},
-    {"qr", Mot::Alignement, static_cast<char16_t>(Alignement::Droite)},
-    {"qc", Mot::Alignement, static_cast<char16_t>(Alignement::Centre)},
-    {"qj", Mot::Alignement, static_cast<char16_t>(Alignement::Justifié)},
+    {"ql", Mot::Cadrage, static_cast<char16_t>(Cadrage::Gauche)},
+    {"qr", Mot::Cadrage, static_cast<char16_t>(Cadrage::Droite)},
+    {"qc", Mot::Cadrage, static_cast<char16_t>(Cadrage::Centre)},
+    {"qj", Mot::Cadrage, static_cast<char16_t>(Cadrage::Justifié)},
     {"li", Mot::RetraitGauche},
     {"ri", Mot::RetraitDroit},
     {"fi", Mot::RetraitPremièreLigne},
@@ -235,23 +237,23 @@ struct Dictionnaire {
     static constexpr unsigned Bits = 12;
     static constexpr std::uint8_t Vide = 0xFF;
 
-    std::uint64_t facteur = 0;
-    std::array<std::uint8_t, 1U << Bits> rangs{};
-    std::array<std::uint64_t, Mots.size()> clés{};
+    std::uint64_t Facteur = 0;
+    std::array<std::uint8_t, 1U << Bits> Rangs{};
+    std::array<std::uint64_t, Mots.size()> Clés{};
 
     [[nodiscard]] constexpr std::size_t Place(std::uint64_t clé) const
     {
-        return static_cast<std::size_t>(clé * facteur >> (64U - Bits));
+        return static_cast<std::size_t>(clé * Facteur >> (64U - Bits));
     }
     [[nodiscard]] constexpr bool Ranger()
     {
-        rangs.fill(Vide);
+        Rangs.fill(Vide);
         for (std::size_t i = 0; i < Mots.size(); ++i) {
             std::uint64_t clé = 0;
-            for (const char lettre : Mots[i].mot)
+            for (const char lettre : Mots[i].Nom)
                 clé = AllongerClé(clé, lettre);
-            clés[i] = clé;
-            auto& rang = rangs[Place(clé)];
+            Clés[i] = clé;
+            auto& rang = Rangs[Place(clé)];
             if (rang != Vide)
                 return false;
             rang = static_cast<std::uint8_t>(i);
@@ -261,19 +263,21 @@ struct Dictionnaire {
     constexpr Dictionnaire()
     {
         static_assert(Mots.size() < Vide);
-        facteur = 0x9E3779B97F4A7C15U;
+        Facteur = 0x9E3779B97F4A7C15U;
         while (!Ranger())
-            facteur = facteur * 6364136223846793005U + 2U; // stays odd
+            Facteur = Facteur * 6364136223846793005U + 2U; // stays odd
     }
     // The key holds twelve letters; a longer word is compared letter by letter.
     [[nodiscard]] const Entrée* Trouver(std::uint64_t clé, std::string_view mot) const
     {
-        const auto rang = rangs[Place(clé)];
-        if (rang == Vide || clés[rang] != clé || Mots[rang].mot.size() != mot.size())
+        const auto rang = Rangs[Place(clé)];
+        if (rang == Vide || Clés[rang] != clé || Mots[rang].Nom.size() != mot.size())
             return nullptr;
-        return mot.size() <= 12 || Mots[rang].mot == mot ? &Mots[rang] : nullptr;
+        return mot.size() <= 12 || Mots[rang].Nom == mot ? &Mots[rang] : nullptr;
     }
 };
 inline constexpr Dictionnaire LeDictionnaire;
 
 } // namespace rtf
+
+} // namespace tirelune

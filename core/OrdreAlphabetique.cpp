@@ -4,12 +4,14 @@
 #include <compare>
 #include <utility>
 
+namespace tirelune {
+
 namespace {
 
 // The plain letters that a character counts as: two of a ligature, none of a sign.
 struct Lettres {
-    char16_t première = 0;
-    char16_t seconde = 0;
+    char16_t Première = 0;
+    char16_t Seconde = 0;
 };
 
 Lettres SansOrnement(char16_t caractère)
@@ -97,3 +99,5 @@ bool AvantDansLOrdre(VueTexte a, VueTexte b)
         return std::is_lt(accents);
     return a > b; // capitals have the lower codes
 }
+
+} // namespace tirelune

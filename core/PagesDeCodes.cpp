@@ -3,11 +3,13 @@
 
 #include <algorithm>
 
+namespace tirelune {
+
 namespace {
 
 struct Entrée {
-    int numéro;
-    MoitiéHaute caractères;
+    int Numéro;
+    MoitiéHaute Caractères;
 };
 
 // clang-format off
@@ -480,6 +482,8 @@ constexpr std::array<Entrée, 46> Pages{{
 const MoitiéHaute* TrouverPageDeCodes(int numéro)
 {
     const auto page = std::lower_bound(Pages.begin(), Pages.end(), numéro,
-                                       [](const Entrée& entrée, int cherché) { return entrée.numéro < cherché; });
-    return page != Pages.end() && page->numéro == numéro ? &page->caractères : nullptr;
+                                       [](const Entrée& entrée, int cherché) { return entrée.Numéro < cherché; });
+    return page != Pages.end() && page->Numéro == numéro ? &page->Caractères : nullptr;
 }
+
+} // namespace tirelune

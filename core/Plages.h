@@ -9,6 +9,8 @@
 #include <utility>
 #include <vector>
 
+namespace tirelune {
+
 // Invariant: neighbouring runs hold different values, and the runs cover [0, Longueur()) without a gap.
 // Runs are found by bisection; an edit moves the runs behind it, eight bytes each. `Hachage(valeur)` is found by
 // argument-dependent lookup or stands before the use of the template.
@@ -20,7 +22,7 @@ public:
 
     struct Plage {
         std::uint32_t Début;
-        Numéro Numéro_;
+        Numéro Clé;
     };
 
     [[nodiscard]] std::size_t Longueur() const { return longueur_; }
@@ -44,7 +46,7 @@ public:
     [[nodiscard]] Numéro En(std::size_t position) const
     {
         assert(position < longueur_);
-        return plages_[Rang(position)].Numéro_;
+        return plages_[Rang(position)].Clé;
     }
     // Where the run that holds the position starts.
     [[nodiscard]] std::size_t DébutDeLaPlage(std::size_t position) const { return plages_[Rang(position)].Début; }
@@ -54,7 +56,7 @@ public:
         assert(longueur <= LongueurMaximale - longueur_);
         if (longueur == 0)
             return;
-        if (plages_.empty() || plages_.back().Numéro_ != numéro)
+        if (plages_.empty() || plages_.back().Clé != numéro)
             plages_.push_back({static_cast<std::uint32_t>(longueur_), numéro});
         longueur_ += longueur;
     }
@@ -92,7 +94,7 @@ public:
             return;
         for (auto rang = Rang(début); rang < plages_.size() && plages_[rang].Début < fin; ++rang)
             visite(std::max<std::size_t>(plages_[rang].Début, début), std::min(FinDeLaPlage(rang), fin),
-                   plages_[rang].Numéro_);
+                   plages_[rang].Clé);
     }
 
     // Forgets the values that no run holds, once there are enough of them to pay for the search.
@@ -103,12 +105,12 @@ public:
         std::vector<Numéro> nouveaux(valeurs_.size(), Libre);
         std::vector<Valeur> gardées;
         for (auto& plage : plages_) {
-            auto& nouveau = nouveaux[plage.Numéro_];
+            auto& nouveau = nouveaux[plage.Clé];
             if (nouveau == Libre) {
                 nouveau = static_cast<Numéro>(gardées.size());
-                gardées.push_back(std::move(valeurs_[plage.Numéro_]));
+                gardées.push_back(std::move(valeurs_[plage.Clé]));
             }
-            plage.Numéro_ = nouveau;
+            plage.Clé = nouveau;
         }
         valeurs_ = std::move(gardées);
         seuil_ = std::max(SeuilMinimum, 2 * valeurs_.size());
@@ -122,7 +124,7 @@ public:
         return a.longueur_ == b.longueur_ && std::equal(a.plages_.begin(), a.plages_.end(), b.plages_.begin(),
                                                         b.plages_.end(), [&](const Plage& x, const Plage& y) {
                                                             return x.Début == y.Début &&
-                                                                   a.valeurs_[x.Numéro_] == b.valeurs_[y.Numéro_];
+                                                                   a.valeurs_[x.Clé] == b.valeurs_[y.Clé];
                                                         });
     }
 
@@ -143,7 +145,7 @@ private:
     [[nodiscard]] bool EstUniforme(std::size_t début, std::size_t longueur, Numéro numéro) const
     {
         const auto rang = Rang(début);
-        return plages_[rang].Numéro_ == numéro && FinDeLaPlage(rang) >= début + longueur;
+        return plages_[rang].Clé == numéro && FinDeLaPlage(rang) >= début + longueur;
     }
 
     // The runs `nouvelles` take the place of the positions [début, début + longueur); neighbours that turn out
@@ -155,7 +157,7 @@ private:
         std::vector<Plage> remplaçantes;
         remplaçantes.reserve(nouvelles.size() + 2);
         const auto ajouter = [&](const Plage& plage) {
-            if (remplaçantes.empty() || remplaçantes.back().Numéro_ != plage.Numéro_)
+            if (remplaçantes.empty() || remplaçantes.back().Clé != plage.Clé)
                 remplaçantes.push_back(plage);
         };
         const auto écart = static_cast<std::uint32_t>(nouvelle - longueur); // modulo 2^32, as the sums are
@@ -170,7 +172,7 @@ private:
         if (!plages_.empty()) {
             if (fin < longueur_) {
                 dernier = Rang(fin);
-                ajouter({static_cast<std::uint32_t>(fin + écart), plages_[dernier].Numéro_});
+                ajouter({static_cast<std::uint32_t>(fin + écart), plages_[dernier].Clé});
                 ++dernier;
             } else {
                 dernier = plages_.size();
@@ -216,3 +218,5 @@ private:
     std::vector<Numéro> alvéoles_; // open addressing, at most half full
     std::size_t seuil_ = SeuilMinimum;
 };
+
+} // namespace tirelune

@@ -10,6 +10,8 @@
 #include <optional>
 #include <vector>
 
+namespace tirelune {
+
 class Ecran;
 class Elément;
 class RichTextBox;
@@ -93,3 +95,5 @@ public:
 
 // The whole part of a draw in [0, 1) times n, after seeding: 0 to n - 1.
 std::size_t Tirer(Plateforme& plateforme, std::size_t n);
+
+} // namespace tirelune

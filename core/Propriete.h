@@ -5,6 +5,8 @@
 #include <concepts>
 #include <utility>
 
+namespace tirelune {
+
 // The owner of properties: whatever must know that something to be drawn has changed.
 class Observable {
 public:
@@ -53,3 +55,5 @@ private:
     Observable& maître_;
     T valeur_;
 };
+
+} // namespace tirelune

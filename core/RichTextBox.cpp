@@ -6,6 +6,8 @@
 
 #include <algorithm>
 
+namespace tirelune {
+
 namespace {
 
 void Appeler(const std::function<void()>& événement)
@@ -156,7 +158,7 @@ void RichTextBox::ParcourirFormats(const std::function<bool(const Format&)>& vis
     if (longueur_ > 0) {
         bool suite = true;
         texte_.PourChaqueTranche(début_, début_ + longueur_,
-                                 [&](const Tranche& tranche) { suite = suite && visite(*tranche.Format_); });
+                                 [&](const Tranche& tranche) { suite = suite && visite(*tranche.Style); });
         return;
     }
     if (formatEnAttente_) {
@@ -176,7 +178,7 @@ void RichTextBox::ParcourirParagraphes(const std::function<bool(const FormatPara
     }
     bool suite = true;
     texte_.PourChaqueParagraphe(début_, début_ + longueur_,
-                                [&](const TrancheParagraphes& tranche) { suite = suite && visite(*tranche.Format_); });
+                                [&](const TrancheParagraphes& tranche) { suite = suite && visite(*tranche.Style); });
 }
 
 void RichTextBox::Cliquer(std::size_t position)
@@ -209,7 +211,7 @@ void RichTextBox::Editer(std::size_t début, std::size_t retirés, const TexteRi
     texte_.Remplacer(début, retirés, ajouté.Caractères());
     std::size_t place = début;
     ajouté.PourChaqueTranche(0, ajouté.Longueur(), [&](const Tranche& tranche) {
-        texte_.Formater(place, tranche.Fin - tranche.Début, [&](Format& format) { format = *tranche.Format_; });
+        texte_.Formater(place, tranche.Fin - tranche.Début, [&](Format& format) { format = *tranche.Style; });
         place += tranche.Fin - tranche.Début;
     });
     début_ = std::min(début + ajouté.Longueur(), Longueur());
@@ -218,3 +220,5 @@ void RichTextBox::Editer(std::size_t début, std::size_t retirés, const TexteRi
     Appeler(Change);
     Appeler(SelChange); // the caret stands behind what came in
 }
+
+} // namespace tirelune

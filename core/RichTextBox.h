@@ -3,6 +3,8 @@
 #include "core/Elements.h"
 #include "core/TexteRiche.h"
 
+namespace tirelune {
+
 class RichTextBox;
 
 // A format of the selection: mixed values read as nothing; what is assigned goes to the whole selection. With an
@@ -89,7 +91,7 @@ public:
     FormatSélection<bool, &Format::Italique> SelItalic{*this};
     FormatSélection<bool, &Format::Souligné> SelUnderline{*this};
     FormatSélection<bool, &Format::Barré> SelStrikeThru{*this};
-    FormatSélectionParagraphe<Alignement, &FormatParagraphe::Alignement_> SelAlignment{*this};
+    FormatSélectionParagraphe<Cadrage, &FormatParagraphe::Alignement> SelAlignment{*this};
     FormatSélectionParagraphe<int, &FormatParagraphe::RetraitGauche> SelIndent{*this};
     FormatSélectionParagraphe<int, &FormatParagraphe::RetraitDroit> SelRightIndent{*this};
 
@@ -168,3 +170,5 @@ FormatSélectionParagraphe<T, Champ>& FormatSélectionParagraphe<T, Champ>::oper
     boîte_.FormaterParagraphes([&](FormatParagraphe& format) { format.*Champ = valeur; });
     return *this;
 }
+
+} // namespace tirelune

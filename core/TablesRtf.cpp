@@ -4,6 +4,8 @@
 #include <array>
 #include <utility>
 
+namespace tirelune {
+
 namespace rtf {
 
 namespace {
@@ -65,14 +67,14 @@ void TableDesPolices::JeuDeCaractères(int jeu)
 {
     const auto* const page =
         std::ranges::find(PagesDesJeux, jeu, [](const std::pair<int, int>& couple) { return couple.first; });
-    if (enCours_.encodage.numéro == 0 && page != PagesDesJeux.end())
-        enCours_.encodage = EncodageDe(page->second);
+    if (enCours_.Octets.Numéro == 0 && page != PagesDesJeux.end())
+        enCours_.Octets = EncodageDe(page->second);
 }
 
 void TableDesPolices::PageDeCodes(int page)
 {
-    if (const auto encodage = EncodageDe(page); encodage.numéro != 0)
-        enCours_.encodage = encodage;
+    if (const auto encodage = EncodageDe(page); encodage.Numéro != 0)
+        enCours_.Octets = encodage;
 }
 
 void TableDesPolices::Nommer(char16_t c)
@@ -87,8 +89,8 @@ void TableDesPolices::Terminer()
         RemplacerDemiesPaires(nomEnCours_);
         auto nom = Rogner(nomEnCours_);
         if (!nom.empty())
-            enCours_.nom = numérosDesNoms_.try_emplace(nom, static_cast<std::uint16_t>(noms_.size())).first->second;
-        if (enCours_.nom == noms_.size())
+            enCours_.Nom = numérosDesNoms_.try_emplace(nom, static_cast<std::uint16_t>(noms_.size())).first->second;
+        if (enCours_.Nom == noms_.size())
             noms_.push_back(std::move(nom));
         const auto numéro = static_cast<std::size_t>(numéroEnCours_);
         if (rangs_.size() <= numéro)
@@ -123,3 +125,5 @@ void TableDesCouleurs::Terminer()
 }
 
 } // namespace rtf
+
+} // namespace tirelune

@@ -7,6 +7,8 @@
 #include <unordered_map>
 #include <vector>
 
+namespace tirelune {
+
 namespace rtf {
 
 inline constexpr int Windows1252 = 1252;
@@ -14,8 +16,8 @@ inline constexpr int Utf8 = 65001;
 
 // A code page of one byte to a character has a table; the others are known by their number.
 struct Encodage {
-    int numéro = 0; // 0: that of the document
-    const MoitiéHaute* table = nullptr;
+    int Numéro = 0; // 0: that of the document
+    const MoitiéHaute* Table = nullptr;
 };
 // Number 0 when the code page is unknown.
 Encodage EncodageDe(int page);
@@ -28,8 +30,8 @@ public:
     // Ranks count the fonts read, from 1; rank 0 is the default font.
     [[nodiscard]] std::uint16_t Rang(int numéro) const;
     // Number of its name, the same for all fonts of that name; 0 is that of a new Format.
-    [[nodiscard]] std::uint16_t Nom(std::uint16_t rang) const { return Police(rang).nom; }
-    [[nodiscard]] const Encodage& EncodageDuRang(std::uint16_t rang) const { return Police(rang).encodage; }
+    [[nodiscard]] std::uint16_t Nom(std::uint16_t rang) const { return Police(rang).Nom; }
+    [[nodiscard]] const Encodage& EncodageDuRang(std::uint16_t rang) const { return Police(rang).Octets; }
     [[nodiscard]] const Texte& NomNuméro(std::size_t nom) const { return noms_[nom]; }
 
     void ParDéfaut(int numéro);
@@ -38,14 +40,14 @@ public:
     void Commencer(int numéro);
     void JeuDeCaractères(int jeu);
     void PageDeCodes(int page);
-    [[nodiscard]] const Encodage& EncodageEnCours() const { return enCours_.encodage; }
+    [[nodiscard]] const Encodage& EncodageEnCours() const { return enCours_.Octets; }
     void Nommer(char16_t c);
     void Terminer();
 
 private:
     struct Lue {
-        Encodage encodage;
-        std::uint16_t nom = 0;
+        Encodage Octets; // what its bytes mean
+        std::uint16_t Nom = 0;
     };
     [[nodiscard]] const Lue& Police(std::uint16_t rang) const { return polices_[rang == 0 ? rangParDéfaut_ : rang]; }
 
@@ -81,3 +83,5 @@ private:
 };
 
 } // namespace rtf
+
+} // namespace tirelune

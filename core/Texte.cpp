@@ -5,6 +5,8 @@
 #include <charconv>
 #include <cmath>
 
+namespace tirelune {
+
 namespace {
 
 constexpr char16_t Remplacement = 0xFFFD;
@@ -229,3 +231,5 @@ Texte EnTexte(float nombre, char16_t séparateurDécimal)
     std::replace(texte.begin(), texte.end(), u'.', séparateurDécimal);
     return erreur == std::errc{} ? texte : Texte{};
 }
+
+} // namespace tirelune

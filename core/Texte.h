@@ -5,6 +5,8 @@
 #include <string>
 #include <string_view>
 
+namespace tirelune {
+
 using Texte = std::u16string;
 using VueTexte = std::u16string_view;
 using Chemin = std::filesystem::path;
@@ -44,3 +46,5 @@ inline bool Contient(VueTexte ensemble, char16_t caractère)
 {
     return ensemble.find(caractère) != VueTexte::npos;
 }
+
+} // namespace tirelune

@@ -5,6 +5,8 @@
 #include <cassert>
 #include <string_view>
 
+namespace tirelune {
+
 namespace {
 
 std::size_t Mêler(std::size_t graine, std::size_t valeur)
@@ -26,13 +28,13 @@ std::size_t Hachage(const Format& format)
                            static_cast<unsigned>(format.Souligné) << 2U | static_cast<unsigned>(format.Barré) << 3U;
     auto graine = std::hash<VueTexte>{}(format.Police);
     graine = Mêler(graine, std::hash<double>{}(format.Taille));
-    graine = Mêler(graine, format.Teinte.valeur);
+    graine = Mêler(graine, format.Teinte.Valeur);
     return Replier(Mêler(graine, attributs));
 }
 
 std::size_t Hachage(const FormatParagraphe& format)
 {
-    auto graine = Mêler(0, static_cast<std::size_t>(format.Alignement_));
+    auto graine = Mêler(0, static_cast<std::size_t>(format.Alignement));
     graine = Mêler(graine, static_cast<std::size_t>(format.RetraitGauche));
     graine = Mêler(graine, static_cast<std::size_t>(format.RetraitDroit));
     return Replier(Mêler(graine, static_cast<std::size_t>(format.RetraitPremièreLigne)));
@@ -214,7 +216,7 @@ std::vector<Texte> MotsMarqués(const TexteRiche& texte)
     std::vector<Texte> mots;
     std::size_t finDuDernier = 0;
     texte.PourChaqueTranche(0, texte.Longueur(), [&](const Tranche& tranche) {
-        if (!tranche.Format_->Barré)
+        if (!tranche.Style->Barré)
             return;
         const auto morceau = VueTexte(texte.Caractères()).substr(tranche.Début, tranche.Fin - tranche.Début);
         if (!mots.empty() && finDuDernier == tranche.Début)
@@ -241,3 +243,5 @@ Texte NormaliserLignes(VueTexte texte)
     }
     return résultat;
 }
+
+} // namespace tirelune

@@ -9,6 +9,8 @@
 #include <functional>
 #include <vector>
 
+namespace tirelune {
+
 // Character format. Size in points; 12 and "Comic Sans MS" are what a new text starts with.
 struct Format {
     Texte Police = u"Comic Sans MS";
@@ -22,11 +24,11 @@ struct Format {
     friend bool operator==(const Format&, const Format&) = default;
 };
 
-enum class Alignement : std::uint8_t { Gauche, Droite, Centre, Justifié };
+enum class Cadrage : std::uint8_t { Gauche, Droite, Centre, Justifié };
 
 // Paragraph format. Indents in twips; the first line's is relative to the left one.
 struct FormatParagraphe {
-    Alignement Alignement_ = Alignement::Gauche;
+    Cadrage Alignement = Cadrage::Gauche;
     int RetraitGauche = 0;
     int RetraitDroit = 0;
     int RetraitPremièreLigne = 0;
@@ -41,12 +43,12 @@ std::size_t Hachage(const FormatParagraphe& format);
 struct Tranche {
     std::size_t Début;
     std::size_t Fin;
-    const Format* Format_;
+    const Format* Style;
 };
 struct TrancheParagraphes {
     std::size_t Début;
     std::size_t Fin;
-    const FormatParagraphe* Format_;
+    const FormatParagraphe* Style;
 };
 
 // Paragraphs end in CR LF, and both characters count as positions. Positions past the end are cut to the end.
@@ -118,3 +120,5 @@ Texte NormaliserLignes(VueTexte texte);
 
 // The struck-through runs in text order, a run that ends the text included.
 std::vector<Texte> MotsMarqués(const TexteRiche& texte);
+
+} // namespace tirelune

@@ -3,6 +3,8 @@
 #include "core/Dégradé.h"
 #include "core/FichierChamps.h"
 
+namespace tirelune {
+
 namespace {
 
 constexpr std::size_t LongueurCode = 6;
@@ -144,3 +146,5 @@ void frmTirelune::QueryUnload()
 {
     application_.plateforme.Terminer();
 }
+
+} // namespace tirelune

@@ -2,6 +2,8 @@
 #pragma once
 #include "core/Ecran.h"
 
+namespace tirelune {
+
 class frmTirelune final : public Ecran {
 public:
     explicit frmTirelune(Application& application);
@@ -49,3 +51,5 @@ private:
     void ListerPolices(std::vector<Texte> polices);
     void DéfinirCode(const Texte& fichier);
 };
+
+} // namespace tirelune

@@ -15,6 +15,8 @@
 #include <algorithm>
 #include <cmath>
 
+namespace tirelune {
+
 namespace {
 
 constexpr double TailleUsuelle = 12; // points, on an 800 x 600 display
@@ -119,29 +121,29 @@ namespace {
 
 bool EstBande(const Forme& forme)
 {
-    const auto& p = forme.points;
-    return forme.genre == GenreForme::Polygone && p.size() == 4 && forme.trait.EstAutomatique() && p[0].y == p[1].y &&
-           p[1].x == p[2].x && p[2].y == p[3].y && p[3].x == p[0].x;
+    const auto& p = forme.Points;
+    return forme.Genre == GenreForme::Polygone && p.size() == 4 && forme.Trait.EstAutomatique() && p[0].Y == p[1].Y &&
+           p[1].X == p[2].X && p[2].Y == p[3].Y && p[3].X == p[0].X;
 }
 
 QPainterPath EnChemin(const Forme& forme)
 {
     QPainterPath chemin;
-    const auto& p = forme.points;
-    if (forme.genre == GenreForme::Ellipse && p.size() >= 2) {
-        chemin.addEllipse(QRectF{QPointF{p[0].x, p[0].y}, QPointF{p[1].x, p[1].y}});
+    const auto& p = forme.Points;
+    if (forme.Genre == GenreForme::Ellipse && p.size() >= 2) {
+        chemin.addEllipse(QRectF{QPointF{p[0].X, p[0].Y}, QPointF{p[1].X, p[1].Y}});
         return chemin;
     }
     if (p.empty())
         return chemin;
-    chemin.moveTo(p[0].x, p[0].y);
-    if (forme.genre == GenreForme::Courbe && p.size() >= 3) {
-        chemin.quadTo(p[1].x, p[1].y, p[2].x, p[2].y);
+    chemin.moveTo(p[0].X, p[0].Y);
+    if (forme.Genre == GenreForme::Courbe && p.size() >= 3) {
+        chemin.quadTo(p[1].X, p[1].Y, p[2].X, p[2].Y);
         return chemin;
     }
     for (std::size_t i = 1; i < p.size(); ++i)
-        chemin.lineTo(p[i].x, p[i].y);
-    if (forme.genre == GenreForme::Polygone)
+        chemin.lineTo(p[i].X, p[i].Y);
+    if (forme.Genre == GenreForme::Polygone)
         chemin.closeSubpath();
     return chemin;
 }
@@ -150,19 +152,19 @@ QPainterPath EnChemin(const Forme& forme)
 
 void Peindre(QPainter& peintre, const Dessin& dessin, const QRectF& place)
 {
-    if (dessin.largeur <= 0 || dessin.hauteur <= 0)
+    if (dessin.Largeur <= 0 || dessin.Hauteur <= 0)
         return;
-    const double sx = place.width() / dessin.largeur;
-    const double sy = place.height() / dessin.hauteur;
+    const double sx = place.width() / dessin.Largeur;
+    const double sy = place.height() / dessin.Hauteur;
     const auto visible = peintre.hasClipping() ? peintre.clipBoundingRect() : place;
     peintre.save();
     peintre.setRenderHint(QPainter::Antialiasing);
-    for (const auto& forme : dessin.formes) {
-        const auto fond = EnQColor(forme.fond, {});
+    for (const auto& forme : dessin.Formes) {
+        const auto fond = EnQColor(forme.Fond, {});
         if (EstBande(forme)) {
             // Whole pixels: bands that share a pixel would leave a seam.
-            const auto [gauche, droite] = std::minmax(forme.points[0].x, forme.points[2].x);
-            const auto [haut, bas] = std::minmax(forme.points[0].y, forme.points[2].y);
+            const auto [gauche, droite] = std::minmax(forme.Points[0].X, forme.Points[2].X);
+            const auto [haut, bas] = std::minmax(forme.Points[0].Y, forme.Points[2].Y);
             const QRect bande{QPoint{qRound(place.x() + gauche * sx), qRound(place.y() + haut * sy)},
                               QPoint{qRound(place.x() + droite * sx) - 1, qRound(place.y() + bas * sy) - 1}};
             if (visible.intersects(bande))
@@ -175,9 +177,9 @@ void Peindre(QPainter& peintre, const Dessin& dessin, const QRectF& place)
         const auto chemin = transformation.map(EnChemin(forme));
         if (fond.isValid())
             peintre.fillPath(chemin, fond);
-        if (!forme.trait.EstAutomatique()) {
+        if (!forme.Trait.EstAutomatique()) {
             peintre.strokePath(chemin,
-                               QPen{EnQColor(forme.trait, {}), std::max(1.0, forme.épaisseur * std::min(sx, sy)),
+                               QPen{EnQColor(forme.Trait, {}), std::max(1.0, forme.Epaisseur * std::min(sx, sy)),
                                     Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin});
         }
     }
@@ -186,10 +188,12 @@ void Peindre(QPainter& peintre, const Dessin& dessin, const QRectF& place)
 
 QRectF Proportionné(const Dessin& dessin, const QRectF& place)
 {
-    if (dessin.largeur <= 0 || dessin.hauteur <= 0)
+    if (dessin.Largeur <= 0 || dessin.Hauteur <= 0)
         return place;
-    const double facteur = std::min(place.width() / dessin.largeur, place.height() / dessin.hauteur);
-    const QSizeF taille{dessin.largeur * facteur, dessin.hauteur * facteur};
+    const double facteur = std::min(place.width() / dessin.Largeur, place.height() / dessin.Hauteur);
+    const QSizeF taille{dessin.Largeur * facteur, dessin.Hauteur * facteur};
     return {place.x() + (place.width() - taille.width()) / 2, place.y() + (place.height() - taille.height()) / 2,
             taille.width(), taille.height()};
 }
+
+} // namespace tirelune

@@ -12,6 +12,8 @@
 class QPainter;
 class QPalette;
 
+namespace tirelune {
+
 namespace Teinte {
 inline const QColor Fond{0xEF, 0xF5, 0xFB};
 inline const QColor Encre{0x1B, 0x27, 0x45};
@@ -44,3 +46,5 @@ QSize TailleTexte(const QFont& police, const QString& texte, int drapeaux, int l
 void Peindre(QPainter& peintre, const Dessin& dessin, const QRectF& place);
 // The largest rectangle of the drawing's proportion, in the middle of the place.
 QRectF Proportionné(const Dessin& dessin, const QRectF& place);
+
+} // namespace tirelune

@@ -13,6 +13,8 @@
 #include <algorithm>
 #include <cmath>
 
+namespace tirelune {
+
 namespace {
 
 constexpr int Coin = 7;
@@ -211,8 +213,8 @@ QSize ImageDessinée::sizeHint() const
 {
     static constexpr double Agrandissement = 1.5; // drawings are told in small units
     const double échelle = font().pixelSize() / 16.0;
-    return {std::max(24, static_cast<int>(dessin.largeur * Agrandissement * échelle)),
-            std::max(24, static_cast<int>(dessin.hauteur * Agrandissement * échelle))};
+    return {std::max(24, static_cast<int>(dessin.Largeur * Agrandissement * échelle)),
+            std::max(24, static_cast<int>(dessin.Hauteur * Agrandissement * échelle))};
 }
 
 void ImageDessinée::PeindreContenu(QPainter& peintre, const QRect& place)
@@ -394,3 +396,5 @@ void Panneau::mouseReleaseEvent(QMouseEvent* événement)
         clic();
     }
 }
+
+} // namespace tirelune

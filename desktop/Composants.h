@@ -10,6 +10,8 @@
 
 #include <functional>
 
+namespace tirelune {
+
 // A text in its font, made smaller when the place is too small; measured once for each place.
 class TexteAjusté {
 public:
@@ -128,3 +130,5 @@ private:
     bool pressé_ = false;
     bool traîné_ = false;
 };
+
+} // namespace tirelune

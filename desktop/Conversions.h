@@ -8,6 +8,8 @@
 
 #include <cmath>
 
+namespace tirelune {
+
 inline constexpr int TwipsParPixel = 15;
 inline constexpr double PixelsParPoint = 96.0 / 72.0;
 
@@ -55,3 +57,5 @@ inline QString EnAffichage(VueTexte texte)
     affiché.replace(QChar{Masque}, QChar{GlypheMasque});
     return affiché;
 }
+
+} // namespace tirelune

@@ -15,6 +15,8 @@
 #include <QPushButton>
 #include <QTranslator>
 
+namespace tirelune {
+
 namespace {
 
 double EchelleDe(const QWidget* parent)
@@ -223,3 +225,5 @@ std::optional<ChoixPolice> PoliceChoisie(const QFontDialog& dialogue, const Choi
     choix.Italique = police.italic();
     return choix;
 }
+
+} // namespace tirelune

@@ -10,6 +10,8 @@ class QColorDialog;
 class QFileDialog;
 class QFontDialog;
 
+namespace tirelune {
+
 class BoîteMessage final : public QMessageBox {
 public:
     BoîteMessage(const Boîte& boîte, QWidget* parent);
@@ -34,3 +36,5 @@ std::optional<Couleur> CouleurChoisie(const QColorDialog& dialogue);
 
 std::unique_ptr<QFontDialog> CréerDialoguePolice(const ChoixPolice& départ, QWidget* parent);
 std::optional<ChoixPolice> PoliceChoisie(const QFontDialog& dialogue, const ChoixPolice& départ);
+
+} // namespace tirelune

@@ -19,6 +19,8 @@
 #include <algorithm>
 #include <cassert>
 
+namespace tirelune {
+
 // ---- The ground that the elements stand on -------------------------------------------------------------------
 
 class Contenu final : public QWidget {
@@ -92,7 +94,7 @@ void Fenêtre::Garnir()
         layout()->setMenuBar(barre_);
         barre_->show();
     }
-    Remplir(plan_, écran_.Disposition_());
+    Remplir(plan_, écran_.Plan());
     OrdonnerTabulation();
     Observer();
 }
@@ -115,17 +117,17 @@ void Fenêtre::Observer()
     focusDemandé_ = écran_.Focus() != nullptr;
     écran_.Observateur = [this] {
         const bool change = légendeVue_ != écran_.Caption() || fondVu_ != écran_.BackColor() ||
-                            dessinVu_ != écran_.Fond().formes.empty();
+                            dessinVu_ != écran_.Fond().Formes.empty();
         légendeVue_ = écran_.Caption;
         fondVu_ = écran_.BackColor;
-        dessinVu_ = écran_.Fond().formes.empty();
+        dessinVu_ = écran_.Fond().Formes.empty();
         if (!change || focusVu_ != écran_.Focus())
             focusDemandé_ = écran_.Focus() != nullptr;
         focusVu_ = écran_.Focus();
         écranSale_ = true;
         Réveiller();
     };
-    dessinVu_ = écran_.Fond().formes.empty();
+    dessinVu_ = écran_.Fond().Formes.empty();
     focusVu_ = écran_.Focus();
 }
 
@@ -205,14 +207,14 @@ Vue& Fenêtre::Créer(Elément* élément, QWidget* parent)
 void Fenêtre::Remplir(QWidget* cadre, const Arrangement& contenu)
 {
     const auto place = Bâtir(contenu, cadre, true);
-    if (place.layout != nullptr) {
-        cadre->setLayout(place.layout);
-    } else if (place.widget != nullptr) {
+    if (place.Layout != nullptr) {
+        cadre->setLayout(place.Layout);
+    } else if (place.Widget != nullptr) {
         auto* boîte = new QVBoxLayout{cadre};
-        boîte->addWidget(place.widget);
+        boîte->addWidget(place.Widget);
     }
     if (cadre == plan_ && cadre->layout() != nullptr) {
-        const int bord = contenu.genre == Disposition::Libre ? 0 : 8;
+        const int bord = contenu.Genre == Disposition::Libre ? 0 : 8;
         cadre->layout()->setContentsMargins(bord, bord, bord, bord);
         cadre->layout()->setSizeConstraint(QLayout::SetNoConstraint);
     }
@@ -232,9 +234,9 @@ void GarderPlace(QWidget& widget)
 
 Fenêtre::Place Fenêtre::Bâtir(const Arrangement& place, QWidget* parent, bool garder)
 {
-    switch (place.genre) {
+    switch (place.Genre) {
     case Disposition::Elément: {
-        auto& vue = Créer(place.élément, parent);
+        auto& vue = Créer(place.Occupant, parent);
         if (vue.widget != nullptr && garder)
             GarderPlace(*vue.widget);
         return AvecMinimum({vue.widget, nullptr}, place);
@@ -246,27 +248,27 @@ Fenêtre::Place Fenêtre::Bâtir(const Arrangement& place, QWidget* parent, bool
         return AvecMinimum(BâtirGrille(place, parent), place);
     case Disposition::Pile: {
         auto pile = std::make_unique<Superposition>();
-        for (const auto& enfant : place.enfants) {
+        for (const auto& enfant : place.Enfants) {
             const auto un = Bâtir(enfant, parent, false);
-            if (un.widget != nullptr)
-                pile->Ajouter(un.widget);
-            else if (un.layout != nullptr)
-                pile->Ajouter(un.layout);
+            if (un.Widget != nullptr)
+                pile->Ajouter(un.Widget);
+            else if (un.Layout != nullptr)
+                pile->Ajouter(un.Layout);
         }
         return AvecMinimum({nullptr, pile.release()}, place);
     }
     case Disposition::Centré: {
-        const auto un = Bâtir(place.enfants.front(), parent, garder);
+        const auto un = Bâtir(place.Enfants.front(), parent, garder);
         auto* grille = new QGridLayout;
         grille->setContentsMargins(0, 0, 0, 0);
         grille->setRowStretch(0, 1);
         grille->setRowStretch(2, 1);
         grille->setColumnStretch(0, 1);
         grille->setColumnStretch(2, 1);
-        if (un.widget != nullptr)
-            grille->addWidget(un.widget, 1, 1);
-        else if (un.layout != nullptr)
-            grille->addLayout(un.layout, 1, 1);
+        if (un.Widget != nullptr)
+            grille->addWidget(un.Widget, 1, 1);
+        else if (un.Layout != nullptr)
+            grille->addLayout(un.Layout, 1, 1);
         return AvecMinimum({nullptr, grille}, place);
     }
     case Disposition::Cadre:
@@ -287,17 +289,17 @@ Fenêtre::Place Fenêtre::Bâtir(const Arrangement& place, QWidget* parent, bool
 
 Fenêtre::Place Fenêtre::AvecMinimum(Place une, const Arrangement& place)
 {
-    if (place.largeur == 0 && place.hauteur == 0)
+    if (place.Largeur == 0 && place.Hauteur == 0)
         return une;
-    const auto minimum = [this, largeur = place.largeur, hauteur = place.hauteur] {
+    const auto minimum = [this, largeur = place.Largeur, hauteur = place.Hauteur] {
         return QSize{Pixels(largeur), Pixels(hauteur)};
     };
-    if (une.widget != nullptr) {
-        minimums_.emplace_back([minimum, widget = une.widget] { widget->setMinimumSize(minimum()); });
+    if (une.Widget != nullptr) {
+        minimums_.emplace_back([minimum, widget = une.Widget] { widget->setMinimumSize(minimum()); });
     } else {
         auto* boîte = new Superposition;
-        if (une.layout != nullptr)
-            boîte->Ajouter(une.layout);
+        if (une.Layout != nullptr)
+            boîte->Ajouter(une.Layout);
         minimums_.emplace_back([minimum, boîte] {
             boîte->tailleMinimale = minimum();
             boîte->invalidate();
@@ -310,20 +312,20 @@ Fenêtre::Place Fenêtre::AvecMinimum(Place une, const Arrangement& place)
 
 Fenêtre::Place Fenêtre::BâtirBoîte(const Arrangement& place, QWidget* parent)
 {
-    const bool ligne = place.genre == Disposition::Ligne;
+    const bool ligne = place.Genre == Disposition::Ligne;
     auto* boîte = new QBoxLayout{ligne ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom};
     boîte->setContentsMargins(0, 0, 0, 0);
     boîte->setSpacing(6);
-    for (const auto& enfant : place.enfants) {
-        if (enfant.genre == Disposition::Ressort) {
-            boîte->addStretch(std::max(1, enfant.étirement));
+    for (const auto& enfant : place.Enfants) {
+        if (enfant.Genre == Disposition::Ressort) {
+            boîte->addStretch(std::max(1, enfant.Etirement));
             continue;
         }
         const auto un = Bâtir(enfant, parent, true);
-        if (un.widget != nullptr)
-            boîte->addWidget(un.widget, enfant.étirement);
-        else if (un.layout != nullptr)
-            boîte->addLayout(un.layout, enfant.étirement);
+        if (un.Widget != nullptr)
+            boîte->addWidget(un.Widget, enfant.Etirement);
+        else if (un.Layout != nullptr)
+            boîte->addLayout(un.Layout, enfant.Etirement);
     }
     return {nullptr, boîte};
 }
@@ -333,19 +335,19 @@ Fenêtre::Place Fenêtre::BâtirGrille(const Arrangement& place, QWidget* parent
     auto* grille = new QGridLayout;
     grille->setContentsMargins(0, 0, 0, 0);
     grille->setSpacing(6);
-    const int colonnes = std::max(1, place.colonnes);
+    const int colonnes = std::max(1, place.Colonnes);
     int rang = 0;
-    for (const auto& enfant : place.enfants) {
+    for (const auto& enfant : place.Enfants) {
         const auto un = Bâtir(enfant, parent, true);
         const int ligne = rang / colonnes;
         const int colonne = rang % colonnes;
-        if (un.widget != nullptr)
-            grille->addWidget(un.widget, ligne, colonne);
-        else if (un.layout != nullptr)
-            grille->addLayout(un.layout, ligne, colonne);
-        if (enfant.étirement > 0) {
-            grille->setColumnStretch(colonne, std::max(grille->columnStretch(colonne), enfant.étirement));
-            grille->setRowStretch(ligne, std::max(grille->rowStretch(ligne), enfant.étirement));
+        if (un.Widget != nullptr)
+            grille->addWidget(un.Widget, ligne, colonne);
+        else if (un.Layout != nullptr)
+            grille->addLayout(un.Layout, ligne, colonne);
+        if (enfant.Etirement > 0) {
+            grille->setColumnStretch(colonne, std::max(grille->columnStretch(colonne), enfant.Etirement));
+            grille->setRowStretch(ligne, std::max(grille->rowStretch(ligne), enfant.Etirement));
         }
         ++rang;
     }
@@ -354,8 +356,8 @@ Fenêtre::Place Fenêtre::BâtirGrille(const Arrangement& place, QWidget* parent
 
 Fenêtre::Place Fenêtre::BâtirCadre(const Arrangement& place, QWidget* parent, bool garder)
 {
-    auto& panneau = dynamic_cast<Panneau&>(*Créer(place.élément, parent).widget);
-    Remplir(&panneau, place.enfants.front());
+    auto& panneau = dynamic_cast<Panneau&>(*Créer(place.Occupant, parent).widget);
+    Remplir(&panneau, place.Enfants.front());
     panneau.AjusterMarges();
     if (garder)
         GarderPlace(panneau);
@@ -364,10 +366,10 @@ Fenêtre::Place Fenêtre::BâtirCadre(const Arrangement& place, QWidget* parent,
 
 void Fenêtre::BâtirCouverture(const Arrangement& place)
 {
-    auto& vue = Créer(place.élément, contenu_);
+    auto& vue = Créer(place.Occupant, contenu_);
     couvertures_.push_back(&vue);
     auto& panneau = dynamic_cast<Panneau&>(*vue.widget);
-    const Arrangement milieu{Centré{place.enfants.front()}};
+    const Arrangement milieu{Centré{place.Enfants.front()}};
     Remplir(&panneau, milieu);
     panneau.couvrant = true;
     panneau.AjusterMarges();
@@ -379,12 +381,12 @@ Fenêtre::Place Fenêtre::BâtirLibre(const Arrangement& place, QWidget* parent)
 {
     auto* libre = new PlacementLibre;
     std::vector<Vue*> enfants;
-    for (const auto& enfant : place.enfants) {
+    for (const auto& enfant : place.Enfants) {
         const auto un = Bâtir(enfant, parent, false);
-        auto* vue = enfant.élément != nullptr ? VueDe(*enfant.élément) : nullptr;
-        if (un.widget == nullptr || vue == nullptr)
+        auto* vue = enfant.Occupant != nullptr ? VueDe(*enfant.Occupant) : nullptr;
+        if (un.Widget == nullptr || vue == nullptr)
             continue;
-        libre->Ajouter(un.widget);
+        libre->Ajouter(un.Widget);
         vue->libre = libre;
         enfants.push_back(vue);
     }
@@ -403,16 +405,16 @@ Fenêtre::Place Fenêtre::BâtirLibre(const Arrangement& place, QWidget* parent)
 
 Fenêtre::Place Fenêtre::BâtirToile(const Arrangement& place, QWidget* parent)
 {
-    auto* toile = new VueToile{parent, QSize{place.largeur, place.hauteur}};
-    for (const auto& enfant : place.enfants) {
-        if (auto* trait = dynamic_cast<Line*>(enfant.élément)) {
+    auto* toile = new VueToile{parent, QSize{place.Largeur, place.Hauteur}};
+    for (const auto& enfant : place.Enfants) {
+        if (auto* trait = dynamic_cast<Line*>(enfant.Occupant)) {
             auto& vue = *vues_.emplace_back(std::make_unique<VueTrait>(*this, *trait, *toile));
             parElément_[trait] = &vue;
             toile->Ajouter(*trait);
             continue;
         }
         Bâtir(enfant, toile, false);
-        auto* vue = enfant.élément != nullptr ? VueDe(*enfant.élément) : nullptr;
+        auto* vue = enfant.Occupant != nullptr ? VueDe(*enfant.Occupant) : nullptr;
         if (vue == nullptr || vue->widget == nullptr)
             continue;
         vue->échelle = [toile] { return toile->Facteur(); };
@@ -492,20 +494,20 @@ void Fenêtre::RemplirMenu(QWidget* où, const std::vector<Menu>& entrées)
     for (const auto& entrée : entrées) {
         auto* action = new QAction{où};
         QMenu* sous = nullptr;
-        if (entrée.option == nullptr)
+        if (entrée.Option == nullptr)
             action->setSeparator(true);
-        if (!entrée.sous.empty()) {
+        if (!entrée.Sous.empty()) {
             sous = new QMenu{où};
             action->setMenu(sous);
-            RemplirMenu(sous, entrée.sous);
+            RemplirMenu(sous, entrée.Sous);
         }
         où->addAction(action);
-        if (entrée.option == nullptr)
+        if (entrée.Option == nullptr)
             continue;
         if (où == barre_)
-            entréesBarre_.emplace_back(entrée.option, action);
-        auto& vue = *vues_.emplace_back(std::make_unique<VueMenu>(*this, *entrée.option, *action, sous));
-        parElément_[entrée.option] = &vue;
+            entréesBarre_.emplace_back(entrée.Option, action);
+        auto& vue = *vues_.emplace_back(std::make_unique<VueMenu>(*this, *entrée.Option, *action, sous));
+        parElément_[entrée.Option] = &vue;
     }
 }
 
@@ -781,3 +783,5 @@ bool Fenêtre::Filtrer(QObject* visé, QEvent* événement)
     }
     return avalée;
 }
+
+} // namespace tirelune

@@ -8,12 +8,15 @@
 #include <unordered_map>
 #include <vector>
 
-class Contenu;
-class PlateformeQt;
 class QBoxLayout;
 class QLayout;
 class QLayoutItem;
 class QMenuBar;
+
+namespace tirelune {
+
+class Contenu;
+class PlateformeQt;
 class Superposition;
 
 class Fenêtre final : public QWidget {
@@ -55,8 +58,8 @@ protected:
 private:
     friend class Contenu;
     struct Place {
-        QWidget* widget = nullptr;
-        QLayout* layout = nullptr;
+        QWidget* Widget = nullptr;
+        QLayout* Layout = nullptr;
     };
 
     Place Bâtir(const Arrangement& place, QWidget* parent, bool garder);
@@ -108,3 +111,5 @@ private:
     bool dessinVu_ = false;
     const Elément* focusVu_ = nullptr;
 };
+
+} // namespace tirelune

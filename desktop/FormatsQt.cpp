@@ -10,6 +10,8 @@
 #include <algorithm>
 #include <cmath>
 
+namespace tirelune {
+
 QTextCharFormat EnQt(const Format& format, double échelle)
 {
     QTextCharFormat qt;
@@ -38,17 +40,17 @@ QTextBlockFormat EnQt(const FormatParagraphe& format, double échelle)
         return twips / static_cast<double>(TwipsParPixel) * (échelle > 0 ? échelle : 1);
     };
     QTextBlockFormat qt;
-    switch (format.Alignement_) {
-    case Alignement::Gauche:
+    switch (format.Alignement) {
+    case Cadrage::Gauche:
         qt.setAlignment(Qt::AlignLeft);
         break;
-    case Alignement::Droite:
+    case Cadrage::Droite:
         qt.setAlignment(Qt::AlignRight);
         break;
-    case Alignement::Centre:
+    case Cadrage::Centre:
         qt.setAlignment(Qt::AlignHCenter);
         break;
-    case Alignement::Justifié:
+    case Cadrage::Justifié:
         qt.setAlignment(Qt::AlignJustify);
         break;
     }
@@ -64,7 +66,7 @@ void Composer(QTextDocument& document, const TexteRiche& texte)
     curseur.beginEditBlock();
     texte.PourChaqueTranche(0, texte.Longueur(), [&](const Tranche& tranche) {
         const auto morceau = VueTexte{texte.Caractères()}.substr(tranche.Début, tranche.Fin - tranche.Début);
-        curseur.insertText(EnAffichage(morceau), EnQt(*tranche.Format_, 0));
+        curseur.insertText(EnAffichage(morceau), EnQt(*tranche.Style, 0));
     });
     std::size_t début = 0;
     for (auto bloc = document.begin(); bloc.isValid(); bloc = bloc.next()) {
@@ -73,3 +75,5 @@ void Composer(QTextDocument& document, const TexteRiche& texte)
     }
     curseur.endEditBlock();
 }
+
+} // namespace tirelune

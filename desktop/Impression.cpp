@@ -7,6 +7,8 @@
 #include <QPrinter>
 #include <QTextDocument>
 
+namespace tirelune {
+
 Impression::Impression(bool avecSélection, QWidget* parent)
     : imprimante_(std::make_unique<QPrinter>(QPrinter::HighResolution)),
       dialogue_(std::make_unique<QPrintDialog>(imprimante_.get(), parent))
@@ -39,3 +41,5 @@ void Impression::Imprimer(const TexteRiche& texte)
     Composer(document, texte);
     document.print(imprimante_.get());
 }
+
+} // namespace tirelune

@@ -9,6 +9,8 @@ class QPrintDialog;
 class QPrinter;
 class QWidget;
 
+namespace tirelune {
+
 class Impression {
 public:
     Impression(bool avecSélection, QWidget* parent);
@@ -25,3 +27,5 @@ private:
     std::unique_ptr<QPrinter> imprimante_;
     std::unique_ptr<QPrintDialog> dialogue_;
 };
+
+} // namespace tirelune

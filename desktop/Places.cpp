@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+namespace tirelune {
+
 Superposition::~Superposition()
 {
     // Out of the list first: a layout that goes takes itself out of the one it is in.
@@ -97,3 +99,5 @@ void PlacementLibre::setGeometry(const QRect& place)
     if (placer)
         placer();
 }
+
+} // namespace tirelune

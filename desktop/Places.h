@@ -6,6 +6,8 @@
 #include <functional>
 #include <vector>
 
+namespace tirelune {
+
 // All children as large as the place.
 class Superposition : public QLayout {
 public:
@@ -43,3 +45,5 @@ public:
     [[nodiscard]] bool hasHeightForWidth() const override { return false; }
     void setGeometry(const QRect& place) override;
 };
+
+} // namespace tirelune

@@ -23,6 +23,8 @@
 #include <chrono>
 #include <utility>
 
+namespace tirelune {
+
 // While it lives, the loop is known to whoever closes its screen, and input goes to the loop in front alone.
 class PlateformeQt::Séjour {
 public:
@@ -282,7 +284,7 @@ void PlateformeQt::EcranFermé(Ecran& écran)
             fenêtre->Fermer();
     }
     for (auto* boucle : boucles_) {
-        if (boucle->écran == &écran)
+        if (boucle->Porteur == &écran)
             boucle->Quitter();
     }
 }
@@ -355,7 +357,7 @@ void PlateformeQt::RéglerMinuterie(Timer& minuterie)
     }
     Désarmer(minuterie);
     for (auto* boucle : boucles_) {
-        if (boucle->minuterie == &minuterie)
+        if (boucle->Attendue == &minuterie)
             boucle->Quitter();
     }
 }
@@ -439,3 +441,5 @@ bool PlateformeQt::eventFilter(QObject* visé, QEvent* événement)
         return devant->Filtrer(visé, événement);
     return false;
 }
+
+} // namespace tirelune

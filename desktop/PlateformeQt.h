@@ -10,10 +10,13 @@
 #include <set>
 #include <vector>
 
-class Fenêtre;
 class QDialog;
 class QEventLoop;
 class QTimer;
+
+namespace tirelune {
+
+class Fenêtre;
 
 class PlateformeQt final : public QObject, public Plateforme {
 public:
@@ -62,8 +65,8 @@ public:
 private:
     // A nested loop, and what ends it before its time.
     struct Boucle {
-        Ecran* écran;
-        Timer* minuterie; // of a wait for a timer
+        Ecran* Porteur;
+        Timer* Attendue; // of a wait for a timer
         std::function<void()> Quitter;
     };
     class Séjour; // the time spent in such a loop
@@ -91,3 +94,5 @@ private:
     QEventLoop* jusquAuFond_ = nullptr; // waits for the background's painting
     bool terminé_ = false;
 };
+
+} // namespace tirelune

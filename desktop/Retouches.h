@@ -3,10 +3,12 @@
 #include <cstddef>
 #include <vector>
 
+namespace tirelune {
+
 struct Retouche {
-    std::size_t début;    // in the text as it is now
-    std::size_t anciens;  // characters shown there
-    std::size_t nouveaux; // characters that stand there now
+    std::size_t Début;    // in the text as it is now
+    std::size_t Anciens;  // characters shown there
+    std::size_t Nouveaux; // characters that stand there now
     friend bool operator==(const Retouche&, const Retouche&) = default;
 };
 
@@ -22,3 +24,5 @@ public:
 private:
     std::vector<Retouche> liste_;
 };
+
+} // namespace tirelune

@@ -12,6 +12,8 @@
 
 #include <map>
 
+namespace tirelune {
+
 namespace {
 
 constexpr int CôtéIcône = 24;
@@ -157,9 +159,9 @@ public:
             auto& outil = *place->second;
             if (outil.iconSize().width() != côté)
                 outil.setIconSize({côté, côté});
-            const bool mixte = bouton.Etat_ == Toolbar::Etat::Mixte;
+            const bool mixte = bouton.Pression == Toolbar::Etat::Mixte;
             outil.setCheckable(bouton.Basculant);
-            outil.setChecked(bouton.Etat_ == Toolbar::Etat::Enfoncé);
+            outil.setChecked(bouton.Pression == Toolbar::Etat::Enfoncé);
             if (outil.mixte != mixte) {
                 outil.mixte = mixte;
                 outil.update();
@@ -179,3 +181,5 @@ std::unique_ptr<Vue> CréerVueBarre(Fenêtre& fenêtre, Toolbar& barre, QWidget*
 {
     return std::make_unique<VueBarre>(fenêtre, barre, parent);
 }
+
+} // namespace tirelune

@@ -18,6 +18,8 @@
 #include <algorithm>
 #include <utility>
 
+namespace tirelune {
+
 namespace {
 
 constexpr int NuméroFormat = QTextFormat::UserProperty; // formats that look alike here may differ in the text
@@ -323,16 +325,16 @@ void VueTexteRiche::Mettre(Retouche retouche)
 {
     // A line end is taken as a whole, or not at all.
     const auto& texte = boîte_.Text();
-    while (retouche.début > 0 && texte[retouche.début - 1] == u'\r') {
-        --retouche.début;
-        ++retouche.anciens;
-        ++retouche.nouveaux;
+    while (retouche.Début > 0 && texte[retouche.Début - 1] == u'\r') {
+        --retouche.Début;
+        ++retouche.Anciens;
+        ++retouche.Nouveaux;
     }
-    while (retouche.début + retouche.nouveaux < texte.size() && texte[retouche.début + retouche.nouveaux] == u'\n') {
-        ++retouche.anciens;
-        ++retouche.nouveaux;
+    while (retouche.Début + retouche.Nouveaux < texte.size() && texte[retouche.Début + retouche.Nouveaux] == u'\n') {
+        ++retouche.Anciens;
+        ++retouche.Nouveaux;
     }
-    if (retouche.anciens != retouche.nouveaux || !MettreSurPlace(retouche.début, retouche.début + retouche.nouveaux))
+    if (retouche.Anciens != retouche.Nouveaux || !MettreSurPlace(retouche.Début, retouche.Début + retouche.Nouveaux))
         Remplacer(retouche);
 }
 
@@ -340,9 +342,9 @@ void VueTexteRiche::Mettre(Retouche retouche)
 bool VueTexteRiche::MettreSurPlace(std::size_t début, std::size_t fin)
 {
     struct Part {
-        QTextBlock bloc;
-        std::size_t début;
-        std::size_t fin;
+        QTextBlock Bloc;
+        std::size_t Début;
+        std::size_t Fin;
     };
     const VueTexte texte = boîte_.Text();
     std::vector<Part> parts;
@@ -364,18 +366,18 @@ bool VueTexteRiche::MettreSurPlace(std::size_t début, std::size_t fin)
             return false;
     }
     for (const auto& part : parts)
-        MettreBloc(part.bloc, part.début, part.fin);
-    MettreParagraphes(parts.front().bloc.blockNumber(), parts.back().bloc.blockNumber());
+        MettreBloc(part.Bloc, part.Début, part.Fin);
+    MettreParagraphes(parts.front().Bloc.blockNumber(), parts.back().Bloc.blockNumber());
     return true;
 }
 
 void VueTexteRiche::MettreBloc(const QTextBlock& bloc, std::size_t début, std::size_t fin)
 {
     struct Echange {
-        int début;
-        int fin;
-        bool texte;
-        const QTextCharFormat* format;
+        int Début;
+        int Fin;
+        bool Texte;
+        const QTextCharFormat* Format;
     };
     const int décalage = bloc.blockNumber();
     const int premier = static_cast<int>(début) - décalage;
@@ -392,15 +394,15 @@ void VueTexteRiche::MettreBloc(const QTextBlock& bloc, std::size_t début, std::
     }
     std::vector<Echange> échanges;
     boîte_.TextRTF().PourChaqueTranche(début, fin, [&](const Tranche& tranche) {
-        const auto& format = FormatDe(*tranche.Format_);
+        const auto& format = FormatDe(*tranche.Style);
         const int numéro = format.intProperty(NuméroFormat);
         for (auto i = static_cast<int>(tranche.Début) - décalage; i < static_cast<int>(tranche.Fin) - décalage; ++i) {
             const bool autreTexte = ancien[i - bloc.position()] != nouveau[i - premier];
             if (!autreTexte && numéros[static_cast<std::size_t>(i - premier)] == numéro)
                 continue;
-            if (!échanges.empty() && échanges.back().fin == i && échanges.back().texte == autreTexte &&
-                échanges.back().format == &format)
-                ++échanges.back().fin;
+            if (!échanges.empty() && échanges.back().Fin == i && échanges.back().Texte == autreTexte &&
+                échanges.back().Format == &format)
+                ++échanges.back().Fin;
             else
                 échanges.push_back({i, i + 1, autreTexte, &format});
         }
@@ -410,12 +412,12 @@ void VueTexteRiche::MettreBloc(const QTextBlock& bloc, std::size_t début, std::
     QTextCursor curseur{bloc};
     curseur.beginEditBlock();
     for (const auto& échange : échanges) {
-        curseur.setPosition(échange.début);
-        curseur.setPosition(échange.fin, QTextCursor::KeepAnchor);
-        if (échange.texte)
-            curseur.insertText(nouveau.mid(échange.début - premier, échange.fin - échange.début), *échange.format);
+        curseur.setPosition(échange.Début);
+        curseur.setPosition(échange.Fin, QTextCursor::KeepAnchor);
+        if (échange.Texte)
+            curseur.insertText(nouveau.mid(échange.Début - premier, échange.Fin - échange.Début), *échange.Format);
         else
-            curseur.setCharFormat(*échange.format);
+            curseur.setCharFormat(*échange.Format);
     }
     curseur.endEditBlock();
 }
@@ -423,15 +425,15 @@ void VueTexteRiche::MettreBloc(const QTextBlock& bloc, std::size_t début, std::
 void VueTexteRiche::Remplacer(const Retouche& retouche)
 {
     QTextCursor curseur{zone_.document()};
-    const int début = EnWidget(retouche.début);
-    const int fin = EnWidget(retouche.début + retouche.anciens);
+    const int début = EnWidget(retouche.Début);
+    const int fin = EnWidget(retouche.Début + retouche.Anciens);
     const int premier = zone_.document()->findBlock(début).blockNumber();
     curseur.beginEditBlock();
     curseur.setPosition(début);
     curseur.setPosition(fin, QTextCursor::KeepAnchor);
     curseur.removeSelectedText();
-    boîte_.TextRTF().PourChaqueTranche(retouche.début, retouche.début + retouche.nouveaux, [&](const Tranche& tranche) {
-        curseur.insertText(Affiché(tranche.Début, tranche.Fin), FormatDe(*tranche.Format_));
+    boîte_.TextRTF().PourChaqueTranche(retouche.Début, retouche.Début + retouche.Nouveaux, [&](const Tranche& tranche) {
+        curseur.insertText(Affiché(tranche.Début, tranche.Fin), FormatDe(*tranche.Style));
     });
     curseur.endEditBlock();
     MettreParagraphes(premier, curseur.blockNumber());
@@ -563,3 +565,5 @@ std::unique_ptr<Vue> CréerVueTexteRiche(Fenêtre& fenêtre, RichTextBox& boîte
 {
     return std::make_unique<VueTexteRiche>(fenêtre, boîte, parent);
 }
+
+} // namespace tirelune

@@ -10,6 +10,8 @@
 #include <functional>
 #include <unordered_map>
 
+namespace tirelune {
+
 class VueTexteRiche final : public Vue {
 public:
     VueTexteRiche(Fenêtre& fenêtre, RichTextBox& boîte, QWidget* parent);
@@ -49,3 +51,5 @@ private:
     double échelleMontrée_ = 0;
     bool enSynchro_ = false;
 };
+
+} // namespace tirelune

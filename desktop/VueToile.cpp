@@ -6,6 +6,8 @@
 
 #include <algorithm>
 
+namespace tirelune {
+
 VueToile::VueToile(QWidget* parent, QSize étendue_) : QWidget(parent), unités_(étendue_)
 {
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
@@ -61,3 +63,5 @@ void VueToile::paintEvent(QPaintEvent* /*événement*/)
                          origine + QPointF(trait->X2, trait->Y2) * facteur);
     }
 }
+
+} // namespace tirelune

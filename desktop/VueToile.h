@@ -5,6 +5,8 @@
 #include <functional>
 #include <vector>
 
+namespace tirelune {
+
 class VueToile final : public QWidget {
 public:
     VueToile(QWidget* parent, QSize étendue);
@@ -41,3 +43,5 @@ public:
 private:
     VueToile& toile_;
 };
+
+} // namespace tirelune

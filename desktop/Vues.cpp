@@ -20,6 +20,8 @@
 #include <algorithm>
 #include <cassert>
 
+namespace tirelune {
+
 Vue::Vue(Fenêtre& fenêtre, Elément& élément_, QWidget* widget_) : élément(élément_), widget(widget_), fenêtre_(fenêtre)
 {
     if (widget == nullptr)
@@ -878,3 +880,5 @@ std::unique_ptr<Vue> CréerVue(Fenêtre& fenêtre, Elément& élément, QWidget*
         return CréerVueBarre(fenêtre, *un, parent);
     return std::make_unique<VueForme>(fenêtre, élément, parent);
 }
+
+} // namespace tirelune

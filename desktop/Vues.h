@@ -9,6 +9,8 @@
 #include <functional>
 #include <memory>
 
+namespace tirelune {
+
 class Fenêtre;
 class VueToile;
 
@@ -50,3 +52,5 @@ private:
 std::unique_ptr<Vue> CréerVue(Fenêtre& fenêtre, Elément& élément, QWidget* parent);
 std::unique_ptr<Vue> CréerVueTexteRiche(Fenêtre& fenêtre, RichTextBox& boîte, QWidget* parent);
 std::unique_ptr<Vue> CréerVueBarre(Fenêtre& fenêtre, Toolbar& barre, QWidget* parent);
+
+} // namespace tirelune

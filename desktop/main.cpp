@@ -7,6 +7,8 @@
 
 #include <QApplication>
 
+using namespace tirelune;
+
 int main(int argc, char** argv)
 {
     QApplication qt{argc, argv};

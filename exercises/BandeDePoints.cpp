@@ -1,5 +1,7 @@
 #include "exercises/BandeDePoints.h"
 
+namespace tirelune {
+
 namespace {
 
 constexpr int LargeurCompte = 600; // twips, room for two digits
@@ -20,3 +22,5 @@ Arrangement BandeDePoints(Tableau<Label>& lblPoints)
 {
     return Ligne{AuMoins(LargeurCompte, 0, lblPoints(0)), lblPoints(2), AuMoins(LargeurCompte, 0, lblPoints(1))};
 }
+
+} // namespace tirelune

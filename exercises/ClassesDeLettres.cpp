@@ -3,12 +3,14 @@
 #include <algorithm>
 #include <array>
 
+namespace tirelune {
+
 namespace {
 
 struct Famille {
-    char16_t lettre;
-    VueTexte classe;  // what the key uncovers besides the letter, small and capital
-    VueTexte frappes; // what is typed for the key besides the letter, small and capital
+    char16_t Lettre;
+    VueTexte Classe;  // what the key uncovers besides the letter, small and capital
+    VueTexte Frappes; // what is typed for the key besides the letter, small and capital
 };
 
 constexpr std::array<Famille, 6> Familles{{
@@ -26,16 +28,18 @@ Texte ClasseDeLettre(char16_t lettre)
 {
     const auto petite = Minuscule(lettre);
     const auto famille =
-        std::find_if(Familles.begin(), Familles.end(), [&](const Famille& une) { return une.lettre == petite; });
+        std::find_if(Familles.begin(), Familles.end(), [&](const Famille& une) { return une.Lettre == petite; });
     Texte classe{petite, Majuscule(petite)};
     if (famille != Familles.end())
-        classe += famille->classe;
+        classe += famille->Classe;
     return classe;
 }
 
 char16_t LettreTapée(char16_t caractère)
 {
     const auto famille = std::find_if(Familles.begin(), Familles.end(),
-                                      [&](const Famille& une) { return Contient(une.frappes, caractère); });
-    return famille == Familles.end() ? Minuscule(caractère) : famille->lettre;
+                                      [&](const Famille& une) { return Contient(une.Frappes, caractère); });
+    return famille == Familles.end() ? Minuscule(caractère) : famille->Lettre;
 }
+
+} // namespace tirelune

@@ -2,9 +2,13 @@
 #pragma once
 #include "core/Texte.h"
 
+namespace tirelune {
+
 // The letter, small and capital, with the accented forms that go with it. The letter may come in either case.
 Texte ClasseDeLettre(char16_t lettre);
 
 // The small letter without accent whose key a typed character stands for; a character with no such key comes back
 // in small. Narrower than the classes on purpose: a typed "Â" or "ü" has no key.
 char16_t LettreTapée(char16_t caractère);
+
+} // namespace tirelune

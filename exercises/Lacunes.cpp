@@ -5,6 +5,8 @@
 #include <algorithm>
 #include <cassert>
 
+namespace tirelune {
+
 namespace {
 
 // The formats of the text, with those of the gaps changed; one pass over both.
@@ -13,8 +15,8 @@ Plages<Format> FormatsAvecLacunes(const TexteRiche& texte, const std::vector<Lac
     Plages<Format> formats;
     auto lacune = lacunes.begin();
     texte.PourChaqueTranche(0, texte.Longueur(), [&](const Tranche& tranche) {
-        const auto ordinaire = formats.Interner(*tranche.Format_);
-        Format enLacune = *tranche.Format_;
+        const auto ordinaire = formats.Interner(*tranche.Style);
+        Format enLacune = *tranche.Style;
         enLacune.Teinte = Noir;
         enLacune.Barré = false;
         const auto noirci = formats.Interner(enLacune);
@@ -113,13 +115,13 @@ namespace {
 // The word takes the place of the gap and leaves the list.
 void PlacerMot(const JeuDeLacunes& jeu)
 {
-    jeu.texte.SelColor = VertFoncé;
-    jeu.texte.SelUnderline = true;
-    jeu.texte.SelText(jeu.mots.Text);
-    if (const int index = jeu.mots.Chercher(jeu.mots.Text); index >= 0)
-        jeu.mots.RemoveItem(index);
-    if (jeu.mots.ListCount() > 0)
-        jeu.mots.Montrer(0);
+    jeu.Boîte.SelColor = VertFoncé;
+    jeu.Boîte.SelUnderline = true;
+    jeu.Boîte.SelText(jeu.Liste.Text);
+    if (const int index = jeu.Liste.Chercher(jeu.Liste.Text); index >= 0)
+        jeu.Liste.RemoveItem(index);
+    if (jeu.Liste.ListCount() > 0)
+        jeu.Liste.Montrer(0);
     Incrémenter(jeu.lblPoints(0));
 }
 
@@ -127,22 +129,22 @@ void PlacerMot(const JeuDeLacunes& jeu)
 
 void EssayerMot(const JeuDeLacunes& jeu)
 {
-    const auto choisi = jeu.texte.SelText();
+    const auto choisi = jeu.Boîte.SelText();
     if (choisi.find_first_not_of(Trait) != Texte::npos)
         return;
     if (!choisi.empty()) {
-        auto& clé = jeu.choix.rtfTexte;
-        clé.Sélectionner(jeu.texte.SelStart(), jeu.texte.SelLength());
-        jeu.texte.SelLength(clé.SelLength());
-        if (clé.SelText() == jeu.mots.Text()) {
+        auto& clé = jeu.Clé.rtfTexte;
+        clé.Sélectionner(jeu.Boîte.SelStart(), jeu.Boîte.SelLength());
+        jeu.Boîte.SelLength(clé.SelLength());
+        if (clé.SelText() == jeu.Liste.Text()) {
             PlacerMot(jeu);
         } else {
-            jeu.texte.SelColor = Rouge;
-            jeu.texte.SelLength(0);
+            jeu.Boîte.SelColor = Rouge;
+            jeu.Boîte.SelLength(0);
         }
         Incrémenter(jeu.lblPoints(1));
     }
-    if (!Contient(jeu.texte.Text(), Trait)) {
+    if (!Contient(jeu.Boîte.Text(), Trait)) {
         jeu.frameFin.Visible = true;
         jeu.cmdQuitter.SetFocus();
     }
@@ -150,23 +152,25 @@ void EssayerMot(const JeuDeLacunes& jeu)
 
 Arrangement BarreDeLacunes(const JeuDeLacunes& jeu, Button& ok, Image& image)
 {
-    return Ligne{AuMoins(720, 480, image), AuMoins(3600, 0, jeu.mots), ok, Ressort{}, BandeDePoints(jeu.lblPoints)};
+    return Ligne{AuMoins(720, 480, image), AuMoins(3600, 0, jeu.Liste), ok, Ressort{}, BandeDePoints(jeu.lblPoints)};
 }
 
 Dessin DessinCrayon()
 {
     static constexpr Couleur Bois{0x99CCFF};
     static constexpr Couleur Gomme{0xB0A0FF};
-    return {.largeur = 48,
-            .hauteur = 32,
-            .formes = {
-                {.genre = GenreForme::Tracé, .points = {{2, 30}, {10, 30}}, .épaisseur = 2},
-                {.genre = GenreForme::Tracé, .points = {{14, 30}, {22, 30}}, .épaisseur = 2},
-                {.genre = GenreForme::Tracé, .points = {{26, 30}, {34, 30}}, .épaisseur = 2},
-                {.genre = GenreForme::Tracé, .points = {{38, 30}, {46, 30}}, .épaisseur = 2},
-                {.genre = GenreForme::Polygone, .points = {{10, 26}, {13, 18}, {18, 23}}, .fond = Bois},
-                {.genre = GenreForme::Polygone, .points = {{10, 26}, {11, 23}, {13, 25}}, .fond = Noir},
-                {.genre = GenreForme::Polygone, .points = {{13, 18}, {30, 4}, {35, 9}, {18, 23}}, .fond = Jaune},
-                {.genre = GenreForme::Polygone, .points = {{30, 4}, {33, 2}, {38, 7}, {35, 9}}, .fond = Gomme},
+    return {.Largeur = 48,
+            .Hauteur = 32,
+            .Formes = {
+                {.Genre = GenreForme::Tracé, .Points = {{2, 30}, {10, 30}}, .Epaisseur = 2},
+                {.Genre = GenreForme::Tracé, .Points = {{14, 30}, {22, 30}}, .Epaisseur = 2},
+                {.Genre = GenreForme::Tracé, .Points = {{26, 30}, {34, 30}}, .Epaisseur = 2},
+                {.Genre = GenreForme::Tracé, .Points = {{38, 30}, {46, 30}}, .Epaisseur = 2},
+                {.Genre = GenreForme::Polygone, .Points = {{10, 26}, {13, 18}, {18, 23}}, .Fond = Bois},
+                {.Genre = GenreForme::Polygone, .Points = {{10, 26}, {11, 23}, {13, 25}}, .Fond = Noir},
+                {.Genre = GenreForme::Polygone, .Points = {{13, 18}, {30, 4}, {35, 9}, {18, 23}}, .Fond = Jaune},
+                {.Genre = GenreForme::Polygone, .Points = {{30, 4}, {33, 2}, {38, 7}, {35, 9}}, .Fond = Gomme},
             }};
 }
+
+} // namespace tirelune

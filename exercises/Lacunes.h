@@ -6,6 +6,8 @@
 
 #include <vector>
 
+namespace tirelune {
+
 inline constexpr char16_t Trait = u'_';
 
 struct Lacune {
@@ -24,9 +26,9 @@ std::vector<Texte> MotsEnlevés(VueTexte texte, const std::vector<Lacune>& lacun
 
 // What the play goes on with; it belongs to the screen.
 struct JeuDeLacunes {
-    frmExercices& choix; // holds the key
-    RichTextBox& texte;
-    ComboBox& mots;
+    frmExercices& Clé; // holds the key
+    RichTextBox& Boîte;
+    ComboBox& Liste;
     Tableau<Label>& lblPoints;
     Frame& frameFin;
     Button& cmdQuitter;
@@ -50,3 +52,5 @@ void EssayerMot(const JeuDeLacunes& jeu);
 Arrangement BarreDeLacunes(const JeuDeLacunes& jeu, Button& ok, Image& image);
 // Its picture: a pencil on a dotted line.
 Dessin DessinCrayon();
+
+} // namespace tirelune

@@ -1,5 +1,7 @@
 #include "exercises/TexteEtBarre.h"
 
+namespace tirelune {
+
 Arrangement TexteEtBarre(RichTextBox& texte, Arrangement barre, Frame& fin, TextBox& message, Button& quitter)
 {
     return Pile{
@@ -8,3 +10,5 @@ Arrangement TexteEtBarre(RichTextBox& texte, Arrangement barre, Frame& fin, Text
         Colonne{Ressort{}, Centré{Cadre{fin, AuMoins(4200, 0, Colonne{message, Centré{quitter}})}}, Ressort{}},
     };
 }
+
+} // namespace tirelune

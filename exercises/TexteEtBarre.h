@@ -3,5 +3,9 @@
 #pragma once
 #include "core/Ecran.h"
 
+namespace tirelune {
+
 // Below the text stands `barre`, in the strip that Ecran::AjusterBoîte leaves; above it `fin`, with what it holds.
 Arrangement TexteEtBarre(RichTextBox& texte, Arrangement barre, Frame& fin, TextBox& message, Button& quitter);
+
+} // namespace tirelune

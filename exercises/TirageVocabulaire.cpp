@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <set>
 
+namespace tirelune {
+
 namespace {
 
 int CompterDifférents(const std::vector<Texte>& mots)
@@ -33,3 +35,5 @@ std::vector<Texte> TirerMotsDifférents(const ComboBox& vocabulaire, int limite,
 {
     return TirerMotsDifférents(vocabulaire.Eléments(), limite, plateforme);
 }
+
+} // namespace tirelune

@@ -6,6 +6,8 @@
 
 #include <vector>
 
+namespace tirelune {
+
 // With fewer different words than this, the games of memory have nothing to play with.
 inline constexpr int MotsDifférentsMinimum = 5;
 
@@ -16,3 +18,5 @@ int CompterMotsDifférents(const ComboBox& vocabulaire);
 // is drawn again; fewer words come back when there are no more different ones.
 std::vector<Texte> TirerMotsDifférents(const std::vector<Texte>& mots, int limite, Plateforme& plateforme);
 std::vector<Texte> TirerMotsDifférents(const ComboBox& vocabulaire, int limite, Plateforme& plateforme);
+
+} // namespace tirelune

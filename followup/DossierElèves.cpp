@@ -4,6 +4,8 @@
 #include "core/Elements.h"
 #include "followup/EnregistrerNotes.h"
 
+namespace tirelune {
+
 void AtteindreDossierElèves(Application& application, FileListBox& liste)
 {
     auto& état = application.état;
@@ -30,3 +32,5 @@ void ListerNoms(const FileListBox& liste, ComboBox& noms)
     if (noms.ListCount() > 0)
         noms.Montrer(0);
 }
+
+} // namespace tirelune

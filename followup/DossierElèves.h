@@ -1,5 +1,8 @@
 // The pupils' folder: its files are the list of pupils.
 #pragma once
+
+namespace tirelune {
+
 class Application;
 class ComboBox;
 class FileListBox;
@@ -10,3 +13,5 @@ void AtteindreDossierElèves(Application& application, FileListBox& liste);
 
 // Fills the names from the files, extension cut off, and shows the first.
 void ListerNoms(const FileListBox& liste, ComboBox& noms);
+
+} // namespace tirelune

@@ -7,6 +7,8 @@
 #include <cassert>
 #include <cmath>
 
+namespace tirelune {
+
 std::optional<float> LireNote(const Texte& cellule)
 {
     static constexpr double HorsDeMesure = 1e9; // only damage makes such a number
@@ -187,3 +189,5 @@ bool SauverBilan(frmExercices& choix)
         }
     }
 }
+
+} // namespace tirelune

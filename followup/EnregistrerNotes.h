@@ -5,6 +5,8 @@
 
 #include <optional>
 
+namespace tirelune {
+
 class Application;
 class frmExercices;
 class Label;
@@ -53,3 +55,5 @@ std::optional<Texte> CopierBilan(const Texte& fichier, VueTexte suffixe);
 
 // The box for a pupils' folder out of reach. True: try again; false: go on in the program's own folder.
 bool RéessayerRéseau(Application& application);
+
+} // namespace tirelune

@@ -5,11 +5,13 @@
 #include <array>
 #include <string_view>
 
+namespace tirelune {
+
 inline constexpr int NombreExercices = 27;
 
 struct Exercice {
-    VueTexte libellé;
-    std::string_view écran;
+    VueTexte Libellé;
+    std::string_view NomEcran;
 };
 
 inline constexpr std::array<Exercice, NombreExercices> Exercices{{
@@ -44,9 +46,9 @@ inline constexpr std::array<Exercice, NombreExercices> Exercices{{
 
 // A group stands together on the chooser and on the curves.
 struct Groupe {
-    VueTexte titre;
-    int premier; // index of its first exercise
-    int nombre;
+    VueTexte Titre;
+    int Premier; // index of its first exercise
+    int Nombre;
 };
 
 inline constexpr std::array<Groupe, 5> Groupes{{
@@ -56,3 +58,5 @@ inline constexpr std::array<Groupe, 5> Groupes{{
     {u"Ordre (cohérence)", 17, 4},
     {u"Orthographe", 21, 6},
 }};
+
+} // namespace tirelune

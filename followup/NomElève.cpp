@@ -5,6 +5,8 @@
 #include <algorithm>
 #include <array>
 
+namespace tirelune {
+
 namespace {
 
 constexpr VueTexte Extension = u".bil";
@@ -52,3 +54,5 @@ std::optional<Texte> RefusDuNom(VueTexte nom)
         return u"il est trop long.";
     return std::nullopt;
 }
+
+} // namespace tirelune

@@ -2,6 +2,8 @@
 
 #include "followup/EnregistrerNotes.h"
 
+namespace tirelune {
+
 frmCodeCouleur::frmCodeCouleur(frmExercices& choix)
     : Ecran(choix.ApplicationDe(), "frmCodeCouleur", u"Code couleurs"),
       Shape1(*this, "Shape1", {.BackColor = Couleur::Rvb(236, 239, 242), .ForeColor = GrisClair}),
@@ -36,3 +38,5 @@ Arrangement frmCodeCouleur::Disposer()
         Ligne{Ressort{}, cmdQuitter},
     };
 }
+
+} // namespace tirelune

@@ -3,6 +3,8 @@
 #include "core/Ecran.h"
 #include "followup/frmExercices.h"
 
+namespace tirelune {
+
 class frmCodeCouleur final : public Ecran {
 public:
     explicit frmCodeCouleur(frmExercices& choix);
@@ -21,3 +23,5 @@ public:
 private:
     Arrangement Disposer() override;
 };
+
+} // namespace tirelune

@@ -7,6 +7,8 @@
 
 #include <algorithm>
 
+namespace tirelune {
+
 namespace {
 
 constexpr std::size_t CaractèresMinimum = 250;
@@ -18,7 +20,7 @@ constexpr VueTexte AFaire = u" A faire ";
 Dessin Courbes()
 {
     const auto tracé = [](std::vector<Point> points, Couleur teinte, double épaisseur) {
-        return Forme{.genre = GenreForme::Tracé, .points = std::move(points), .trait = teinte, .épaisseur = épaisseur};
+        return Forme{.Genre = GenreForme::Tracé, .Points = std::move(points), .Trait = teinte, .Epaisseur = épaisseur};
     };
     return {32,
             24,
@@ -32,7 +34,7 @@ EtatInitial EtatDuGroupe(int groupe)
                                                                Couleur::Rvb(215, 232, 250), Couleur::Rvb(247, 221, 235),
                                                                Couleur::Rvb(255, 245, 190)};
     const auto i = static_cast<std::size_t>(groupe);
-    return {.Caption = Texte{Groupes[i].titre},
+    return {.Caption = Texte{Groupes[i].Titre},
             .ToolTipText = u" Cliquer sur le cadre de couleur pour voir la progression. ",
             .BackColor = Fonds[i],
             .Gras = true};
@@ -63,7 +65,7 @@ frmExercices::frmExercices(Application& application)
       fgRésultats(*this, "fgRésultats", 1, NombreColonnes)
 {
     for (int i = 0; i < NombreExercices; ++i)
-        lblExo(i).Caption = Texte{Exercices[static_cast<std::size_t>(i)].libellé};
+        lblExo(i).Caption = Texte{Exercices[static_cast<std::size_t>(i)].Libellé};
     cmdOk.Click = [this] { cmdOk_Click(); };
     cmdCharger.Click = [this] { cmdCharger_Click(); };
     cmbTextes.Click = [this] { cmbTextes_Click(); };
@@ -396,3 +398,5 @@ void frmExercices::Progression_Click(int groupe)
     état.GroupeCourbes = static_cast<std::uint8_t>(groupe + 1);
     Ouvrir("frmProgression");
 }
+
+} // namespace tirelune

@@ -6,6 +6,8 @@
 
 #include <set>
 
+namespace tirelune {
+
 class frmExercices final : public Ecran {
 public:
     explicit frmExercices(Application& application);
@@ -76,3 +78,5 @@ private:
     [[nodiscard]] Frame& CadreDe(int groupe);
     [[nodiscard]] Arrangement DisposerGroupe(int groupe);
 };
+
+} // namespace tirelune

@@ -7,6 +7,8 @@
 
 #include <algorithm>
 
+namespace tirelune {
+
 namespace {
 
 bool EstChiffre(char16_t c)
@@ -317,3 +319,5 @@ void frmGestionEleves::cmdValiderCheminRéseau_Click()
     MontrerRéseau();
     ListerNoms(listeBil, cmbNoms);
 }
+
+} // namespace tirelune

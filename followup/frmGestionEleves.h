@@ -3,6 +3,8 @@
 #pragma once
 #include "core/Ecran.h"
 
+namespace tirelune {
+
 class frmGestionEleves final : public Ecran {
 public:
     explicit frmGestionEleves(Application& application);
@@ -79,3 +81,5 @@ private:
     void MontrerRéseau();
     void Relister();
 };
+
+} // namespace tirelune

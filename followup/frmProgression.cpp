@@ -4,6 +4,8 @@
 
 #include <algorithm>
 
+namespace tirelune {
+
 namespace {
 
 // The plot's own units: about a pixel on a small display.
@@ -19,7 +21,7 @@ constexpr int LégendeGauche = 585;
 constexpr int LongueurTrait = 30;
 constexpr int PasLégende = 50;
 constexpr int HauteurLigne = 30;
-constexpr double Point_ = 10;                            // width of the dots
+constexpr double DiamètrePoint = 10;                     // width of the dots
 constexpr double Segment = 2;                            // width of the lines between them
 constexpr Couleur FondSombre = Couleur::Rvb(16, 22, 32); // every colour of the curves can be read on it
 constexpr Couleur Encre = Couleur::Rvb(230, 235, 240);
@@ -122,15 +124,15 @@ void frmProgression::Load()
         Avertir(u"Il n'y a aucun résultat enregistré.", u"Tracé de courbes impossible");
         return;
     }
-    for (int courbe = 0; courbe < GroupeNuméro(état.GroupeCourbes).nombre; ++courbe)
+    for (int courbe = 0; courbe < GroupeNuméro(état.GroupeCourbes).Nombre; ++courbe)
         TracerCourbe(état.GroupeCourbes, courbe);
 }
 
 void frmProgression::MontrerLégende()
 {
     const auto& groupe = GroupeNuméro(état.GroupeCourbes);
-    for (int i = 0; i < groupe.nombre; ++i) {
-        lblLégende(i).Caption = choix_.lblExo(groupe.premier + i).Caption;
+    for (int i = 0; i < groupe.Nombre; ++i) {
+        lblLégende(i).Caption = choix_.lblExo(groupe.Premier + i).Caption;
         lblLégende(i).Visible = true;
         Line3(i).Visible = true;
     }
@@ -147,12 +149,12 @@ void frmProgression::TracerCourbe(int groupe, int courbe)
     const int textes = grille.Rows() - 1;
     const double pas = textes == 0 ? 0 : static_cast<double>(lineAbs.X2 - lineAbs.X1) / textes;
     const double unité = static_cast<double>(lineOrd.Y2 - lineOrd.Y1) / NoteMaximum;
-    const int colonne = GroupeNuméro(groupe).premier + courbe + PremièreColonneNote;
+    const int colonne = GroupeNuméro(groupe).Premier + courbe + PremièreColonneNote;
     const Couleur teinte = lblLégende(courbe).ForeColor;
     auto dessin = imgCourbes.Picture();
     // A curve drawn again covers itself: what lay below need not be kept.
-    std::erase_if(dessin.formes,
-                  [teinte](const Forme& forme) { return forme.trait == teinte || forme.fond == teinte; });
+    std::erase_if(dessin.Formes,
+                  [teinte](const Forme& forme) { return forme.Trait == teinte || forme.Fond == teinte; });
     std::optional<Point> précédent;
     for (int i = 1; i <= textes; ++i) {
         const auto note = LireNote(grille.TextMatrix(i, colonne));
@@ -160,15 +162,17 @@ void frmProgression::TracerCourbe(int groupe, int courbe)
             continue;
         const auto bornée = std::clamp<double>(*note, 0, NoteMaximum); // a damaged file may hold anything
         const Point point{lineAbs.X1 + pas * (i - 1), lineAbs.Y1 - bornée * unité};
-        dessin.formes.push_back(
-            {.genre = GenreForme::Ellipse,
-             .points = {{point.x - Point_ / 2, point.y - Point_ / 2}, {point.x + Point_ / 2, point.y + Point_ / 2}},
-             .trait = CouleurAuto,
-             .fond = teinte});
+        dessin.Formes.push_back({.Genre = GenreForme::Ellipse,
+                                 .Points = {{point.X - DiamètrePoint / 2, point.Y - DiamètrePoint / 2},
+                                            {point.X + DiamètrePoint / 2, point.Y + DiamètrePoint / 2}},
+                                 .Trait = CouleurAuto,
+                                 .Fond = teinte});
         if (précédent)
-            dessin.formes.push_back(
-                {.genre = GenreForme::Tracé, .points = {*précédent, point}, .trait = teinte, .épaisseur = Segment});
+            dessin.Formes.push_back(
+                {.Genre = GenreForme::Tracé, .Points = {*précédent, point}, .Trait = teinte, .Epaisseur = Segment});
         précédent = point;
     }
     imgCourbes.Picture = std::move(dessin);
 }
+
+} // namespace tirelune

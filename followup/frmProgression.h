@@ -3,6 +3,8 @@
 #include "core/Ecran.h"
 #include "followup/frmExercices.h"
 
+namespace tirelune {
+
 class frmProgression final : public Ecran {
 public:
     explicit frmProgression(frmExercices& choix);
@@ -30,3 +32,5 @@ private:
 
     frmExercices& choix_;
 };
+
+} // namespace tirelune

@@ -5,6 +5,8 @@
 #include <cstdint>
 #include <cstdlib>
 
+using namespace tirelune;
+
 namespace {
 
 void Exiger(bool vrai)

@@ -6,6 +6,8 @@
 
 #include <cstdlib>
 
+using namespace tirelune;
+
 namespace {
 
 void Exiger(bool condition)
@@ -20,9 +22,9 @@ void Vérifier(const TexteRiche& texte)
     const Format* précédent = nullptr;
     texte.PourChaqueTranche(0, texte.Longueur(), [&](const Tranche& tranche) {
         Exiger(tranche.Début == attendu && tranche.Fin > tranche.Début);
-        Exiger(précédent == nullptr || !(*précédent == *tranche.Format_));
+        Exiger(précédent == nullptr || !(*précédent == *tranche.Style));
         attendu = tranche.Fin;
-        précédent = tranche.Format_;
+        précédent = tranche.Style;
     });
     Exiger(attendu == texte.Longueur());
     std::size_t marqués = 0;

@@ -6,6 +6,8 @@
 #include <optional>
 #include <string>
 
+namespace tirelune {
+
 inline std::optional<std::string> LireOctets(const Chemin& fichier)
 {
     std::ifstream flux(fichier, std::ios::binary | std::ios::ate);
@@ -26,3 +28,5 @@ inline bool EcrireOctets(const Chemin& fichier, const std::string& octets)
     flux.close();
     return flux.good();
 }
+
+} // namespace tirelune

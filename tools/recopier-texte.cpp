@@ -6,6 +6,8 @@
 #include <iostream>
 #include <span>
 
+using namespace tirelune;
+
 int main(int nombre, char** arguments)
 {
     const std::span paramètres(arguments, static_cast<std::size_t>(nombre));

@@ -7,6 +7,8 @@
 #include <span>
 #include <sstream>
 
+using namespace tirelune;
+
 namespace {
 
 std::string Chaîne(VueTexte texte)
@@ -73,7 +75,7 @@ std::string EnJson(const TexteRiche& texte)
     sortie << "],\n\"runs\": [";
     séparateur = "\n";
     texte.PourChaqueTranche(0, texte.Longueur(), [&](const Tranche& tranche) {
-        const auto& format = *tranche.Format_;
+        const auto& format = *tranche.Style;
         sortie << séparateur << "{\"text\": " << Chaîne(caractères.substr(tranche.Début, tranche.Fin - tranche.Début))
                << ", \"font\": " << Chaîne(format.Police) << ", \"size\": " << format.Taille
                << ", \"color\": " << Teinte(format.Teinte) << ", \"bold\": " << Booléen(format.Gras)
@@ -86,7 +88,7 @@ std::string EnJson(const TexteRiche& texte)
     for (std::size_t début = 0;;) {
         static constexpr std::array<std::string_view, 4> Alignements{"left", "right", "center", "justify"};
         const auto& paragraphe = texte.ParagrapheEn(début);
-        sortie << séparateur << "{\"alignment\": \"" << Alignements[static_cast<std::size_t>(paragraphe.Alignement_)]
+        sortie << séparateur << "{\"alignment\": \"" << Alignements[static_cast<std::size_t>(paragraphe.Alignement)]
                << "\", \"left\": " << paragraphe.RetraitGauche << ", \"right\": " << paragraphe.RetraitDroit
                << ", \"first\": " << paragraphe.RetraitPremièreLigne << "}";
         séparateur = ",\n";

@@ -6,6 +6,8 @@
 
 #include <cmath>
 
+namespace tirelune {
+
 namespace {
 
 constexpr std::size_t DépartsPossibles = 80; // characters at the head of the text
@@ -40,7 +42,7 @@ ChoixDeLacunes ChoisirLacunes(VueTexte texte, std::size_t départ)
         const bool séparateur = i == texte.size() || Contient(Séparateurs, texte[i]);
         if (séparateur && !précédentSéparateur) { // a word has ended
             if (compte == RangDuMotEnlevé + 1) {
-                choix.annoncées = choix.lacunes.size();
+                choix.Annoncées = choix.Lacunes.size();
                 compte = 1;
                 if (static_cast<double>(i) >= fin)
                     break;
@@ -48,9 +50,9 @@ ChoixDeLacunes ChoisirLacunes(VueTexte texte, std::size_t départ)
             ++compte;
         }
         if (!séparateur && compte == RangDuMotEnlevé) {
-            if (choix.lacunes.size() == choix.annoncées)
-                choix.lacunes.push_back({i, 0});
-            ++choix.lacunes.back().Longueur;
+            if (choix.Lacunes.size() == choix.Annoncées)
+                choix.Lacunes.push_back({i, 0});
+            ++choix.Lacunes.back().Longueur;
         }
         précédentSéparateur = séparateur;
     }
@@ -90,15 +92,15 @@ void frmClosures::OuvrirTrous()
 {
     const auto& clé = choix_.rtfTexte.Text();
     const auto trous = ChoisirLacunes(clé, Tirer(application_.plateforme, DépartsPossibles));
-    auto texte = OuvrirLacunes(choix_.rtfTexte.TextRTF(), trous.lacunes);
+    auto texte = OuvrirLacunes(choix_.rtfTexte.TextRTF(), trous.Lacunes);
     texte.Formater(0, texte.Longueur(), [](Format& format) {
         format.Barré = false;
         format.Souligné = false;
     });
     rtfClosures.TextRTF(std::move(texte));
 
-    auto mots = MotsEnlevés(clé, trous.lacunes);
-    mots.resize(trous.annoncées);
+    auto mots = MotsEnlevés(clé, trous.Lacunes);
+    mots.resize(trous.Annoncées);
     RemplirListe(cmbClosures, std::move(mots));
 }
 
@@ -125,3 +127,5 @@ void frmClosures::cmdQuitter_Click()
 {
     Conclure(*this, choix_, NoteSurDix(lblPoints(0), lblPoints(1)));
 }
+
+} // namespace tirelune

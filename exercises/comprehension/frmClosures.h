@@ -3,6 +3,8 @@
 #include "exercises/BandeDePoints.h"
 #include "exercises/Lacunes.h"
 
+namespace tirelune {
+
 class frmClosures final : public Ecran {
 public:
     explicit frmClosures(frmExercices& choix);
@@ -33,12 +35,14 @@ private:
 
 // The words that the exercise takes out of a text, from a start on.
 struct ChoixDeLacunes {
-    std::vector<Lacune> lacunes;
+    std::vector<Lacune> Lacunes;
     // How many of them go into the list: a word does when the word after it ends. A gap in the last word is not in it.
-    std::size_t annoncées = 0;
+    std::size_t Annoncées = 0;
 };
 
 // Where no further gap is opened: the last blank of the first nine tenths of the text; 0 when there is none.
 double FinDesLacunes(VueTexte texte);
 
 ChoixDeLacunes ChoisirLacunes(VueTexte texte, std::size_t départ);
+
+} // namespace tirelune

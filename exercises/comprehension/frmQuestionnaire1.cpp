@@ -7,6 +7,8 @@
 #include <algorithm>
 #include <cmath>
 
+namespace tirelune {
+
 namespace {
 
 constexpr int ColonneQuestion = 0;
@@ -290,3 +292,5 @@ void frmQuestionnaire1::frameQuestions_DragDrop(const Elément* cible, double x,
     état.SourisX = 0;
     état.SourisY = 0;
 }
+
+} // namespace tirelune

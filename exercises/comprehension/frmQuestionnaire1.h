@@ -5,6 +5,8 @@
 #include "exercises/BandeDePoints.h"
 #include "followup/frmExercices.h"
 
+namespace tirelune {
+
 class frmQuestionnaire1 final : public Ecran {
 public:
     explicit frmQuestionnaire1(frmExercices& choix);
@@ -70,3 +72,5 @@ private:
 
     frmExercices& choix_;
 };
+
+} // namespace tirelune

@@ -6,6 +6,8 @@
 #include "exercises/TexteEtBarre.h"
 #include "followup/EnregistrerNotes.h"
 
+namespace tirelune {
+
 frmTexteMasqué::frmTexteMasqué(frmExercices& choix)
     : Ecran(choix.ApplicationDe(), "frmTexteMasqué", u"Texte Masqué"), choix_(choix)
 {
@@ -127,3 +129,5 @@ void frmTexteMasqué::cmdQuitter_Click()
 {
     Conclure(*this, choix_, NoteSurDix(lblPoints(0), lblPoints(1)));
 }
+
+} // namespace tirelune

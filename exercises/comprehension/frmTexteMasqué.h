@@ -5,6 +5,8 @@
 #include "exercises/BandeDePoints.h"
 #include "followup/frmExercices.h"
 
+namespace tirelune {
+
 class frmTexteMasqué final : public Ecran {
 public:
     explicit frmTexteMasqué(frmExercices& choix);
@@ -38,3 +40,5 @@ private:
 
     frmExercices& choix_;
 };
+
+} // namespace tirelune

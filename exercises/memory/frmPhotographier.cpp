@@ -7,6 +7,8 @@
 #include <algorithm>
 #include <array>
 
+namespace tirelune {
+
 namespace {
 
 constexpr VueTexte RéponsesParPartie = u"20";
@@ -24,11 +26,11 @@ Dessin Flèche()
 {
     return {48,
             32,
-            {{.genre = GenreForme::Polygone,
-              .points = {{2, 11}, {28, 11}, {28, 3}, {46, 16}, {28, 29}, {28, 21}, {2, 21}},
-              .trait = Bleu,
-              .épaisseur = 1.5,
-              .fond = Jaune}}};
+            {{.Genre = GenreForme::Polygone,
+              .Points = {{2, 11}, {28, 11}, {28, 3}, {46, 16}, {28, 29}, {28, 21}, {2, 21}},
+              .Trait = Bleu,
+              .Epaisseur = 1.5,
+              .Fond = Jaune}}};
 }
 
 } // namespace
@@ -187,3 +189,5 @@ void frmPhotographier::cmdQuitter_Click()
 {
     Conclure(*this, choix_, NoteSurDix(lblPoints(0), lblPoints(1)));
 }
+
+} // namespace tirelune

@@ -5,6 +5,8 @@
 #include "exercises/BandeDePoints.h"
 #include "followup/frmExercices.h"
 
+namespace tirelune {
+
 class frmPhotographier final : public Ecran {
 public:
     explicit frmPhotographier(frmExercices& choix);
@@ -55,3 +57,5 @@ private:
 
     frmExercices& choix_;
 };
+
+} // namespace tirelune

@@ -8,6 +8,8 @@
 #include <cmath>
 #include <set>
 
+namespace tirelune {
+
 namespace {
 
 constexpr int VitesseInitiale = 100; // ms between two letters
@@ -327,3 +329,5 @@ void frmPoursuite::cmdContinuer_Click()
     }
     cmdCommencer_Click();
 }
+
+} // namespace tirelune

@@ -5,6 +5,8 @@
 #include "exercises/BandeDePoints.h"
 #include "followup/frmExercices.h"
 
+namespace tirelune {
+
 class frmPoursuite final : public Ecran {
 public:
     explicit frmPoursuite(frmExercices& choix);
@@ -73,3 +75,5 @@ private:
     frmExercices& choix_;
     std::vector<Butée> blancs_; // all of the text, in its order
 };
+
+} // namespace tirelune

@@ -6,6 +6,8 @@
 
 #include <algorithm>
 
+namespace tirelune {
+
 using namespace std::chrono_literals;
 
 namespace {
@@ -36,7 +38,7 @@ Arrangement frmSérie::Disposer()
 {
     Arrangement cases{Disposition::Libre, EnPlaces(lblMot)};
     for (auto& réponse : lblRéponse)
-        cases.enfants.emplace_back(réponse);
+        cases.Enfants.emplace_back(réponse);
     std::vector<Arrangement> choix; // the first five on the left
     const int moitié = lblChoix.Nombre() / 2;
     for (int i = 0; i < moitié; ++i) {
@@ -44,7 +46,7 @@ Arrangement frmSérie::Disposer()
         choix.emplace_back(Extensible(lblChoix(i + moitié)));
     }
     Arrangement deuxColonnes{Disposition::Grille, std::move(choix)};
-    deuxColonnes.colonnes = 2;
+    deuxColonnes.Colonnes = 2;
     return Pile{
         Colonne{
             Ligne{cmdVoir, cmdContinuer, Ressort{}, BandeDePoints(lblPoints)},
@@ -279,3 +281,5 @@ void frmSérie::EffacerSérie()
         réponse.BackColor = Blanc;
     }
 }
+
+} // namespace tirelune

@@ -5,6 +5,8 @@
 #include "exercises/BandeDePoints.h"
 #include "followup/frmExercices.h"
 
+namespace tirelune {
+
 class frmSérie final : public Ecran {
 public:
     explicit frmSérie(frmExercices& choix);
@@ -65,3 +67,5 @@ private:
 
     frmExercices& choix_;
 };
+
+} // namespace tirelune

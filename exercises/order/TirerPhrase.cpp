@@ -1,5 +1,7 @@
 #include "exercises/order/TirerPhrase.h"
 
+namespace tirelune {
+
 namespace {
 
 constexpr int TiragesMaximum = 99;
@@ -55,3 +57,5 @@ Texte EnPhrase(std::span<const Texte> mots)
     }
     return phrase;
 }
+
+} // namespace tirelune

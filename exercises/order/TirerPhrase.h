@@ -6,6 +6,8 @@
 #include <span>
 #include <vector>
 
+namespace tirelune {
+
 // The words of a sentence that `banque` doesn't hold anywhere in it. At most 99 draws, one for each try; nothing when
 // none of them brings such a sentence. A character that is in `lettres` belongs to a word, a sign of ".?!;:" ends the
 // sentence and its last word, and anything else parts two words.
@@ -15,3 +17,5 @@ std::optional<std::vector<Texte>> TirerPhrase(Plateforme& plateforme, VueTexte t
 
 // The words joined by single blanks.
 Texte EnPhrase(std::span<const Texte> mots);
+
+} // namespace tirelune

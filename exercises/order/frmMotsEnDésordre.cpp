@@ -7,6 +7,8 @@
 
 #include <algorithm>
 
+namespace tirelune {
+
 namespace {
 
 constexpr int ColonnesDeMots = 5;
@@ -80,7 +82,8 @@ void frmMotsEnDésordre::TirerPhrase()
     }
     EcrireAlphabet(état);
     état.LettresEtSignes += SignesDesMots;
-    auto mots = ::TirerPhrase(application_.plateforme, choix_.rtfTexte.Text(), état.LettresEtSignes, lblBanque.Caption);
+    auto mots =
+        tirelune::TirerPhrase(application_.plateforme, choix_.rtfTexte.Text(), état.LettresEtSignes, lblBanque.Caption);
     if (!mots) {
         frameQuitter.Visible = true;
         cmdAbandonner.SetFocus();
@@ -292,3 +295,5 @@ void frmMotsEnDésordre::cmdAbandonner_Click()
     else
         Conclure(*this, choix_, NoteSurDix(lblPoints(0), lblPoints(1)));
 }
+
+} // namespace tirelune

@@ -5,6 +5,8 @@
 #include "exercises/BandeDePoints.h"
 #include "followup/frmExercices.h"
 
+namespace tirelune {
+
 class frmMotsEnDésordre final : public Ecran {
 public:
     explicit frmMotsEnDésordre(frmExercices& choix);
@@ -78,3 +80,5 @@ private:
 
     frmExercices& choix_;
 };
+
+} // namespace tirelune

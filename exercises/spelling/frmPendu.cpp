@@ -8,6 +8,8 @@
 #include <algorithm>
 #include <array>
 
+namespace tirelune {
+
 namespace {
 
 constexpr int MotsMaximum = 5;
@@ -84,8 +86,8 @@ Arrangement frmPendu::Disposer()
     dessin.emplace_back(imgVisage);
     return Pile{
         Colonne{
-            ::Ligne{Extensible(Label1), BandeDePoints(lblPoints)},
-            Extensible(::Ligne{
+            tirelune::Ligne{Extensible(Label1), BandeDePoints(lblPoints)},
+            Extensible(tirelune::Ligne{
                 Extensible(Toile{LargeurDessin, HauteurDessin, std::move(dessin)}),
                 Extensible(Colonne{Ressort{}, AuMoins(4800, 900, lblMot), AuMoins(4800, 900, lblMotMaj), Ressort{},
                                    Centré{cmdSuivant}}),
@@ -241,3 +243,5 @@ void frmPendu::cmdSuivant_Click()
     cmdSuivant.Visible = false;
     PréparerMot();
 }
+
+} // namespace tirelune

@@ -5,6 +5,8 @@
 #include "exercises/spelling/Visages.h"
 #include "followup/frmExercices.h"
 
+namespace tirelune {
+
 class frmPendu final : public Ecran {
 public:
     explicit frmPendu(frmExercices& choix);
@@ -54,3 +56,5 @@ private:
 
     frmExercices& choix_;
 };
+
+} // namespace tirelune

@@ -4,11 +4,13 @@
 #include "exercises/TexteEtBarre.h"
 #include "followup/EnregistrerNotes.h"
 
+namespace tirelune {
+
 std::vector<Lacune> LacunesMarquées(const TexteRiche& texte)
 {
     std::vector<Lacune> lacunes;
     texte.PourChaqueTranche(0, texte.Longueur(), [&](const Tranche& tranche) {
-        if (!tranche.Format_->Barré)
+        if (!tranche.Style->Barré)
             return;
         if (lacunes.empty() || lacunes.back().Début + lacunes.back().Longueur != tranche.Début)
             lacunes.push_back({tranche.Début, 0});
@@ -37,7 +39,7 @@ frmTrous::frmTrous(frmExercices& choix) : Ecran(choix.ApplicationDe(), "frmTrous
 Arrangement frmTrous::Disposer()
 {
     auto place = TexteEtBarre(rtfTrous, BarreDeLacunes(jeu_, cmdOk, Image1), frameFin, Text1, cmdQuitter);
-    place.enfants.emplace_back(Couverture{frameQuitter, Colonne{Ressort{}, Label2, Centré{cmdAbandonner}, Ressort{}}});
+    place.Enfants.emplace_back(Couverture{frameQuitter, Colonne{Ressort{}, Label2, Centré{cmdAbandonner}, Ressort{}}});
     return place;
 }
 
@@ -78,3 +80,5 @@ void frmTrous::cmdQuitter_Click()
 {
     Conclure(*this, choix_, NoteSurDix(lblPoints(0), lblPoints(1)));
 }
+
+} // namespace tirelune

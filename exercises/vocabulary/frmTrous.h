@@ -3,6 +3,8 @@
 #include "exercises/BandeDePoints.h"
 #include "exercises/Lacunes.h"
 
+namespace tirelune {
+
 class frmTrous final : public Ecran {
 public:
     explicit frmTrous(frmExercices& choix);
@@ -34,3 +36,5 @@ private:
 
 // Each unbroken run of struck-through characters, whatever it holds; a run that ends the text ends with it.
 std::vector<Lacune> LacunesMarquées(const TexteRiche& texte);
+
+} // namespace tirelune

@@ -6,6 +6,8 @@
 #include <random>
 #include <sstream>
 
+namespace tirelune {
+
 namespace {
 
 Texte Corrigé(VueTexte texte)
@@ -129,7 +131,7 @@ public:
             texte.Formater(Moins(texte.Longueur() + 1), Moins(10), [this](Format& format) { Retoucher(format); });
         for (auto n = Moins(4); n > 0; --n)
             texte.FormaterParagraphes(Moins(texte.Longueur() + 1), Moins(10), [this](FormatParagraphe& paragraphe) {
-                paragraphe.Alignement_ = static_cast<Alignement>(Moins(4));
+                paragraphe.Alignement = static_cast<Cadrage>(Moins(4));
                 paragraphe.RetraitGauche = static_cast<int>(Moins(3) * 100);
                 paragraphe.RetraitPremièreLigne = static_cast<int>(Moins(3) * 50);
             });
@@ -165,17 +167,17 @@ std::string Décrire(const TexteRiche& texte)
 {
     std::ostringstream description;
     texte.PourChaqueTranche(0, texte.Longueur(), [&](const Tranche& tranche) {
-        const auto& format = *tranche.Format_;
+        const auto& format = *tranche.Style;
         description << '[' << EnUtf8(VueTexte(texte.Caractères()).substr(tranche.Début, tranche.Fin - tranche.Début))
                     << ']' << (format.Barré ? " barré" : "") << (format.Gras ? " gras" : "")
-                    << (format.Souligné ? " souligné" : "") << ' ' << format.Taille << ' ' << format.Teinte.valeur
+                    << (format.Souligné ? " souligné" : "") << ' ' << format.Taille << ' ' << format.Teinte.Valeur
                     << '\n';
     });
     for (std::size_t i = 0; i <= texte.Longueur(); ++i) {
         if (i > 0 && texte.Caractères()[i - 1] != u'\n')
             continue;
         const auto& paragraphe = texte.ParagrapheEn(i);
-        description << "paragraphe en " << i << " : " << static_cast<int>(paragraphe.Alignement_) << ' '
+        description << "paragraphe en " << i << " : " << static_cast<int>(paragraphe.Alignement) << ' '
                     << paragraphe.RetraitGauche << ' ' << paragraphe.RetraitPremièreLigne << '\n';
     }
     return description.str();
@@ -401,16 +403,16 @@ TEST_F(CorrigerTexteEssai, ChaqueParagrapheGardeSonAlignement)
 {
     rtfTexte.Text(u"Titre\nGauche\nDroite\n");
     rtfTexte.SelStart(0);
-    rtfTexte.SelAlignment = Alignement::Centre;
+    rtfTexte.SelAlignment = Cadrage::Centre;
     rtfTexte.SelStart(15);
-    rtfTexte.SelAlignment = Alignement::Droite;
+    rtfTexte.SelAlignment = Cadrage::Droite;
     CorrigerTexte(rtfTexte);
     const auto& texte = rtfTexte.TextRTF();
     EXPECT_EQ(texte.Caractères(), u"Titre\r\n\tGauche\r\n\tDroite\r\n\t");
-    EXPECT_EQ(texte.ParagrapheEn(0).Alignement_, Alignement::Centre);
-    EXPECT_EQ(texte.ParagrapheEn(7).Alignement_, Alignement::Gauche);
-    EXPECT_EQ(texte.ParagrapheEn(16).Alignement_, Alignement::Droite);
-    EXPECT_EQ(texte.ParagrapheEn(texte.Longueur()).Alignement_, Alignement::Gauche);
+    EXPECT_EQ(texte.ParagrapheEn(0).Alignement, Cadrage::Centre);
+    EXPECT_EQ(texte.ParagrapheEn(7).Alignement, Cadrage::Gauche);
+    EXPECT_EQ(texte.ParagrapheEn(16).Alignement, Cadrage::Droite);
+    EXPECT_EQ(texte.ParagrapheEn(texte.Longueur()).Alignement, Cadrage::Gauche);
 }
 
 TEST_F(CorrigerTexteEssai, LaBoîteNEntendQuUneEdition)
@@ -444,3 +446,5 @@ TEST(CorrigerTexte, UnMillionDeBlancsOuDePointsNeCoûteQueSaLongueur)
     EXPECT_EQ(Corrigé(Texte(Longueur, u'_')), Texte(Longueur, u'-'));
     EXPECT_EQ(Corrigé(Texte(Longueur, u' ') + u"\n"), u"\r\n\t");
 }
+
+} // namespace tirelune

@@ -2,6 +2,8 @@
 
 #include "tests/support/Banc.h"
 
+namespace tirelune {
+
 namespace {
 
 struct Récents {
@@ -117,3 +119,5 @@ TEST(FichiersRécents, UnCheminQuiNeTientPasSurUneLigneAnsiEstLaisséDeCôté)
     récents.liste.AddItem(u"/t/chat.rtf");
     EXPECT_EQ(ComposerRécents(récents.liste), "/t/chat.rtf\r\n");
 }
+
+} // namespace tirelune

@@ -4,6 +4,8 @@
 #include "tests/support/Banc.h"
 #include "tests/support/EcranTexte.h"
 
+namespace tirelune {
+
 namespace {
 
 class MarquerMotEssai : public ::testing::Test {
@@ -219,3 +221,5 @@ TEST_F(MarquerMotEssai, LeTexteDeLElèveRetrouveLesMotsMarquésDoublesCompris)
 
     EXPECT_EQ(choix.cmbVocabulaire.Eléments(), (Mots{u"belette", u"chat", u"chat"}));
 }
+
+} // namespace tirelune

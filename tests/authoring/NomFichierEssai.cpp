@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+namespace tirelune {
+
 TEST(NomFichier, CoupeAuPremierCaractèreQuiNeConvientPas)
 {
     EXPECT_EQ(CouperNomFichier(u"Le chat de l'île"), u"Le chat de l'île");
@@ -33,3 +35,5 @@ TEST(NomFichier, TexteVideOuSansDébutDonneLExtensionSeule)
     EXPECT_EQ(NomProposé(u"\r\nLe chat"), u".rtf");
     EXPECT_EQ(NomProposé(u"\tLe chat"), u".rtf");
 }
+
+} // namespace tirelune

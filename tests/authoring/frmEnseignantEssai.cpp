@@ -5,6 +5,8 @@
 #include "core/LecteurRtf.h"
 #include "tests/support/BancEditeur.h"
 
+namespace tirelune {
+
 namespace {
 
 const Texte Question = u"Les modifications n'ont pas été enregistrées.\nSouhaitez-vous le faire?";
@@ -67,8 +69,8 @@ TEST(Editeur, SOuvreSurUnDocumentSansNom)
     EXPECT_EQ(banc.Etat("btnGauche"), Toolbar::Etat::Enfoncé);
     EXPECT_FALSE(banc.état.TexteModifié);
     EXPECT_EQ(banc.écran.Fond, Dégradé());
-    EXPECT_EQ(banc.écran.Fond->formes.size(), 256U);
-    EXPECT_EQ(banc.écran.Fond->formes.back().fond, Couleur::Rvb(0, 255, 255));
+    EXPECT_EQ(banc.écran.Fond->Formes.size(), 256U);
+    EXPECT_EQ(banc.écran.Fond->Formes.back().Fond, Couleur::Rvb(0, 255, 255));
 }
 
 TEST(Editeur, LesNomsDUneSéanceAvantSontOubliésALOuverture)
@@ -101,23 +103,23 @@ TEST(Editeur, LesMenusOntLeursLégendes)
         std::vector<Texte> noms;
         noms.reserve(menus.size());
         for (const auto& menu : menus)
-            noms.push_back(menu.option != nullptr ? menu.option->Caption() : Texte{u"-"});
+            noms.push_back(menu.Option != nullptr ? menu.Option->Caption() : Texte{u"-"});
         return noms;
     };
     const auto menus = écran.Menus();
     EXPECT_EQ(légendes(menus), (std::vector<Texte>{u"     &Fichier     ", u"     &Edition     ", u"     &Format     ",
                                                    u"    &Gestion du fichier \"Elèves\"    ",
                                                    u"               A&ccueil               "}));
-    auto fichier = légendes(menus[0].sous);
+    auto fichier = légendes(menus[0].Sous);
     ASSERT_EQ(fichier.size(), 20U);
     fichier.resize(11);
     EXPECT_EQ(fichier, (std::vector<Texte>{u"&Nouveau", u"-", u"&Ouvrir", u"-", u"Enregistrer &sous", u"&Enregistrer",
                                            u"-", u"&Imprimer", u"-", u"&Quitter", u"-"}));
-    EXPECT_EQ(menus[0].sous[10].option, &écran.mnuSépa);
-    EXPECT_EQ(menus[0].sous[19].option, &écran.mnuRécent(8));
-    EXPECT_EQ(légendes(menus[1].sous), (std::vector<Texte>{u"&Tout sélectionner", u"-", u"Cou&per", u"&Copier",
+    EXPECT_EQ(menus[0].Sous[10].Option, &écran.mnuSépa);
+    EXPECT_EQ(menus[0].Sous[19].Option, &écran.mnuRécent(8));
+    EXPECT_EQ(légendes(menus[1].Sous), (std::vector<Texte>{u"&Tout sélectionner", u"-", u"Cou&per", u"&Copier",
                                                            u"Co&ller", u"-", u"Rec&hercher", u"Rem&placer"}));
-    EXPECT_EQ(légendes(menus[2].sous),
+    EXPECT_EQ(légendes(menus[2].Sous),
               (std::vector<Texte>{u"&Caractères", u"-", u"&Gras", u"Soulig&né", u"&Italique", u"-", u"Aligné à &Gauche",
                                   u"Aligné au &Centre", u"Aligné à &Droite", u"-", u"Mise en forme &automatique"}));
 }
@@ -1212,7 +1214,7 @@ TEST(Editeur, LesAlignementsPassentDeLUnALAutre)
     écran.rtfTexte.SelStart(5);
     banc.état.TexteModifié = false;
     écran.mnuCentre.Cliquer();
-    EXPECT_EQ(écran.rtfTexte.SelAlignment(), Alignement::Centre);
+    EXPECT_EQ(écran.rtfTexte.SelAlignment(), Cadrage::Centre);
     EXPECT_TRUE(écran.mnuCentre.Checked);
     EXPECT_FALSE(écran.mnuGauche.Checked);
     EXPECT_EQ(banc.Etat("btnCentrer"), Toolbar::Etat::Enfoncé);
@@ -1225,11 +1227,11 @@ TEST(Editeur, LesAlignementsPassentDeLUnALAutre)
     EXPECT_FALSE(écran.mnuGauche.Checked);
 
     banc.Bouton("btnDroite");
-    EXPECT_EQ(écran.rtfTexte.SelAlignment(), Alignement::Droite);
+    EXPECT_EQ(écran.rtfTexte.SelAlignment(), Cadrage::Droite);
     EXPECT_EQ(banc.Etat("btnDroite"), Toolbar::Etat::Enfoncé);
     EXPECT_EQ(banc.Etat("btnCentrer"), Toolbar::Etat::Relâché);
     banc.Bouton("btnGauche");
-    EXPECT_EQ(écran.rtfTexte.SelAlignment(), Alignement::Gauche);
+    EXPECT_EQ(écran.rtfTexte.SelAlignment(), Cadrage::Gauche);
     EXPECT_TRUE(écran.mnuGauche.Checked);
 }
 
@@ -1237,7 +1239,7 @@ TEST(Editeur, UnParagrapheJustifiéRelâcheLesTroisBoutons)
 {
     BancEditeur banc;
     banc.écran.rtfTexte.Text(u"Un");
-    banc.écran.rtfTexte.SelAlignment = Alignement::Justifié;
+    banc.écran.rtfTexte.SelAlignment = Cadrage::Justifié;
     banc.écran.ActualiserFormat();
     for (const auto* clé : {"btnGauche", "btnCentrer", "btnDroite"})
         EXPECT_EQ(banc.Etat(clé), Toolbar::Etat::Relâché);
@@ -1623,3 +1625,5 @@ TEST(ListePolices, SansAucunePoliceElleSOuvreVide)
         EXPECT_EQ(banc.écran.rtfTexte.SelFontName(), u"Comic Sans MS");
     }
 }
+
+} // namespace tirelune

@@ -6,6 +6,8 @@
 
 #include <random>
 
+namespace tirelune {
+
 namespace {
 
 class RechercherEssai : public ::testing::Test {
@@ -339,7 +341,7 @@ public:
             mot += Morceaux[Moins(std::size(Morceaux))];
         return mot;
     }
-    TexteRiche Texte_()
+    TexteRiche ChargerTexte()
     {
         TexteRiche texte{Mot(0, 14)};
         for (auto n = Moins(5); n > 0; --n)
@@ -382,7 +384,7 @@ TEST_F(RechercherEssai, ToutRemplacerDonneLesPasALaLettre)
     Hasards hasard;
     int trouvés = 0;
     for (int i = 0; i < 20000; ++i) {
-        const auto texte = hasard.Texte_();
+        const auto texte = hasard.ChargerTexte();
         const auto cherché = hasard.Mot(1, 3);
         const auto remplacement = hasard.Mot(0, 5);
         rtfTexte.TextRTF(texte);
@@ -395,9 +397,9 @@ TEST_F(RechercherEssai, ToutRemplacerDonneLesPasALaLettre)
             continue;
         }
         ++trouvés;
-        ASSERT_EQ(EnUtf8(obtenu->Texte_.Caractères()), EnUtf8(rtfTexte.Text()));
-        ASSERT_TRUE(obtenu->Texte_ == rtfTexte.TextRTF());
-        ASSERT_EQ(obtenu->Texte_.FormatEn(0), rtfTexte.TextRTF().FormatEn(0));
+        ASSERT_EQ(EnUtf8(obtenu->Contenu.Caractères()), EnUtf8(rtfTexte.Text()));
+        ASSERT_TRUE(obtenu->Contenu == rtfTexte.TextRTF());
+        ASSERT_EQ(obtenu->Contenu.FormatEn(0), rtfTexte.TextRTF().FormatEn(0));
         ASSERT_EQ(obtenu->Curseur, rtfTexte.SelStart());
     }
     EXPECT_GT(trouvés, 5000);
@@ -424,3 +426,5 @@ TEST_F(RechercherEssai, UneLongueRechercheQuiEchouePresqueNeCoûteQueLaLongueurD
     écran.cmdSuivant.Cliquer();
     EXPECT_TRUE(écran.EstChargé());
 }
+
+} // namespace tirelune

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+namespace tirelune {
+
 TEST(Collage, RienDonneRien)
 {
     EXPECT_EQ(NormaliserCollage(u""), u"");
@@ -34,3 +36,5 @@ TEST(Collage, LeResteDemeure)
 {
     EXPECT_EQ(NormaliserCollage(u"œuf « à » – 日本 \U0001F600"), u"œuf « à » – 日本 \U0001F600");
 }
+
+} // namespace tirelune

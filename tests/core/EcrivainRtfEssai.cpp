@@ -7,6 +7,8 @@
 #include <algorithm>
 #include <array>
 
+namespace tirelune {
+
 namespace {
 
 void RelireÉgal(const TexteRiche& texte)
@@ -63,7 +65,7 @@ TexteRiche AuHasard(Suite& suite)
                         Matières[suite.Tirer(Matières.size())], &format);
         texte.FormaterParagraphes(suite.Tirer(static_cast<std::uint32_t>(texte.Longueur()) + 1), suite.Tirer(5),
                                   [&](FormatParagraphe& paragraphe) {
-                                      paragraphe.Alignement_ = static_cast<Alignement>(suite.Tirer(4));
+                                      paragraphe.Alignement = static_cast<Cadrage>(suite.Tirer(4));
                                       paragraphe.RetraitGauche = static_cast<int>(suite.Tirer(3)) * 100;
                                       paragraphe.RetraitPremièreLigne = static_cast<int>(suite.Tirer(3)) * -50;
                                   });
@@ -87,7 +89,7 @@ TEST(EcrivainRtf, UnTexteVideGardeSonFormatEtSonParagraphe)
 {
     RelireÉgal(TexteRiche{});
     TexteRiche texte{u"", Format{.Police = u"Arial", .Taille = 20, .Barré = true}};
-    texte.FormaterParagraphes(0, 0, [](FormatParagraphe& p) { p.Alignement_ = Alignement::Centre; });
+    texte.FormaterParagraphes(0, 0, [](FormatParagraphe& p) { p.Alignement = Cadrage::Centre; });
     RelireÉgal(texte);
     EXPECT_EQ(LireRtf(EcrireRtf(texte))->FormatEn(0), texte.FormatEn(0));
 }
@@ -163,7 +165,7 @@ TEST(EcrivainRtf, UneMarqueQuiFinitLeTexteSeRelit)
 TEST(EcrivainRtf, LesParagraphesSeRelisent)
 {
     TexteRiche texte{u"a\r\nb\r\nc\r\nd\r\n"};
-    for (const auto alignement : {Alignement::Droite, Alignement::Centre, Alignement::Justifié})
+    for (const auto alignement : {Cadrage::Droite, Cadrage::Centre, Cadrage::Justifié})
         texte.FormaterParagraphes(static_cast<std::size_t>(alignement) * 3, 0, [&](FormatParagraphe& p) {
             p = {alignement, 100, 200, -50};
         });
@@ -195,3 +197,5 @@ TEST(EcrivainRtf, TousLesTextesTirésSeRelisentÉgaux)
             FAIL() << "text number " << fois;
     }
 }
+
+} // namespace tirelune

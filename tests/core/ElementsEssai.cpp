@@ -3,6 +3,8 @@
 #include "core/Ecran.h"
 #include "tests/support/Banc.h"
 
+namespace tirelune {
+
 namespace {
 
 class Essai final : public Ecran {
@@ -369,7 +371,7 @@ TEST(Eléments, BarreDOutilsDonneLaClé)
     écran.barreOutils.Cliquer("ouvrir");
     EXPECT_EQ(clé, "ouvrir");
     écran.barreOutils.Montrer("gras", Toolbar::Etat::Mixte);
-    EXPECT_EQ(écran.barreOutils.Boutons()[0].Etat_, Toolbar::Etat::Mixte);
+    EXPECT_EQ(écran.barreOutils.Boutons()[0].Pression, Toolbar::Etat::Mixte);
     écran.barreOutils.Enabled = false;
     écran.barreOutils.Cliquer("gras");
     EXPECT_EQ(clé, "ouvrir");
@@ -384,3 +386,5 @@ TEST(Eléments, DéchargerUneFoisSuffit)
     écran.Décharger();
     EXPECT_FALSE(écran.EstChargé());
 }
+
+} // namespace tirelune

@@ -3,6 +3,8 @@
 #include "core/Fichiers.h"
 #include "tests/support/Banc.h"
 
+namespace tirelune {
+
 namespace {
 
 using Champs = std::vector<Texte>;
@@ -128,3 +130,5 @@ TEST(FichierChamps, LeQuestionnaireFourniSeRelitOctetPourOctet)
         EXPECT_EQ(ComposerChamps(*champs), LireFichier(entrée.path()));
     }
 }
+
+} // namespace tirelune

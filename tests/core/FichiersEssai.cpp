@@ -7,6 +7,8 @@
 
 #include <sys/resource.h>
 
+namespace tirelune {
+
 namespace {
 
 // A disk with room for that many bytes: writing more fails half way.
@@ -81,7 +83,7 @@ TEST(Fichiers, DisquePleinEstUnEchecDEcriture)
 TEST(Fichiers, DisquePleinPendantUnBilanSeDitEtSeRattrape)
 {
     Banc banc;
-    banc.Texte_(u"Un texte.", Texte(5000, u'a'));
+    banc.ChargerTexte(u"Un texte.", Texte(5000, u'a'));
     banc.Index(0);
     EnregistrerNote(banc.Choix(), 5);
     {
@@ -124,3 +126,5 @@ TEST(Fichiers, LeMessageNommeLeFichier)
     EXPECT_NE(MessageEchec(EchecFichier::Ecriture, u"/a/b.bil").find(u"/a/b.bil"), Texte::npos);
     EXPECT_NE(MessageEchec(EchecFichier::Ecriture, u"a"), MessageEchec(EchecFichier::Ouverture, u"a"));
 }
+
+} // namespace tirelune

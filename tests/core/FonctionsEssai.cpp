@@ -2,6 +2,8 @@
 
 #include "tests/support/Banc.h"
 
+namespace tirelune {
+
 TEST(Fonctions, LettresSeulesDansLOrdre)
 {
     Constantes état;
@@ -88,3 +90,5 @@ TEST(VérifQuestions, DossierAuNomDuQuestionnaireReste)
     EXPECT_FALSE(banc.état.QuestionnaireExiste);
     EXPECT_TRUE(banc.Existe("A.qst"));
 }
+
+} // namespace tirelune

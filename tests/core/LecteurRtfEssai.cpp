@@ -8,6 +8,8 @@
 #include <fstream>
 #include <iterator>
 
+namespace tirelune {
+
 namespace {
 
 // The plain text of a whole file, its outer braces included.
@@ -286,8 +288,8 @@ TEST(LecteurRtf, LesSéparateursDUnTableauNeSontPasMarqués)
 TEST(LecteurRtf, UneRangéePrendLAlignementDeSaPremièreCellule)
 {
     const auto texte = Lire("\\pard\\qr a\\cell\\pard\\qc b\\cell\\pard\\row\\qj c");
-    EXPECT_EQ(texte.ParagrapheEn(0).Alignement_, Alignement::Droite);
-    EXPECT_EQ(texte.ParagrapheEn(5).Alignement_, Alignement::Justifié);
+    EXPECT_EQ(texte.ParagrapheEn(0).Alignement, Cadrage::Droite);
+    EXPECT_EQ(texte.ParagrapheEn(5).Alignement, Cadrage::Justifié);
 }
 
 TEST(LecteurRtf, LeBarréMarqueLesMots)
@@ -316,7 +318,7 @@ TEST(LecteurRtf, LaFinDUnGroupeRendLeFormatDAvant)
     EXPECT_EQ(texte.FormatEn(1).Taille, 10);
     EXPECT_EQ(texte.FormatEn(1).Police, u"Times New Roman Cyr");
     EXPECT_EQ(texte.FormatEn(1).Teinte, Rouge);
-    EXPECT_EQ(texte.ParagrapheEn(0).Alignement_, Alignement::Gauche);
+    EXPECT_EQ(texte.ParagrapheEn(0).Alignement, Cadrage::Gauche);
 }
 
 TEST(LecteurRtf, LesTaillesImpossiblesSontIgnorées)
@@ -367,9 +369,9 @@ TEST(LecteurRtf, DeuxPolicesDuMêmeNomFontUneTranche)
 TEST(LecteurRtf, LesParagraphesPrennentLeFormatDeLeurFin)
 {
     const auto texte = Lire("\\ql a\\qc\\par b\\qj\\li100\\ri-200\\fi50\\par\\pard c\\qr");
-    EXPECT_EQ(texte.ParagrapheEn(0).Alignement_, Alignement::Centre);
-    EXPECT_EQ(texte.ParagrapheEn(3), (FormatParagraphe{Alignement::Justifié, 100, -200, 50}));
-    EXPECT_EQ(texte.ParagrapheEn(6), (FormatParagraphe{Alignement::Droite, 0, 0, 0}));
+    EXPECT_EQ(texte.ParagrapheEn(0).Alignement, Cadrage::Centre);
+    EXPECT_EQ(texte.ParagrapheEn(3), (FormatParagraphe{Cadrage::Justifié, 100, -200, 50}));
+    EXPECT_EQ(texte.ParagrapheEn(6), (FormatParagraphe{Cadrage::Droite, 0, 0, 0}));
     EXPECT_EQ(Lire("\\li20\\li99999999 a").ParagrapheEn(0).RetraitGauche, 20);
 }
 
@@ -406,9 +408,9 @@ TEST(LecteurRtf, UnTexteDeWordPadSeLit)
     EXPECT_EQ(MotsMarqués(*texte), (std::vector<Texte>{u"gardien", u"phare"}));
     EXPECT_EQ(texte->FormatEn(0), (Format{.Taille = 14, .Gras = true}));
     EXPECT_EQ(texte->FormatEn(26), (Format{.Taille = 11, .Teinte = Bleu, .Barré = true}));
-    EXPECT_EQ(texte->ParagrapheEn(0).Alignement_, Alignement::Centre);
-    EXPECT_EQ(texte->ParagrapheEn(12).Alignement_, Alignement::Gauche);
-    EXPECT_EQ(texte->ParagrapheEn(45), (FormatParagraphe{Alignement::Gauche, 720, 0, -360}));
+    EXPECT_EQ(texte->ParagrapheEn(0).Alignement, Cadrage::Centre);
+    EXPECT_EQ(texte->ParagrapheEn(12).Alignement, Cadrage::Gauche);
+    EXPECT_EQ(texte->ParagrapheEn(45), (FormatParagraphe{Cadrage::Gauche, 720, 0, -360}));
 }
 
 TEST(LecteurRtf, UnTexteDeWordSeLit)
@@ -449,7 +451,7 @@ TEST(LecteurRtf, UnTexteDeTextEditSeLit)
     EXPECT_EQ(MotsMarqués(*texte), std::vector<Texte>{u"école"});
     EXPECT_EQ(texte->FormatEn(0).Taille, 18);
     EXPECT_EQ(texte->FormatEn(0).Police, u"Helvetica");
-    EXPECT_EQ(texte->ParagrapheEn(0).Alignement_, Alignement::Centre);
+    EXPECT_EQ(texte->ParagrapheEn(0).Alignement, Cadrage::Centre);
     EXPECT_EQ(texte->FormatEn(9).Teinte, Couleur::Rvb(255, 38, 0));
 }
 
@@ -483,11 +485,11 @@ TEST(LecteurRtf, LaMiseEnFormeDeLibreOfficeEtDAbiWordEstLue)
         EXPECT_EQ(format(u"fort").Taille, 18) << nom;
         EXPECT_EQ(format(u"le cerf-volant s").Police, u"Comic Sans MS") << nom;
         EXPECT_EQ(format(u"le cerf-volant s").Teinte, Bleu) << nom;
-        EXPECT_EQ(paragraphe(u"Le cerf").Alignement_, Alignement::Centre) << nom;
-        EXPECT_EQ(paragraphe(u"Il monte").Alignement_, Alignement::Centre) << nom;
-        EXPECT_EQ(paragraphe(u"Il n’est").Alignement_, Alignement::Droite) << nom;
-        EXPECT_EQ(paragraphe(u"Anaïs tire").Alignement_, Alignement::Justifié) << nom;
-        EXPECT_EQ(paragraphe(u"Soudain"), (FormatParagraphe{Alignement::Gauche, 1440, 720, -360})) << nom;
+        EXPECT_EQ(paragraphe(u"Le cerf").Alignement, Cadrage::Centre) << nom;
+        EXPECT_EQ(paragraphe(u"Il monte").Alignement, Cadrage::Centre) << nom;
+        EXPECT_EQ(paragraphe(u"Il n’est").Alignement, Cadrage::Droite) << nom;
+        EXPECT_EQ(paragraphe(u"Anaïs tire").Alignement, Cadrage::Justifié) << nom;
+        EXPECT_EQ(paragraphe(u"Soudain"), (FormatParagraphe{Cadrage::Gauche, 1440, 720, -360})) << nom;
         EXPECT_EQ(MotsMarqués(*texte), (std::vector<Texte>{u"casse", u"le cerf-volant"})) << nom;
     }
 }
@@ -550,3 +552,5 @@ TEST(LecteurRtf, DesOctetsAbîmésNArrêtentPasLaLecture)
         }
     }
 }
+
+} // namespace tirelune

@@ -5,6 +5,8 @@
 #include <algorithm>
 #include <vector>
 
+namespace tirelune {
+
 namespace {
 
 std::vector<Texte> Triés(std::vector<Texte> mots)
@@ -65,3 +67,5 @@ TEST(OrdreAlphabétique, OrdreStrictSurTousLesCouples)
         }
     }
 }
+
+} // namespace tirelune

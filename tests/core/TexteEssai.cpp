@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+namespace tirelune {
+
 TEST(Texte, RognerNOteQueLesBlancs)
 {
     EXPECT_EQ(Rogner(u""), u"");
@@ -115,3 +117,5 @@ TEST(Texte, ContientChercheUnCaractère)
     EXPECT_FALSE(Contient(u"abc", u'B'));
     EXPECT_FALSE(Contient(u"", u'b'));
 }
+
+} // namespace tirelune

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+namespace tirelune {
+
 namespace {
 
 Format Barrée()
@@ -21,13 +23,13 @@ void Rougir(Format& format)
 }
 void Centrer(FormatParagraphe& paragraphe)
 {
-    paragraphe.Alignement_ = Alignement::Centre;
+    paragraphe.Alignement = Cadrage::Centre;
 }
 
 struct Morceau {
-    Texte texte;
-    bool barré;
-    Couleur teinte;
+    Texte Lettres;
+    bool Barré;
+    Couleur Teinte;
 
     friend bool operator==(const Morceau&, const Morceau&) = default;
 };
@@ -39,32 +41,32 @@ std::vector<Morceau> Morceaux(const TexteRiche& texte)
     texte.PourChaqueTranche(0, texte.Longueur(), [&](const Tranche& tranche) {
         EXPECT_EQ(tranche.Début, attendu);
         attendu = tranche.Fin;
-        morceaux.push_back({texte.Caractères().substr(tranche.Début, tranche.Fin - tranche.Début),
-                            tranche.Format_->Barré, tranche.Format_->Teinte});
+        morceaux.push_back({texte.Caractères().substr(tranche.Début, tranche.Fin - tranche.Début), tranche.Style->Barré,
+                            tranche.Style->Teinte});
     });
     EXPECT_EQ(attendu, texte.Longueur());
     return morceaux;
 }
 
-std::vector<Alignement> Alignements(const TexteRiche& texte)
+std::vector<Cadrage> Alignements(const TexteRiche& texte)
 {
-    std::vector<Alignement> alignements;
+    std::vector<Cadrage> alignements;
     for (std::size_t i = 0; i <= texte.Longueur(); ++i)
         if (i == 0 || texte.Caractères()[i - 1] == u'\n')
-            alignements.push_back(texte.ParagrapheEn(i).Alignement_);
+            alignements.push_back(texte.ParagrapheEn(i).Alignement);
     return alignements;
 }
 
-constexpr auto Gauche = Alignement::Gauche;
-constexpr auto Centre = Alignement::Centre;
-constexpr auto Droite = Alignement::Droite;
+constexpr auto Gauche = Cadrage::Gauche;
+constexpr auto Centre = Cadrage::Centre;
+constexpr auto Droite = Cadrage::Droite;
 
 // Three paragraphs: left, centred, right.
 TexteRiche TroisParagraphes()
 {
     TexteRiche texte{u"un\r\ndeux\r\ntrois"};
     texte.FormaterParagraphes(5, 0, Centrer);
-    texte.FormaterParagraphes(12, 0, [](FormatParagraphe& p) { p.Alignement_ = Alignement::Droite; });
+    texte.FormaterParagraphes(12, 0, [](FormatParagraphe& p) { p.Alignement = Cadrage::Droite; });
     return texte;
 }
 
@@ -112,7 +114,7 @@ TEST(TexteRiche, LesPositionsTropGrandesSontRamenéesÀLaFin)
     texte.Formater(99, 1, Rougir);
     EXPECT_EQ(texte.FormatEn(1).Teinte, CouleurAuto);
     texte.FormaterParagraphes(99, 99, Centrer);
-    EXPECT_EQ(texte.ParagrapheEn(0).Alignement_, Centre);
+    EXPECT_EQ(texte.ParagrapheEn(0).Alignement, Centre);
 }
 
 TEST(TexteRiche, LeFormatÀLaFinEstCeluiDuDernierCaractère)
@@ -238,7 +240,7 @@ TEST(TexteRiche, UneFinDeLigneEffacéeRejointLeFormatDuPremierParagraphe)
     texte = TroisParagraphes();
     texte.Remplacer(5, 6, u" "); // from inside the second to inside the third
     EXPECT_EQ(Alignements(texte), (std::vector{Gauche, Centre}));
-    EXPECT_EQ(texte.ParagrapheEn(texte.Longueur()).Alignement_, Centre);
+    EXPECT_EQ(texte.ParagrapheEn(texte.Longueur()).Alignement, Centre);
 }
 
 TEST(TexteRiche, UnParagrapheEffacéEnEntierEmporteSonFormat)
@@ -273,7 +275,7 @@ TEST(TexteRiche, UneMoitiéDeFinDeLigneRemplacéeLaisseLAutre)
 TEST(TexteRiche, AjouterFormeLeTexteEtSonDernierParagraphe)
 {
     TexteRiche texte;
-    const FormatParagraphe centré{.Alignement_ = Centre};
+    const FormatParagraphe centré{.Alignement = Centre};
     texte.Ajouter(u"a\r\nb", Format{}, FormatParagraphe{});
     texte.Ajouter(u"c\r\n", Barrée(), centré);
     EXPECT_EQ(Alignements(texte), (std::vector{Gauche, Centre, Centre}));
@@ -357,10 +359,12 @@ TEST(TexteRiche, LesRetouchesEnchaînéesDonnentLeMêmeTexteCaractèreParCaract�
         ASSERT_EQ(texte.Caractères(), caractères);
         double précédente = -1;
         texte.PourChaqueTranche(0, texte.Longueur(), [&](const Tranche& tranche) {
-            EXPECT_NE(tranche.Format_->Taille, précédente);
-            précédente = tranche.Format_->Taille;
+            EXPECT_NE(tranche.Style->Taille, précédente);
+            précédente = tranche.Style->Taille;
             for (auto i = tranche.Début; i < tranche.Fin; ++i)
-                ASSERT_EQ(tailles[i], tranche.Format_->Taille);
+                ASSERT_EQ(tailles[i], tranche.Style->Taille);
         });
     }
 }
+
+} // namespace tirelune

@@ -1,5 +1,7 @@
 #include "tests/support/Banc.h"
 
+namespace tirelune {
+
 namespace {
 
 class EcranDEssai final : public Ecran {
@@ -78,3 +80,5 @@ TEST(DoubleClic, LeSecondAppuiDéplaceLeCurseur)
     EXPECT_EQ(longueur, 0U);
     EXPECT_EQ(écran.rtf.SelText(), u"b");
 }
+
+} // namespace tirelune

@@ -4,6 +4,8 @@
 #include "followup/frmExercices.h"
 #include "tests/support/Banc.h"
 
+namespace tirelune {
+
 namespace {
 
 // What the table opens under that name in these tests.
@@ -74,13 +76,13 @@ TEST(Tirelune, DégradéDeDeuxCentCinquanteSixBandes)
     Banc banc;
     auto& écran = Ouvrir(banc);
     const auto& dessin = écran.Fond();
-    ASSERT_EQ(dessin.formes.size(), 256U);
-    EXPECT_EQ(dessin.hauteur, 256);
+    ASSERT_EQ(dessin.Formes.size(), 256U);
+    EXPECT_EQ(dessin.Hauteur, 256);
     for (unsigned i = 0; i < 256; ++i) {
-        const auto& bande = dessin.formes[i];
-        EXPECT_EQ(bande.fond, Couleur::Rvb(0, i, 255));
-        EXPECT_EQ(bande.points[0], (Point{0, double(i)}));
-        EXPECT_EQ(bande.points[2], (Point{dessin.largeur, double(i) + 1}));
+        const auto& bande = dessin.Formes[i];
+        EXPECT_EQ(bande.Fond, Couleur::Rvb(0, i, 255));
+        EXPECT_EQ(bande.Points[0], (Point{0, double(i)}));
+        EXPECT_EQ(bande.Points[2], (Point{dessin.Largeur, double(i) + 1}));
     }
 }
 
@@ -134,7 +136,7 @@ TEST(Tirelune, AprèsUnRôleLeCheminEstRelu)
     écran.Fond = Dessin{};
     écran.mnuElève.Cliquer();
     EXPECT_EQ(banc.état.CheminBilans, DepuisChemin(banc.dossier / "réseau"));
-    EXPECT_EQ(écran.Fond().formes.size(), 256U); // painted again
+    EXPECT_EQ(écran.Fond().Formes.size(), 256U); // painted again
 }
 
 TEST(Tirelune, PremierCodeSeConfirmePuisOuvre)
@@ -270,3 +272,5 @@ TEST(Tirelune, LaCroixTermineLeProgramme)
     Ouvrir(banc).FermerParCroix();
     EXPECT_TRUE(banc.plateforme.terminé);
 }
+
+} // namespace tirelune

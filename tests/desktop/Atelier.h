@@ -14,6 +14,8 @@
 
 #include <functional>
 
+namespace tirelune {
+
 class EcranEssai : public Ecran {
 public:
     explicit EcranEssai(Application& application) : Ecran(application, "frmEssai", u"Essai") {}
@@ -100,3 +102,5 @@ protected:
     }
     void Mettre() { Devant().Synchroniser(); }
 };
+
+} // namespace tirelune

@@ -6,6 +6,8 @@
 
 #include <set>
 
+namespace tirelune {
+
 using namespace std::chrono_literals;
 
 namespace {
@@ -295,3 +297,5 @@ TEST_F(Attentes, LaLargeurDUnTexteEstEnTwips)
         EXPECT_GT(plateforme.LargeurTexte(u"lune", 24), un * 1.5);
     });
 }
+
+} // namespace tirelune

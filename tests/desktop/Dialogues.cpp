@@ -12,6 +12,8 @@
 #include <filesystem>
 #include <fstream>
 
+namespace tirelune {
+
 namespace {
 
 class Dialogues : public Atelier {
@@ -96,3 +98,5 @@ TEST_F(Dialogues, LePressePapiersFaitLAllerRetour)
     plateforme.EcrirePressePapiers(u"l'été");
     EXPECT_EQ(plateforme.LirePressePapiers(), u"l'été");
 }
+
+} // namespace tirelune

@@ -3,6 +3,8 @@
 #include "desktop/Apparence.h"
 #include "desktop/VueToile.h"
 
+namespace tirelune {
+
 namespace {
 
 struct EcranPlaces final : EcranEssai {
@@ -21,14 +23,14 @@ struct EcranPlaces final : EcranEssai {
     Arrangement Disposer() override { return disposer(); }
 };
 
-class Disposition_ : public Atelier {
+class Dispositions : public Atelier {
 protected:
     EcranPlaces écran{application};
 };
 
 } // namespace
 
-TEST_F(Disposition_, UnePileDonneÀTousLaMêmePlace)
+TEST_F(Dispositions, UnePileDonneÀTousLaMêmePlace)
 {
     écran.disposer = [&] { return Colonne{Extensible(Pile{écran.lblFond, écran.lblDevant}), écran.cmdJouer}; };
     Avec(écran, [&] {
@@ -38,7 +40,7 @@ TEST_F(Disposition_, UnePileDonneÀTousLaMêmePlace)
     });
 }
 
-TEST_F(Disposition_, UneCouvertureCacheToutEtPrendLeClavier)
+TEST_F(Dispositions, UneCouvertureCacheToutEtPrendLeClavier)
 {
     int clics = 0;
     écran.disposer = [&] {
@@ -63,7 +65,7 @@ TEST_F(Disposition_, UneCouvertureCacheToutEtPrendLeClavier)
     });
 }
 
-TEST_F(Disposition_, CeQuiEstLibreVaOùLesRèglesLePlacent)
+TEST_F(Dispositions, CeQuiEstLibreVaOùLesRèglesLePlacent)
 {
     écran.lblMot.AutoSize = true;
     écran.lblMot.Left = 1500;
@@ -88,7 +90,7 @@ TEST_F(Disposition_, CeQuiEstLibreVaOùLesRèglesLePlacent)
     });
 }
 
-TEST_F(Disposition_, UneToileGardeSesProportions)
+TEST_F(Dispositions, UneToileGardeSesProportions)
 {
     écran.lblMot.Left = 50;
     écran.lblMot.Top = 25;
@@ -108,7 +110,7 @@ TEST_F(Disposition_, UneToileGardeSesProportions)
     });
 }
 
-TEST_F(Disposition_, LÉcranApprendSaTailleEtLesPlaces)
+TEST_F(Dispositions, LÉcranApprendSaTailleEtLesPlaces)
 {
     int fois = 0;
     écran.àLaTaille = [&] { ++fois; };
@@ -126,7 +128,7 @@ TEST_F(Disposition_, LÉcranApprendSaTailleEtLesPlaces)
     });
 }
 
-TEST_F(Disposition_, LesLettresGrandissentAvecLaFenêtre)
+TEST_F(Dispositions, LesLettresGrandissentAvecLaFenêtre)
 {
     écran.disposer = [&] { return Colonne{écran.lblFond}; };
     Avec(écran, [&] {
@@ -139,7 +141,7 @@ TEST_F(Disposition_, LesLettresGrandissentAvecLaFenêtre)
     });
 }
 
-TEST_F(Disposition_, UnEcranCompteDèsLeDébutSurLaPlaceDeCeluiDuDessous)
+TEST_F(Dispositions, UnEcranCompteDèsLeDébutSurLaPlaceDeCeluiDuDessous)
 {
     EcranPlaces dessus{application};
     double échelle = 0;
@@ -173,7 +175,7 @@ void Traîner(QWidget& cadre, QPoint de, QPoint écart)
 
 } // namespace
 
-TEST_F(Disposition_, UnCadreSeTraîneEtSeDépose)
+TEST_F(Dispositions, UnCadreSeTraîneEtSeDépose)
 {
     double prise = 0;
     std::vector<const Elément*> cibles;
@@ -212,3 +214,5 @@ TEST_F(Disposition_, UnCadreSeTraîneEtSeDépose)
         EXPECT_EQ(lieu, Devant().Twips(50));
     });
 }
+
+} // namespace tirelune

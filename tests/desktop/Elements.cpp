@@ -11,6 +11,8 @@
 #include <QScrollBar>
 #include <QToolButton>
 
+namespace tirelune {
+
 namespace {
 
 struct EcranTout final : EcranEssai {
@@ -541,3 +543,5 @@ TEST_F(Atelier, LesMenusSuiventLeursOptions)
         EXPECT_FALSE(entrées[2]->isVisible());
     });
 }
+
+} // namespace tirelune

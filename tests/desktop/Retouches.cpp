@@ -5,6 +5,8 @@
 #include <random>
 #include <string>
 
+namespace tirelune {
+
 TEST(Retouches, VoisinesSeFondent)
 {
     Retouches retouches;
@@ -57,10 +59,12 @@ TEST(Retouches, MènentDeLAncienTexteAuNouveau)
         }
         std::size_t avant = 0;
         for (const auto& r : retouches.Prendre()) {
-            EXPECT_GE(r.début, avant);
-            ancien.replace(r.début, r.anciens, texte, r.début, r.nouveaux);
-            avant = r.début + r.nouveaux;
+            EXPECT_GE(r.Début, avant);
+            ancien.replace(r.Début, r.Anciens, texte, r.Début, r.Nouveaux);
+            avant = r.Début + r.Nouveaux;
         }
         ASSERT_EQ(ancien, texte) << "partie " << partie;
     }
 }
+
+} // namespace tirelune

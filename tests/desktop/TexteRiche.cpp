@@ -8,6 +8,8 @@
 #include <QTextBlock>
 #include <QTextLayout>
 
+namespace tirelune {
+
 namespace {
 
 struct EcranTexte final : EcranEssai {
@@ -20,8 +22,8 @@ class TexteRicheAffiché : public Atelier {
 protected:
     EcranTexte écran{application};
 
-    VueTexteRiche& Vue_() { return dynamic_cast<VueTexteRiche&>(*Devant().VueDe(écran.rtf)); }
-    QTextEdit& Zone() { return Vue_().Zone(); }
+    VueTexteRiche& VueRtf() { return dynamic_cast<VueTexteRiche&>(*Devant().VueDe(écran.rtf)); }
+    QTextEdit& Zone() { return VueRtf().Zone(); }
     Texte Montré()
     {
         Mettre();
@@ -85,11 +87,11 @@ TEST_F(TexteRicheAffiché, LesPositionsSeCorrespondentAuxFinsDeLigne)
         EXPECT_EQ(Montré(), u"un\n\ndeux\n");
         const std::vector<std::pair<std::size_t, int>> paires{{0, 0}, {2, 2}, {4, 3}, {6, 4}, {9, 7}, {10, 8}, {12, 9}};
         for (const auto& [élément, widget] : paires) {
-            EXPECT_EQ(Vue_().EnWidget(élément), widget);
-            EXPECT_EQ(Vue_().DepuisWidget(widget), élément);
+            EXPECT_EQ(VueRtf().EnWidget(élément), widget);
+            EXPECT_EQ(VueRtf().DepuisWidget(widget), élément);
         }
-        EXPECT_EQ(Vue_().EnWidget(3), 2); // between CR and LF
-        EXPECT_EQ(Vue_().EnWidget(5), 3);
+        EXPECT_EQ(VueRtf().EnWidget(3), 2); // between CR and LF
+        EXPECT_EQ(VueRtf().EnWidget(5), 3);
     });
 }
 
@@ -202,7 +204,7 @@ TEST_F(TexteRicheAffiché, UneSélectionRemplacéePrendLeFormatDeSonDébut)
         EXPECT_EQ(écran.rtf.Text(), u"axf");
         EXPECT_TRUE(écran.rtf.TextRTF().FormatEn(1).Gras);
         EXPECT_FALSE(écran.rtf.TextRTF().FormatEn(2).Gras);
-        VérifierAccord(Vue_(), écran.rtf);
+        VérifierAccord(VueRtf(), écran.rtf);
     });
 }
 
@@ -220,7 +222,7 @@ TEST_F(TexteRicheAffiché, LeFormatChoisiAuCurseurVaAuTexteTapé)
         EXPECT_TRUE(écran.rtf.TextRTF().FormatEn(1).Gras);
         EXPECT_TRUE(écran.rtf.TextRTF().FormatEn(2).Gras);
         EXPECT_FALSE(écran.rtf.TextRTF().FormatEn(3).Gras);
-        VérifierAccord(Vue_(), écran.rtf);
+        VérifierAccord(VueRtf(), écran.rtf);
     });
 }
 
@@ -233,7 +235,7 @@ TEST_F(TexteRicheAffiché, CollerDonneDuTexteSimple)
         Mettre();
         Coller(QStringLiteral("l\u2019été\u202F!\nfin"));
         EXPECT_EQ(écran.rtf.Text(), u"[l'été !\r\nfin]");
-        VérifierAccord(Vue_(), écran.rtf);
+        VérifierAccord(VueRtf(), écran.rtf);
     });
 }
 
@@ -271,8 +273,8 @@ TEST_F(TexteRicheAffiché, LesChangementsDuProgrammeSeMontrent)
         écran.rtf.SelStrikeThru = true;
         écran.rtf.Remplacer(écran.rtf.Longueur(), 0, u"\r\nquatre");
         EXPECT_EQ(Montré(), u"Un\ntrois\nquatre");
-        VérifierAccord(Vue_(), écran.rtf);
-        EXPECT_EQ(Zone().textCursor().position(), Vue_().EnWidget(écran.rtf.SelStart()));
+        VérifierAccord(VueRtf(), écran.rtf);
+        EXPECT_EQ(Zone().textCursor().position(), VueRtf().EnWidget(écran.rtf.SelStart()));
     });
 }
 
@@ -286,7 +288,7 @@ TEST_F(TexteRicheAffiché, LeMasqueEstUneBoîteÀSaPlace)
         for (std::size_t i = 3; i < 7; ++i)
             écran.rtf.Remplacer(i, 1, VueTexte{&Masque, 1});
         EXPECT_EQ(Montré(), u"le \u25AE\u25AE\u25AE\u25AE");
-        VérifierAccord(Vue_(), écran.rtf);
+        VérifierAccord(VueRtf(), écran.rtf);
         écran.rtf.Remplacer(4, 1, u"h");
         EXPECT_EQ(Montré(), u"le \u25AEh\u25AE\u25AE");
     });
@@ -325,7 +327,7 @@ TEST_F(TexteRicheAffiché, LesParagraphesSuiventLeurFormat)
     écran.rtf.Text(u"un\r\ndeux");
     Avec(écran, [&] {
         écran.rtf.Sélectionner(5, 0);
-        écran.rtf.SelAlignment = Alignement::Centre;
+        écran.rtf.SelAlignment = Cadrage::Centre;
         écran.rtf.SelIndent = 300;
         Mettre();
         const auto premier = Zone().document()->firstBlock().blockFormat();
@@ -382,13 +384,13 @@ TEST_F(TexteRicheAffiché, ToutesLesRetouchesGardentLAccord)
             }
             if (dés() % 3 == 0) {
                 Mettre();
-                VérifierAccord(Vue_(), écran.rtf);
+                VérifierAccord(VueRtf(), écran.rtf);
                 if (HasFatalFailure())
                     return;
             }
         }
         Mettre();
-        VérifierAccord(Vue_(), écran.rtf);
+        VérifierAccord(VueRtf(), écran.rtf);
     });
 }
 
@@ -410,6 +412,8 @@ TEST_F(TexteRicheAffiché, DesMilliersDeRetouchesSeMontrentEnsemble)
         EXPECT_EQ(passes, 0);
         Mettre();
         EXPECT_LE(passes, 30); // once for each paragraph
-        VérifierAccord(Vue_(), écran.rtf);
+        VérifierAccord(VueRtf(), écran.rtf);
     });
 }
+
+} // namespace tirelune

@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+using namespace tirelune;
+
 int main(int argc, char** argv)
 {
     testing::InitGoogleTest(&argc, argv);

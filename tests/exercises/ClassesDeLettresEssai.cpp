@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+namespace tirelune {
+
 TEST(ClassesDeLettres, SixLettresOntDesFormesAccentuées)
 {
     EXPECT_EQ(ClasseDeLettre(u'a'), u"aAàâäÂÀ");
@@ -46,3 +48,5 @@ TEST(ClassesDeLettres, FrappesSansTouche)
         EXPECT_TRUE(lettre < u'a' || lettre > u'z') << static_cast<int>(tapée);
     }
 }
+
+} // namespace tirelune

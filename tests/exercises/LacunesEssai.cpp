@@ -1,6 +1,8 @@
 #include "exercises/Lacunes.h"
 #include "tests/support/Banc.h"
 
+namespace tirelune {
+
 namespace {
 
 class EcranDEssai final : public Ecran {
@@ -149,7 +151,7 @@ TEST(OuvrirLacunes, UneLacuneSurPlusieursFormats)
 TEST(OuvrirLacunes, DonneCeQueDonnentLesRemplacements)
 {
     FormatParagraphe centré;
-    centré.Alignement_ = Alignement::Centre;
+    centré.Alignement = Cadrage::Centre;
     FormatParagraphe enRetrait;
     enRetrait.RetraitGauche = 300;
     TexteRiche texte;
@@ -188,3 +190,5 @@ TEST(OuvrirLacunes, ToutLeTexte)
     const TexteRiche texte{u"mot", Marqué()};
     EXPECT_EQ(OuvrirLacunes(texte, {{0, 3}}).Caractères(), u"___");
 }
+
+} // namespace tirelune

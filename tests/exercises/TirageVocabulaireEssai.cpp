@@ -2,6 +2,8 @@
 
 #include "tests/support/Mots.h"
 
+namespace tirelune {
+
 namespace {
 
 std::vector<Texte> Tirés(Banc& banc, int limite)
@@ -60,3 +62,5 @@ TEST(TirageVocabulaire, CinqCentsMotsDontUnSeulDiffèreSontTirésTousDeux)
     TirerVarié(banc);
     EXPECT_EQ(Tirés(banc, 10), (std::vector<Texte>{u"âne", u"zèbre"}));
 }
+
+} // namespace tirelune

@@ -9,6 +9,8 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+namespace tirelune {
+
 namespace {
 
 constexpr VueTexte DossierInaccessible = u"Le répertoire des fichiers \"Elèves\" n'est pas accessible.\n\n"
@@ -32,7 +34,7 @@ void Titre(Banc& banc, const Texte& titre)
 TEST(EnregistrerNotes, PremierExerciceFaitUneRangéeEtTrenteEtUneLignes)
 {
     Banc banc;
-    banc.Texte_(u"Un texte.", u"Le chat");
+    banc.ChargerTexte(u"Un texte.", u"Le chat");
     Noter(banc, 3, 7.5F);
     ASSERT_TRUE(SauverBilan(banc.Choix()));
     EXPECT_EQ(banc.Choix().fgRésultats.Rows(), 2);
@@ -45,7 +47,7 @@ TEST(EnregistrerNotes, PremierExerciceFaitUneRangéeEtTrenteEtUneLignes)
 TEST(EnregistrerNotes, SecondeNoteRemplaceLaPremièreMêmeMeilleure)
 {
     Banc banc;
-    banc.Texte_(u"Un texte.");
+    banc.ChargerTexte(u"Un texte.");
     Noter(banc, 0, 9);
     Noter(banc, 0, 4);
     EXPECT_EQ(banc.Choix().fgRésultats.Rows(), 2);
@@ -57,7 +59,7 @@ TEST(EnregistrerNotes, SecondeNoteRemplaceLaPremièreMêmeMeilleure)
 TEST(EnregistrerNotes, MoyenneSurTousLesTextes)
 {
     Banc banc;
-    banc.Texte_(u"Un texte.", u"A");
+    banc.ChargerTexte(u"Un texte.", u"A");
     Noter(banc, 26, 10);
     Titre(banc, u"B");
     Noter(banc, 26, 5);
@@ -81,7 +83,7 @@ TEST(EnregistrerNotes, CouleursAuxBornes)
 TEST(EnregistrerNotes, InfoBulleCoupéeSansArrondir)
 {
     Banc banc;
-    banc.Texte_(u"Un texte.");
+    banc.ChargerTexte(u"Un texte.");
     Noter(banc, 1, 10);
     EXPECT_EQ(banc.Choix().lblExo(1).ToolTipText, u"10");
     Noter(banc, 1, 6.6666F);
@@ -96,7 +98,7 @@ TEST(EnregistrerNotes, InfoBulleCoupéeSansArrondir)
 TEST(EnregistrerNotes, TitresQuiDiffèrentParLaCasseFontDeuxRangées)
 {
     Banc banc;
-    banc.Texte_(u"Un texte.", u"Le Chat");
+    banc.ChargerTexte(u"Un texte.", u"Le Chat");
     Noter(banc, 0, 5);
     Titre(banc, u"Le chat");
     Noter(banc, 0, 6);
@@ -106,7 +108,7 @@ TEST(EnregistrerNotes, TitresQuiDiffèrentParLaCasseFontDeuxRangées)
 TEST(EnregistrerNotes, MêmeTitreDansDeuxDossiersPartageSaRangée)
 {
     Banc banc;
-    banc.Texte_(u"Un texte.");
+    banc.ChargerTexte(u"Un texte.");
     Noter(banc, 0, 5);
     banc.état.CheminTexteElève = u"/ailleurs/";
     Noter(banc, 0, 6);
@@ -117,7 +119,7 @@ TEST(EnregistrerNotes, PointDécimalSelonLaMachine)
 {
     Banc banc;
     banc.plateforme.séparateur = u'.';
-    banc.Texte_(u"Un texte.");
+    banc.ChargerTexte(u"Un texte.");
     Noter(banc, 0, 6.25F);
     EXPECT_EQ(banc.Note(0), u"6.25");
     EXPECT_EQ(banc.Choix().lblExo(0).ToolTipText, u"6.25");
@@ -148,7 +150,7 @@ TEST(EnregistrerNotes, CelluleQuiNEstPasUnNombreCompteCommeNonFaite)
 TEST(SauverBilan, SansRéseauLeDossierDuProgrammeSert)
 {
     Banc banc;
-    banc.Texte_(u"Un texte.");
+    banc.ChargerTexte(u"Un texte.");
     Noter(banc, 0, 5);
     banc.état.CheminBilans = u"/ailleurs";
     EXPECT_TRUE(SauverBilan(banc.Choix()));
@@ -160,7 +162,7 @@ TEST(SauverBilan, DossierPerduEnCoursDeRouteOkRéessaie)
 {
     Banc banc;
     std::filesystem::create_directory(banc.dossier / "réseau");
-    banc.Texte_(u"Un texte.");
+    banc.ChargerTexte(u"Un texte.");
     banc.état.CheminRéseau = banc.état.CheminAppli + u"/réseau";
     Noter(banc, 0, 5);
     ASSERT_TRUE(SauverBilan(banc.Choix()));
@@ -176,7 +178,7 @@ TEST(SauverBilan, DossierPerduEnCoursDeRouteOkRéessaie)
 TEST(SauverBilan, AnnulerEnregistreSurPlaceEtLeSuivantRevientAuRéseau)
 {
     Banc banc;
-    banc.Texte_(u"Un texte.");
+    banc.ChargerTexte(u"Un texte.");
     banc.état.CheminRéseau = banc.état.CheminAppli + u"/réseau";
     Noter(banc, 0, 5);
     banc.AnnoncerBoîte(Texte{DossierInaccessible}, Réponse::Annuler);
@@ -195,7 +197,7 @@ TEST(SauverBilan, AnnulerEnregistreSurPlaceEtLeSuivantRevientAuRéseau)
 TEST(SauverBilan, CeQuUnAutreDossierContenaitEstGardéUneFois)
 {
     Banc banc;
-    banc.Texte_(u"Un texte.");
+    banc.ChargerTexte(u"Un texte.");
     Noter(banc, 0, 5);
     banc.Ecrire("réseau/Léa.bil", "des années de résultats"); // read here while the network was out of reach
     banc.état.CheminRéseau = banc.état.CheminAppli + u"/réseau";
@@ -212,7 +214,7 @@ TEST(SauverBilan, CeQuUnAutreDossierContenaitEstGardéUneFois)
 TEST(SauverBilan, CeQuiNeSeCopiePasNEstPasRemplacé)
 {
     Banc banc;
-    banc.Texte_(u"Un texte.");
+    banc.ChargerTexte(u"Un texte.");
     Noter(banc, 0, 5);
     banc.état.NomElève = Texte(251, u'a'); // no room left in the name for a copy's
     const auto nom = std::string(251, 'a') + ".bil";
@@ -226,7 +228,7 @@ TEST(SauverBilan, CeQuiNeSeCopiePasNEstPasRemplacé)
 TEST(SauverBilan, AucunDossierNAccepteLeDitEtGardeTout)
 {
     Banc banc;
-    banc.Texte_(u"Un texte.");
+    banc.ChargerTexte(u"Un texte.");
     Noter(banc, 0, 5);
     banc.plateforme.échecEcriture = [](const Chemin&) { return EchecFichier::Ouverture; };
     banc.AnnoncerBoîte(Texte{DossierInaccessible}, Réponse::Annuler);
@@ -245,7 +247,7 @@ TEST(SauverBilan, AucunDossierNAccepteLeDitEtGardeTout)
 TEST(SauverBilan, EcritureQuiEchoueAprèsOuvertureNommeLeFichier)
 {
     Banc banc;
-    banc.Texte_(u"Un texte.");
+    banc.ChargerTexte(u"Un texte.");
     Noter(banc, 0, 5);
     banc.plateforme.échecEcriture = [](const Chemin&) { return EchecFichier::Ecriture; };
     banc.AnnoncerBoîte(MessageEchec(EchecFichier::Ecriture, DepuisChemin(banc.dossier / "Léa.bil")));
@@ -259,7 +261,7 @@ TEST(SauverBilan, EcritureQuiEchoueAprèsOuvertureNommeLeFichier)
 TEST(SauverBilan, FermerLeChoixRéessaieCeQuiNAPasPuSEcrire)
 {
     Banc banc;
-    banc.Texte_(u"Un texte.");
+    banc.ChargerTexte(u"Un texte.");
     Noter(banc, 0, 5);
     banc.plateforme.échecEcriture = [](const Chemin&) { return EchecFichier::Ecriture; };
     banc.AnnoncerBoîte(u"Impossible d'enregistrer…");
@@ -272,7 +274,7 @@ TEST(SauverBilan, FermerLeChoixRéessaieCeQuiNAPasPuSEcrire)
 TEST(SauverBilan, QuitterSansPouvoirEnregistrerSeDemande)
 {
     Banc banc;
-    banc.Texte_(u"Un texte.");
+    banc.ChargerTexte(u"Un texte.");
     Noter(banc, 0, 5);
     banc.plateforme.échecEcriture = [](const Chemin&) { return EchecFichier::Ecriture; };
     banc.AnnoncerBoîte(u"Impossible d'enregistrer…");
@@ -328,3 +330,5 @@ TEST(SauverBilan, HuitMachinesEnregistrentEnsembleSansSeGêner)
     for (int machine = 0; machine < Machines; ++machine)
         EXPECT_EQ(LireFichier(fichier(machine)), contenu(machine, Enregistrements - 1));
 }
+
+} // namespace tirelune

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+namespace tirelune {
+
 namespace {
 
 bool Accepté(VueTexte nom)
@@ -73,3 +75,5 @@ TEST(NomElève, LeFichierTientEnDeuxCentCinquanteCinqOctets)
     EXPECT_TRUE(Accepté(Texte(125, u'é') + u"a")); // two bytes each
     EXPECT_FALSE(Accepté(Texte(126, u'é')));
 }
+
+} // namespace tirelune

@@ -2,6 +2,8 @@
 
 #include "tests/support/Banc.h"
 
+namespace tirelune {
+
 TEST(CodeCouleur, MontreLesCinqCouleursEtLeBlanc)
 {
     Banc banc;
@@ -29,3 +31,5 @@ TEST(CodeCouleur, LeBoutonDuChoixLOuvre)
     banc.Choix().cmdCode.Cliquer();
     EXPECT_EQ(banc.plateforme.écransMontrés, (std::vector<std::string>{"frmCodeCouleur"}));
 }
+
+} // namespace tirelune

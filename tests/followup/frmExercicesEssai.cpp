@@ -6,6 +6,8 @@
 #include "followup/EnregistrerNotes.h"
 #include "tests/support/Banc.h"
 
+namespace tirelune {
+
 namespace {
 
 constexpr VueTexte AFaire = u" A faire ";
@@ -169,7 +171,7 @@ TEST(Exercices, NouvelElèveNARien)
         EXPECT_EQ(choix->lblExo(i).BackColor, Blanc);
         EXPECT_EQ(choix->lblExo(i).ToolTipText, AFaire);
         EXPECT_EQ(choix->lblMoyenne(i).Caption, u"");
-        EXPECT_EQ(choix->lblExo(i).Caption, Exercices[static_cast<std::size_t>(i)].libellé);
+        EXPECT_EQ(choix->lblExo(i).Caption, Exercices[static_cast<std::size_t>(i)].Libellé);
     }
 }
 
@@ -595,3 +597,5 @@ TEST(Exercices, QuitterFermeEtPlusRienNeRépond)
     choix->cmdCharger.Cliquer();
     EXPECT_TRUE(banc.plateforme.dialogues.empty());
 }
+
+} // namespace tirelune

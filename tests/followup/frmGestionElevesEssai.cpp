@@ -3,6 +3,8 @@
 #include "core/FichierChamps.h"
 #include "tests/support/Banc.h"
 
+namespace tirelune {
+
 namespace {
 
 void Valider(frmGestionEleves& écran, const Texte& nom)
@@ -579,3 +581,5 @@ TEST(GestionEleves, DossierQueLeFichierNePeutPasGarderEstRefusé)
     EXPECT_FALSE(banc.Existe("Chemin.txt"));
     EXPECT_EQ(banc.état.CheminRéseau, u"");
 }
+
+} // namespace tirelune

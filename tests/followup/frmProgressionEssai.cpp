@@ -5,6 +5,8 @@
 
 #include <cmath>
 
+namespace tirelune {
+
 namespace {
 
 constexpr int Vocabulaire = 2;
@@ -27,10 +29,10 @@ frmProgression& Ouvrir(Banc& banc, int groupe)
 std::vector<Point> Points(const frmProgression& écran)
 {
     std::vector<Point> points;
-    for (const auto& forme : écran.imgCourbes.Picture().formes) {
-        if (forme.genre == GenreForme::Ellipse)
+    for (const auto& forme : écran.imgCourbes.Picture().Formes) {
+        if (forme.Genre == GenreForme::Ellipse)
             points.push_back(
-                {(forme.points[0].x + forme.points[1].x) / 2, (forme.points[0].y + forme.points[1].y) / 2});
+                {(forme.Points[0].X + forme.Points[1].X) / 2, (forme.Points[0].Y + forme.Points[1].Y) / 2});
     }
     return points;
 }
@@ -38,8 +40,8 @@ std::vector<Point> Points(const frmProgression& écran)
 std::vector<Forme> Segments(const frmProgression& écran)
 {
     std::vector<Forme> segments;
-    for (const auto& forme : écran.imgCourbes.Picture().formes) {
-        if (forme.genre == GenreForme::Tracé)
+    for (const auto& forme : écran.imgCourbes.Picture().Formes) {
+        if (forme.Genre == GenreForme::Tracé)
             segments.push_back(forme);
     }
     return segments;
@@ -69,10 +71,10 @@ TEST(Progression, SansRésultatLeDitEtResteOuvert)
         {u"Il n'y a aucun résultat enregistré.", Réponse::Ok, u"Tracé de courbes impossible", {}});
     auto& écran = Ouvrir(banc, 1);
     EXPECT_TRUE(écran.EstChargé());
-    EXPECT_TRUE(écran.imgCourbes.Picture().formes.empty());
+    EXPECT_TRUE(écran.imgCourbes.Picture().Formes.empty());
     EXPECT_TRUE(écran.lblLégende(0).Visible);
     écran.lblLégende(0).Cliquer();
-    EXPECT_TRUE(écran.imgCourbes.Picture().formes.empty());
+    EXPECT_TRUE(écran.imgCourbes.Picture().Formes.empty());
 }
 
 TEST(Progression, LégendeDeChaqueGroupe)
@@ -116,10 +118,10 @@ TEST(Progression, UnSeulTexteFaitUnPointSurLAxeSansSegment)
     Notes(banc, 4, {u"7,5"});
     auto& écran = Ouvrir(banc, Vocabulaire);
     const double unité = (écran.lineOrd.Y2 - écran.lineOrd.Y1) / 10.0;
-    ASSERT_EQ(écran.imgCourbes.Picture().formes.size(), 1U);
-    const auto& point = écran.imgCourbes.Picture().formes.front();
-    EXPECT_EQ(point.fond, Couleur::Rvb(255, 255, 0));
-    EXPECT_DOUBLE_EQ(point.points[1].x - point.points[0].x, 10);
+    ASSERT_EQ(écran.imgCourbes.Picture().Formes.size(), 1U);
+    const auto& point = écran.imgCourbes.Picture().Formes.front();
+    EXPECT_EQ(point.Fond, Couleur::Rvb(255, 255, 0));
+    EXPECT_DOUBLE_EQ(point.Points[1].X - point.Points[0].X, 10);
     EXPECT_EQ(Points(écran), (std::vector<Point>{{double(écran.lineAbs.X1), écran.lineAbs.Y1 - 7.5 * unité}}));
 }
 
@@ -130,8 +132,8 @@ TEST(Progression, ZéroAuPiedDixAuSommet)
     auto& écran = Ouvrir(banc, Vocabulaire);
     const auto points = Points(écran);
     ASSERT_EQ(points.size(), 2U);
-    EXPECT_DOUBLE_EQ(points[0].y, écran.lineAbs.Y1);
-    EXPECT_DOUBLE_EQ(points[1].y, écran.lineOrd.Y1);
+    EXPECT_DOUBLE_EQ(points[0].Y, écran.lineAbs.Y1);
+    EXPECT_DOUBLE_EQ(points[1].Y, écran.lineOrd.Y1);
 }
 
 TEST(Progression, LeDernierTexteEstUnPasAvantLaFinDeLAxe)
@@ -142,8 +144,8 @@ TEST(Progression, LeDernierTexteEstUnPasAvantLaFinDeLAxe)
     const double pas = (écran.lineAbs.X2 - écran.lineAbs.X1) / 5.0;
     const auto points = Points(écran);
     ASSERT_EQ(points.size(), 5U);
-    EXPECT_DOUBLE_EQ(points.front().x, écran.lineAbs.X1);
-    EXPECT_DOUBLE_EQ(points.back().x, écran.lineAbs.X2 - pas);
+    EXPECT_DOUBLE_EQ(points.front().X, écran.lineAbs.X1);
+    EXPECT_DOUBLE_EQ(points.back().X, écran.lineAbs.X2 - pas);
     EXPECT_EQ(Segments(écran).size(), 4U);
 }
 
@@ -156,11 +158,11 @@ TEST(Progression, LaCourbeEnjambeLesTextesNonFaits)
     const auto segments = Segments(écran);
     ASSERT_EQ(points.size(), 2U);
     ASSERT_EQ(segments.size(), 1U);
-    EXPECT_EQ(segments[0].points, points);
-    EXPECT_DOUBLE_EQ(segments[0].épaisseur, 2);
+    EXPECT_EQ(segments[0].Points, points);
+    EXPECT_DOUBLE_EQ(segments[0].Epaisseur, 2);
     const double pas = (écran.lineAbs.X2 - écran.lineAbs.X1) / 6.0;
-    EXPECT_DOUBLE_EQ(points[0].x, écran.lineAbs.X1 + pas);
-    EXPECT_DOUBLE_EQ(points[1].x, écran.lineAbs.X1 + 4 * pas);
+    EXPECT_DOUBLE_EQ(points[0].X, écran.lineAbs.X1 + pas);
+    EXPECT_DOUBLE_EQ(points[1].X, écran.lineAbs.X1 + 4 * pas);
 }
 
 TEST(Progression, ExerciceJamaisFaitGardeSaLégende)
@@ -169,8 +171,8 @@ TEST(Progression, ExerciceJamaisFaitGardeSaLégende)
     Notes(banc, 5, {u"6"});
     auto& écran = Ouvrir(banc, Vocabulaire);
     EXPECT_TRUE(écran.lblLégende(0).Visible);
-    ASSERT_EQ(écran.imgCourbes.Picture().formes.size(), 1U);
-    EXPECT_EQ(écran.imgCourbes.Picture().formes[0].fond, écran.lblLégende(1).ForeColor);
+    ASSERT_EQ(écran.imgCourbes.Picture().Formes.size(), 1U);
+    EXPECT_EQ(écran.imgCourbes.Picture().Formes[0].Fond, écran.lblLégende(1).ForeColor);
 }
 
 TEST(Progression, CourbesDansLOrdreEtLégendeCliquéeAuDessus)
@@ -179,30 +181,30 @@ TEST(Progression, CourbesDansLOrdreEtLégendeCliquéeAuDessus)
     Notes(banc, 4, {u"5", u"6"});
     Notes(banc, 10, {u"5", u"6"});
     auto& écran = Ouvrir(banc, Vocabulaire);
-    const auto avant = écran.imgCourbes.Picture().formes;
+    const auto avant = écran.imgCourbes.Picture().Formes;
     ASSERT_EQ(avant.size(), 6U);
-    EXPECT_EQ(avant.front().fond, écran.lblLégende(0).ForeColor);
-    EXPECT_EQ(avant.back().trait, écran.lblLégende(6).ForeColor);
+    EXPECT_EQ(avant.front().Fond, écran.lblLégende(0).ForeColor);
+    EXPECT_EQ(avant.back().Trait, écran.lblLégende(6).ForeColor);
 
     for (int clic = 0; clic < 50; ++clic)
         écran.lblLégende(0).Cliquer();
-    const auto& après = écran.imgCourbes.Picture().formes;
+    const auto& après = écran.imgCourbes.Picture().Formes;
     ASSERT_EQ(après.size(), 6U); // what it covers is gone
-    EXPECT_EQ(après.front().fond, écran.lblLégende(6).ForeColor);
-    EXPECT_EQ(après.back().trait, écran.lblLégende(0).ForeColor);
+    EXPECT_EQ(après.front().Fond, écran.lblLégende(6).ForeColor);
+    EXPECT_EQ(après.back().Trait, écran.lblLégende(0).ForeColor);
 }
 
 TEST(Progression, RefaireUnExerciceChangeLaCourbeSansLAllonger)
 {
     Banc banc;
-    banc.Texte_(u"Un texte.");
+    banc.ChargerTexte(u"Un texte.");
     banc.Index(4);
     EnregistrerNote(banc.Choix(), 3);
     EnregistrerNote(banc.Choix(), 8);
     auto& écran = Ouvrir(banc, Vocabulaire);
     const auto points = Points(écran);
     ASSERT_EQ(points.size(), 1U);
-    EXPECT_DOUBLE_EQ(points[0].y, écran.lineAbs.Y1 - 8 * (écran.lineOrd.Y2 - écran.lineOrd.Y1) / 10.0);
+    EXPECT_DOUBLE_EQ(points[0].Y, écran.lineAbs.Y1 - 8 * (écran.lineOrd.Y2 - écran.lineOrd.Y1) / 10.0);
 }
 
 TEST(Progression, NoteHorsDesBornesResteDansLeCadre)
@@ -210,8 +212,8 @@ TEST(Progression, NoteHorsDesBornesResteDansLeCadre)
     Banc banc;
     Notes(banc, 4, {u"-3", u"1000000"});
     auto& écran = Ouvrir(banc, Vocabulaire);
-    EXPECT_DOUBLE_EQ(Points(écran).at(0).y, écran.lineAbs.Y1);
-    EXPECT_DOUBLE_EQ(Points(écran).at(1).y, écran.lineOrd.Y1);
+    EXPECT_DOUBLE_EQ(Points(écran).at(0).Y, écran.lineAbs.Y1);
+    EXPECT_DOUBLE_EQ(Points(écran).at(1).Y, écran.lineOrd.Y1);
 }
 
 TEST(Progression, AxesEtMarques)
@@ -235,8 +237,8 @@ TEST(Progression, AxesEtMarques)
     EXPECT_EQ(écran.cmdQuitter.Caption, u"&Quitter");
     EXPECT_EQ(écran.Label2(1).Top + écran.Label2(1).Height / 2, écran.Line2(5).Y1());
     // The drawing has the units of the axes.
-    EXPECT_EQ(écran.imgCourbes.Picture().largeur, écran.imgCourbes.Width());
-    EXPECT_EQ(écran.imgCourbes.Picture().hauteur, écran.imgCourbes.Height());
+    EXPECT_EQ(écran.imgCourbes.Picture().Largeur, écran.imgCourbes.Width());
+    EXPECT_EQ(écran.imgCourbes.Picture().Hauteur, écran.imgCourbes.Height());
     EXPECT_EQ(écran.imgCourbes.Left, 0);
     EXPECT_EQ(écran.imgCourbes.Top, 0);
     écran.cmdQuitter.Cliquer();
@@ -258,3 +260,5 @@ TEST(Progression, LeCadreDUnGroupeEtSonImageLOuvrent)
     choix.imgCourbes(4).Cliquer();
     EXPECT_EQ(banc.état.GroupeCourbes, 5);
 }
+
+} // namespace tirelune

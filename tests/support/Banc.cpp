@@ -9,6 +9,8 @@
 #include <fstream>
 #include <limits>
 
+namespace tirelune {
+
 void PrintTo(const Touche& touche, std::ostream* flux)
 {
     *flux << "touche " << touche.Code << " '" << EnUtf8(Texte(1, touche.Caractère)) << '\'';
@@ -16,7 +18,7 @@ void PrintTo(const Touche& touche, std::ostream* flux)
 
 void PrintTo(Couleur couleur, std::ostream* flux)
 {
-    *flux << "0x" << std::hex << couleur.valeur << std::dec;
+    *flux << "0x" << std::hex << couleur.Valeur << std::dec;
 }
 
 // ---- Dice, boxes, dialogs ----------------------------------------------------------------------------------------
@@ -76,7 +78,7 @@ Réponse PlateformeEssai::AfficherBoîte(const Boîte& boîte)
     }
     if (annoncée.Pendant)
         annoncée.Pendant();
-    return annoncée.Réponse_;
+    return annoncée.Choix;
 }
 
 std::optional<Texte> PlateformeEssai::DemanderFichierAOuvrir(const DialogueFichier& dialogue)
@@ -174,19 +176,19 @@ void PlateformeEssai::Prévoir(std::chrono::milliseconds délai, std::function<v
 bool PlateformeEssai::Suivant(double limite, bool minuteries)
 {
     const auto action = std::min_element(actions_.begin(), actions_.end(),
-                                         [](const Action& a, const Action& b) { return a.quand < b.quand; });
+                                         [](const Action& a, const Action& b) { return a.Quand < b.Quand; });
     auto tic = échéances_.end();
     if (minuteries)
         tic = std::min_element(échéances_.begin(), échéances_.end(),
                                [](const auto& a, const auto& b) { return a.second < b.second; });
-    const double quandAction = action == actions_.end() ? std::numeric_limits<double>::infinity() : action->quand;
+    const double quandAction = action == actions_.end() ? std::numeric_limits<double>::infinity() : action->Quand;
     const double quandTic = tic == échéances_.end() ? std::numeric_limits<double>::infinity() : tic->second;
     const double quand = std::min(quandAction, quandTic);
     if (quand > limite)
         return false;
     Passer(std::max(quand, temps_));
     if (quandAction <= quandTic) {
-        const auto faire = std::move(action->faire);
+        const auto faire = std::move(action->Faire);
         actions_.erase(action);
         faire();
         return true;
@@ -324,7 +326,7 @@ frmExercices& Banc::Choix()
     return *choix_;
 }
 
-void Banc::TexteRiche_(TexteRiche texte, Texte titre)
+void Banc::ChargerTexte(TexteRiche texte, Texte titre)
 {
     auto& choix = Choix();
     choix.rtfTexte.TextRTF(std::move(texte));
@@ -336,15 +338,15 @@ void Banc::TexteRiche_(TexteRiche texte, Texte titre)
     choix.cmbVocabulaire.AddItems(MotsMarqués(choix.rtfTexte.TextRTF()));
 }
 
-void Banc::Texte_(Texte texte, Texte titre)
+void Banc::ChargerTexte(Texte texte, Texte titre)
 {
-    TexteRiche_(TexteRiche{NormaliserLignes(texte)}, std::move(titre));
+    ChargerTexte(TexteRiche{NormaliserLignes(texte)}, std::move(titre));
 }
 
 void Banc::Vocabulaire(std::vector<Texte> mots)
 {
     if (Choix().lblTexte.Caption().empty())
-        Texte_(u"Un texte.");
+        ChargerTexte(u"Un texte.");
     Choix().cmbVocabulaire.Clear();
     Choix().cmbVocabulaire.AddItems(std::move(mots));
 }
@@ -379,3 +381,5 @@ Texte Banc::Note(int exercice)
     }
     return {};
 }
+
+} // namespace tirelune

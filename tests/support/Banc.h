@@ -18,6 +18,8 @@
 #include <utility>
 #include <vector>
 
+namespace tirelune {
+
 using namespace std::chrono_literals;
 
 // Text prints as text when it differs.
@@ -57,7 +59,7 @@ public:
 
     struct BoîteAnnoncée {
         Texte Message; // whole, or its start when it ends in "…"
-        Réponse Réponse_ = Réponse::Ok;
+        Réponse Choix = Réponse::Ok;
         std::optional<Texte> Titre;
         std::function<void()> Pendant; // what happens while the box is open
     };
@@ -96,8 +98,8 @@ public:
 
 private:
     struct Action {
-        double quand;
-        std::function<void()> faire;
+        double Quand;
+        std::function<void()> Faire;
     };
     // Runs what is due first up to `limite`; false when nothing is. Ticks wait while `minuteries` is false.
     bool Suivant(double limite, bool minuteries);
@@ -151,8 +153,8 @@ public:
     // The chooser, loaded, with the pupil "Léa" signed in and no text.
     frmExercices& Choix();
     // Text, title and vocabulary of the chooser, as if loaded; the speed is known, so that all exercises are open.
-    void Texte_(Texte texte, Texte titre = u"Le chat");
-    void TexteRiche_(TexteRiche texte, Texte titre = u"Le chat");
+    void ChargerTexte(Texte texte, Texte titre = u"Le chat");
+    void ChargerTexte(TexteRiche texte, Texte titre = u"Le chat");
     void Vocabulaire(std::initializer_list<Texte> mots);
     void Vocabulaire(std::vector<Texte> mots);
     // The index that lblIndex holds while an exercise runs.
@@ -179,3 +181,5 @@ private:
     std::unique_ptr<frmExercices> choix_;
     std::vector<std::unique_ptr<Ecran>> écrans_;
 };
+
+} // namespace tirelune

@@ -5,6 +5,8 @@
 
 #include <fstream>
 
+namespace tirelune {
+
 class BancEditeur : public Banc {
 public:
     explicit BancEditeur(std::vector<Texte> polices = {u"Arial", u"Comic Sans MS", u"Verdana"})
@@ -39,7 +41,7 @@ public:
     {
         for (const auto& bouton : écran.tlbBoutons.Boutons()) {
             if (bouton.Clé == clé)
-                return bouton.Etat_;
+                return bouton.Pression;
         }
         ADD_FAILURE() << "pas de bouton " << clé;
         return {};
@@ -54,3 +56,5 @@ public:
     frmTirelune accueil{application};
     frmEnseignant écran{accueil};
 };
+
+} // namespace tirelune

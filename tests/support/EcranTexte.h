@@ -2,6 +2,8 @@
 #pragma once
 #include "core/Ecran.h"
 
+namespace tirelune {
+
 class EcranTexte final : public Ecran {
 public:
     explicit EcranTexte(Application& application) : Ecran(application, "EcranTexte", u"") {}
@@ -12,3 +14,5 @@ public:
 private:
     Arrangement Disposer() override { return Colonne{rtfTexte, rtfSauve}; }
 };
+
+} // namespace tirelune

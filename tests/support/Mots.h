@@ -4,6 +4,8 @@
 
 #include <cmath>
 
+namespace tirelune {
+
 // "mot00", "mot01"... in the order of the dictionary.
 inline std::vector<Texte> Mots(int nombre)
 {
@@ -25,3 +27,5 @@ inline void TirerVarié(Banc& banc)
         return dernier;
     };
 }
+
+} // namespace tirelune

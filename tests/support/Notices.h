@@ -2,6 +2,8 @@
 #pragma once
 #include "tests/support/Banc.h"
 
+namespace tirelune {
+
 // Red counts and a blue separator, on yellow. `maximum` is what is told from the start in place of a count of tries.
 inline void VérifierPointsDeDépart(const Tableau<Label>& points, VueTexte maximum = u"0")
 {
@@ -28,3 +30,5 @@ void VérifierNoticeDeVocabulaire(E& écran)
               u"lancer l'exercice.");
     EXPECT_EQ(écran.cmdAbandonner.Caption, u"&Abandonner");
 }
+
+} // namespace tirelune

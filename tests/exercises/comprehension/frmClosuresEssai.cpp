@@ -4,6 +4,8 @@
 
 #include <algorithm>
 
+namespace tirelune {
+
 namespace {
 
 constexpr int IndexClosures = 3;
@@ -17,7 +19,7 @@ constexpr auto Nombres =
 
 frmClosures& Ouvrir(Banc& banc, const Texte& texte, std::size_t départ = 0)
 {
-    banc.Texte_(texte);
+    banc.ChargerTexte(texte);
     banc.Index(IndexClosures);
     banc.Hasards({(static_cast<double>(départ) + 0.5) / 80});
     return banc.Ouvrir<frmClosures>();
@@ -38,8 +40,8 @@ void Placer(frmClosures& écran, VueTexte mot, VueTexte choisi)
 
 // The walk as it is told, character by character.
 struct Marche {
-    Texte texte;
-    std::vector<Texte> liste;
+    Texte Corps;
+    std::vector<Texte> Liste;
 
     friend bool operator==(const Marche&, const Marche&) = default;
 };
@@ -65,7 +67,7 @@ Marche MarcherPasÀPas(const Texte& texte, std::size_t départ)
 {
     const Texte séparateurs = Texte{u" ?,.;:!()"} + Texte{8, 9, 10, 13, 34, 171, 187};
     const double fin = FinPasÀPas(texte);
-    Marche marche{.texte = texte, .liste = {}};
+    Marche marche{.Corps = texte, .Liste = {}};
     int compte = 0;
     bool précédent = false;
     Texte mot;
@@ -74,7 +76,7 @@ Marche MarcherPasÀPas(const Texte& texte, std::size_t départ)
         const bool séparateur = car.empty() || séparateurs.find(car) != Texte::npos;
         if (séparateur && !précédent) {
             if (compte == 8) {
-                marche.liste.push_back(mot);
+                marche.Liste.push_back(mot);
                 mot.clear();
                 compte = 1;
                 if (static_cast<double>(i) >= fin)
@@ -85,7 +87,7 @@ Marche MarcherPasÀPas(const Texte& texte, std::size_t départ)
         précédent = séparateur;
         if (!séparateur && compte == 7) {
             mot += car;
-            marche.texte[i] = u'_';
+            marche.Corps[i] = u'_';
         }
     }
     return marche;
@@ -94,9 +96,9 @@ Marche MarcherPasÀPas(const Texte& texte, std::size_t départ)
 Marche Marcher(const Texte& texte, std::size_t départ)
 {
     const auto trous = ChoisirLacunes(texte, départ);
-    auto liste = MotsEnlevés(texte, trous.lacunes);
-    liste.resize(trous.annoncées);
-    return {.texte = OuvrirLacunes(TexteRiche{texte}, trous.lacunes).Caractères(), .liste = std::move(liste)};
+    auto liste = MotsEnlevés(texte, trous.Lacunes);
+    liste.resize(trous.Annoncées);
+    return {.Corps = OuvrirLacunes(TexteRiche{texte}, trous.Lacunes).Caractères(), .Liste = std::move(liste)};
 }
 
 } // namespace
@@ -118,36 +120,36 @@ TEST(ChoisirLacunes, DonneCeQueDonnentLesPas)
 TEST(ChoisirLacunes, DansUnMotLeHuitièmePartLePremier)
 {
     const auto marche = Marcher(Nombres, 1);
-    EXPECT_EQ(marche.liste, (std::vector<Texte>{u"huit", u"quinze", u"vingt-deux"}));
-    EXPECT_EQ(marche.texte.substr(30, 22), u"sept ____ neuf dix onz");
+    EXPECT_EQ(marche.Liste, (std::vector<Texte>{u"huit", u"quinze", u"vingt-deux"}));
+    EXPECT_EQ(marche.Corps.substr(30, 22), u"sept ____ neuf dix onz");
 }
 
 TEST(ChoisirLacunes, SurUnSéparateurLeSeptièmeMotEntierPartLePremier)
 {
     const auto marche = Marcher(Nombres, 2); // the blank behind "un"
-    EXPECT_EQ(marche.liste.front(), u"huit");
-    EXPECT_EQ(Marcher(Nombres, 3).liste.front(), u"neuf") << "dans le mot suivant : un mot plus loin";
+    EXPECT_EQ(marche.Liste.front(), u"huit");
+    EXPECT_EQ(Marcher(Nombres, 3).Liste.front(), u"neuf") << "dans le mot suivant : un mot plus loin";
 }
 
 TEST(ChoisirLacunes, ApostropheEtTraitDUnionFontPartieDuMot)
 {
     const auto marche = Marcher(u"un deux trois quatre cinq six sept l'arc-en-ciel est beau", 0);
-    EXPECT_EQ(marche.liste, (std::vector<Texte>{u"l'arc-en-ciel"}));
-    EXPECT_EQ(marche.texte, u"un deux trois quatre cinq six sept _____________ est beau");
+    EXPECT_EQ(marche.Liste, (std::vector<Texte>{u"l'arc-en-ciel"}));
+    EXPECT_EQ(marche.Corps, u"un deux trois quatre cinq six sept _____________ est beau");
 }
 
 TEST(ChoisirLacunes, MotDUneLettreEstUnMot)
 {
-    EXPECT_EQ(Marcher(u"a b c d e f g h i j k", 0).liste, (std::vector<Texte>{u"h"}));
+    EXPECT_EQ(Marcher(u"a b c d e f g h i j k", 0).Liste, (std::vector<Texte>{u"h"}));
 }
 
 TEST(ChoisirLacunes, SixMotsAuMoinsEntreDeuxLacunes)
 {
     for (std::size_t départ = 0; départ < 80; ++départ) {
         const auto trous = ChoisirLacunes(Nombres, départ);
-        for (std::size_t i = 1; i < trous.lacunes.size(); ++i) {
-            const auto fin = trous.lacunes[i - 1].Début + trous.lacunes[i - 1].Longueur;
-            const auto entre = Texte{Nombres}.substr(fin, trous.lacunes[i].Début - fin);
+        for (std::size_t i = 1; i < trous.Lacunes.size(); ++i) {
+            const auto fin = trous.Lacunes[i - 1].Début + trous.Lacunes[i - 1].Longueur;
+            const auto entre = Texte{Nombres}.substr(fin, trous.Lacunes[i].Début - fin);
             EXPECT_EQ(std::count(entre.begin(), entre.end(), u' '), 7) << départ;
         }
     }
@@ -160,21 +162,21 @@ TEST(ChoisirLacunes, SansBlancUneSeuleLacune)
         texte += u"mot,";
     EXPECT_EQ(FinDesLacunes(texte), 0);
     const auto trous = ChoisirLacunes(texte, 0);
-    EXPECT_EQ(trous.lacunes, (std::vector<Lacune>{{28, 3}}));
-    EXPECT_EQ(trous.annoncées, 1U);
+    EXPECT_EQ(trous.Lacunes, (std::vector<Lacune>{{28, 3}}));
+    EXPECT_EQ(trous.Annoncées, 1U);
 }
 
 TEST(ChoisirLacunes, DernierMotEnlevéManqueDansLaListe)
 {
     const auto trous = ChoisirLacunes(u"un deux trois quatre cinq six sept huit", 0);
-    EXPECT_EQ(trous.lacunes, (std::vector<Lacune>{{35, 4}}));
-    EXPECT_EQ(trous.annoncées, 0U);
+    EXPECT_EQ(trous.Lacunes, (std::vector<Lacune>{{35, 4}}));
+    EXPECT_EQ(trous.Annoncées, 0U);
 }
 
 TEST(ChoisirLacunes, DépartAuDelàDuTexte)
 {
-    EXPECT_TRUE(ChoisirLacunes(u"court", 79).lacunes.empty());
-    EXPECT_TRUE(ChoisirLacunes(u"", 0).lacunes.empty());
+    EXPECT_TRUE(ChoisirLacunes(u"court", 79).Lacunes.empty());
+    EXPECT_TRUE(ChoisirLacunes(u"", 0).Lacunes.empty());
 }
 
 TEST(FinDesLacunes, DernierBlancDesNeufDixièmesNonArrondi)
@@ -217,7 +219,7 @@ TEST(Closures, LesPointsOntLeursCouleursEtLesBoutonsLeurLégende)
     VérifierPointsDeDépart(écran.lblPoints);
     EXPECT_EQ(écran.cmdOk.Caption, u"&Ok");
     EXPECT_EQ(écran.cmdQuitter.Caption, u"&Quitter");
-    EXPECT_FALSE(écran.Image1.Picture().formes.empty());
+    EXPECT_FALSE(écran.Image1.Picture().Formes.empty());
     EXPECT_TRUE(écran.cmbClosures.Sorted);
 }
 
@@ -235,7 +237,7 @@ TEST(Closures, LesMarquesDuMaîtreDisparaissent)
     format.Souligné = true;
     format.Italique = true;
     format.Teinte = Bleu;
-    banc.TexteRiche_(TexteRiche{Nombres, format});
+    banc.ChargerTexte(TexteRiche{Nombres, format});
     banc.Hasards({0.0});
     auto& écran = banc.Ouvrir<frmClosures>();
 
@@ -277,7 +279,7 @@ TEST(Closures, FerméPendantLeMessageDeTexteTropCourt)
     Banc banc;
     auto écran = std::make_unique<frmClosures>(banc.Choix());
     auto& référence = *écran;
-    banc.Texte_(u"court");
+    banc.ChargerTexte(u"court");
     banc.Hasards({0.0});
     banc.plateforme.boîtes.push_back({TropCourt, Réponse::Ok, {}, [&] { référence.FermerParCroix(); }});
     banc.Montrer(std::move(écran));
@@ -481,7 +483,7 @@ TEST(Closures, UnLongTexteSOuvreEnUneEdition)
     constexpr std::size_t Mots = 125'000;
     for (std::size_t i = 0; i < Mots; ++i)
         texte += i % 20 == 19 ? u"mot\r" : u"mot ";
-    banc.Texte_(texte);
+    banc.ChargerTexte(texte);
     banc.Hasards({0.0});
     auto écran = std::make_unique<frmClosures>(banc.Choix());
     auto& boîte = écran->rtfClosures;
@@ -494,3 +496,5 @@ TEST(Closures, UnLongTexteSOuvreEnUneEdition)
     EXPECT_EQ(boîte.Longueur(), banc.Choix().rtfTexte.Longueur());
     EXPECT_NEAR(liste.ListCount(), static_cast<double>(Mots) * 0.9 / 7, 2);
 }
+
+} // namespace tirelune

@@ -2,6 +2,8 @@
 
 #include "tests/support/Banc.h"
 
+namespace tirelune {
+
 namespace {
 
 constexpr VueTexte SansQuestionnaire = u"Je ne trouve pas de questionnaire associé au texte !";
@@ -36,7 +38,7 @@ void Questionnaire(Banc& banc, int nombre)
 
 frmQuestionnaire1& Ouvrir(Banc& banc, int exercice, const Texte& texte = u"Un chat dort.")
 {
-    banc.Texte_(texte);
+    banc.ChargerTexte(texte);
     banc.Index(exercice);
     return banc.Ouvrir<frmQuestionnaire1>();
 }
@@ -98,7 +100,7 @@ TEST(Questionnaire, LesMarquesDuVocabulaireNeSeVoientPas)
         format.Barré = true;
         format.Gras = true;
     });
-    banc.TexteRiche_(texte);
+    banc.ChargerTexte(texte);
     banc.Index(0);
     auto& écran = banc.Ouvrir<frmQuestionnaire1>();
     for (std::size_t i = 0; i < texte.Longueur(); ++i)
@@ -501,3 +503,5 @@ TEST(Questionnaire2, LeCadreDuPremierNeSeDéplacePas)
     EXPECT_FALSE(écran.frameQuestions.MouseMove);
     EXPECT_FALSE(écran.frameQuestions.DragDrop);
 }
+
+} // namespace tirelune

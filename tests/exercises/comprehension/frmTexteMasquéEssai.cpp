@@ -3,6 +3,8 @@
 
 #include <algorithm>
 
+namespace tirelune {
+
 namespace {
 
 constexpr int IndexTexteMasqué = 2;
@@ -10,7 +12,7 @@ constexpr auto Aide = u"Tu dois d'abord sélectionner un des caractères dans le
 
 frmTexteMasqué& Ouvrir(Banc& banc, const Texte& texte)
 {
-    banc.Texte_(texte);
+    banc.ChargerTexte(texte);
     banc.Index(IndexTexteMasqué);
     return banc.Ouvrir<frmTexteMasqué>();
 }
@@ -99,7 +101,7 @@ TEST(TexteMasqué, LeMasqueGardeLesFormatsSaufLaBarre)
     format.Taille = 20;
     TexteRiche texte{u"Un "};
     texte.Ajouter(u"mot", format, {});
-    banc.TexteRiche_(texte);
+    banc.ChargerTexte(texte);
     auto& écran = banc.Ouvrir<frmTexteMasqué>();
 
     auto attendu = format;
@@ -220,8 +222,8 @@ TEST(TexteMasqué, LeClavierVautUneÉtiquette)
 TEST(TexteMasqué, FrappesAccentuéesSuiventLeurTable)
 {
     struct Cas {
-        char16_t frappe;
-        Texte texte; // one letter of the class
+        char16_t Frappe;
+        Texte Résultat; // one letter of the class
     };
     for (const auto& [frappe, texte] : {Cas{u'à', u"a"}, Cas{u'A', u"â"}, Cas{u'ç', u"C"}, Cas{u'É', u"e"},
                                         Cas{u'Ï', u"i"}, Cas{u'ö', u"O"}, Cas{u'Û', u"ù"}, Cas{u'z', u"Z"}}) {
@@ -379,7 +381,7 @@ TEST(TexteMasqué, UnLongTexteSeMasqueEtSeDévoileEnUneEdition)
     Texte texte;
     while (texte.size() < 500'000)
         texte += u"Le chat de Zoé a vu l'été. ";
-    banc.Texte_(texte);
+    banc.ChargerTexte(texte);
     auto nouvel = std::make_unique<frmTexteMasqué>(banc.Choix());
     auto& écran = *nouvel;
     std::vector<RichTextBox::Edition> éditions;
@@ -393,3 +395,5 @@ TEST(TexteMasqué, UnLongTexteSeMasqueEtSeDévoileEnUneEdition)
     EXPECT_EQ(éditions[1].Retirés, éditions[1].Ajoutés);
     EXPECT_TRUE(Lisible(écran).starts_with(u".e .... .e ..é . .. .'é.é. .e "));
 }
+
+} // namespace tirelune

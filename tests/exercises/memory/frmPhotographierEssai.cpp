@@ -5,6 +5,8 @@
 
 #include <algorithm>
 
+namespace tirelune {
+
 namespace {
 
 constexpr int IndexPhotographier = 11;
@@ -367,3 +369,5 @@ TEST(Photographier, VingtRéponsesJustesDonnentDixEtLeBilanEstEcrit)
     EXPECT_EQ(banc.Note(IndexPhotographier), u"10");
     EXPECT_NE(banc.Lire("Léa.bil").value_or("").find("\"10\""), std::string::npos);
 }
+
+} // namespace tirelune

@@ -7,6 +7,8 @@
 #include <map>
 #include <set>
 
+namespace tirelune {
+
 namespace {
 
 constexpr int IndexPoursuite = 14;
@@ -22,7 +24,7 @@ Texte Phrase(const std::vector<Texte>& mots)
 
 frmPoursuite& Ouvrir(Banc& banc, Texte texte)
 {
-    banc.Texte_(std::move(texte));
+    banc.ChargerTexte(std::move(texte));
     banc.Index(IndexPoursuite);
     TirerVarié(banc);
     return banc.Ouvrir<frmPoursuite>();
@@ -141,7 +143,7 @@ TEST(Poursuite, TexteEstBlancSurBlancEtSansMarquesAvantDeParaître)
         format.Gras = true;
         format.Teinte = Rouge;
     });
-    banc.TexteRiche_(texte);
+    banc.ChargerTexte(texte);
     TirerVarié(banc);
     auto& écran = banc.Ouvrir<frmPoursuite>();
     bool vérifié = false;
@@ -151,8 +153,8 @@ TEST(Poursuite, TexteEstBlancSurBlancEtSansMarquesAvantDeParaître)
         EXPECT_FALSE(écran.frameConsigne.Visible);
         EXPECT_EQ(écran.rtfPoursuite.SelLength(), 0U);
         écran.rtfPoursuite.TextRTF().PourChaqueTranche(0, écran.rtfPoursuite.Longueur(), [](const Tranche& tranche) {
-            EXPECT_EQ(tranche.Format_->Teinte, Blanc);
-            EXPECT_FALSE(tranche.Format_->Barré);
+            EXPECT_EQ(tranche.Style->Teinte, Blanc);
+            EXPECT_FALSE(tranche.Style->Barré);
         });
         EXPECT_TRUE(FormatEn(écran, 0).Gras);
     });
@@ -576,3 +578,5 @@ TEST(Poursuite, FermetureEntreDeuxPoursuitesNEnregistreRien)
     écran.FermerParCroix();
     EXPECT_EQ(banc.Note(IndexPoursuite), u"");
 }
+
+} // namespace tirelune

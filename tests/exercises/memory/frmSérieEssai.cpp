@@ -3,6 +3,8 @@
 #include "tests/support/Mots.h"
 #include "tests/support/Notices.h"
 
+namespace tirelune {
+
 namespace {
 
 constexpr int IndexSérie = 12;
@@ -376,3 +378,5 @@ TEST(Série, ClavierSuitLeCoursDuJeu)
     Choix(écran, écran.lblRéponse(0).Caption, false).Cliquer();
     EXPECT_EQ(écran.Focus(), &écran.cmdContinuer);
 }
+
+} // namespace tirelune

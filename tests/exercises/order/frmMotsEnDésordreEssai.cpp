@@ -3,6 +3,8 @@
 #include "exercises/order/TirerPhrase.h"
 #include "tests/support/Banc.h"
 
+namespace tirelune {
+
 namespace {
 
 constexpr int MotsEnDésordre = 17;
@@ -31,7 +33,7 @@ protected:
 
     frmMotsEnDésordre& Ouvrir(std::initializer_list<double> tirages)
     {
-        banc.Texte_(texte);
+        banc.ChargerTexte(texte);
         banc.Index(MotsEnDésordre);
         banc.Hasards(tirages);
         return banc.Ouvrir<frmMotsEnDésordre>();
@@ -535,3 +537,5 @@ TEST_F(MotsEnDésordreEssai, LeTexteDeLElèveResteTelQuel)
     Reconstituer(écran);
     EXPECT_EQ(banc.Choix().rtfTexte.Text(), texte);
 }
+
+} // namespace tirelune

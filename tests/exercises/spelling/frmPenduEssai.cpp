@@ -5,6 +5,8 @@
 
 #include <set>
 
+namespace tirelune {
+
 namespace {
 
 constexpr int IndexPendu = 21;
@@ -382,12 +384,14 @@ TEST(Visages, CinqVisagesSontRondsJaunesEtDifférents)
 {
     for (int i = 0; i < NombreVisages; ++i) {
         const auto visage = Visage(i);
-        EXPECT_EQ(visage.largeur, 32);
-        EXPECT_EQ(visage.hauteur, 32);
-        EXPECT_EQ(visage.formes.front().genre, GenreForme::Ellipse);
-        EXPECT_EQ(visage.formes.front().fond, Jaune);
-        EXPECT_EQ(visage.formes.front().trait, Noir);
+        EXPECT_EQ(visage.Largeur, 32);
+        EXPECT_EQ(visage.Hauteur, 32);
+        EXPECT_EQ(visage.Formes.front().Genre, GenreForme::Ellipse);
+        EXPECT_EQ(visage.Formes.front().Fond, Jaune);
+        EXPECT_EQ(visage.Formes.front().Trait, Noir);
         for (int j = 0; j < i; ++j)
             EXPECT_FALSE(visage == Visage(j));
     }
 }
+
+} // namespace tirelune

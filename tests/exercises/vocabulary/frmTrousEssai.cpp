@@ -2,6 +2,8 @@
 #include "tests/support/Banc.h"
 #include "tests/support/Notices.h"
 
+namespace tirelune {
+
 namespace {
 
 constexpr int IndexTrous = 4;
@@ -25,7 +27,7 @@ TexteRiche Marquer(VueTexte texte)
 
 frmTrous& Ouvrir(Banc& banc, VueTexte texte)
 {
-    banc.TexteRiche_(Marquer(texte));
+    banc.ChargerTexte(Marquer(texte));
     banc.Index(IndexTrous);
     return banc.Ouvrir<frmTrous>();
 }
@@ -62,7 +64,7 @@ TEST(Trous, LesPointsOntLeursCouleursEtLesBoutonsLeurLégende)
     VérifierPointsDeDépart(écran.lblPoints);
     EXPECT_EQ(écran.cmdOk.Caption, u"&Ok");
     EXPECT_EQ(écran.cmdQuitter.Caption, u"&Quitter");
-    EXPECT_FALSE(écran.Image1.Picture().formes.empty());
+    EXPECT_FALSE(écran.Image1.Picture().Formes.empty());
     EXPECT_TRUE(écran.cmbTrous.Sorted);
 }
 
@@ -79,7 +81,7 @@ TEST(Trous, LaLacuneEstNoireSansBarreNiSoulignement)
     Format souligné;
     souligné.Souligné = true;
     texte.Ajouter(u" rare", souligné, {});
-    banc.TexteRiche_(texte);
+    banc.ChargerTexte(texte);
     auto& écran = banc.Ouvrir<frmTrous>();
 
     const auto lacune = écran.rtfTrous.TextRTF().FormatEn(4);
@@ -126,7 +128,7 @@ TEST(Trous, MarquesQuiSeTouchentNeFontQuUne)
     auto texte = Marquer(u"Un [arc]");
     texte.Ajouter(u"ad", grasBarré, {});
     texte.Ajouter(u"e.", {}, {});
-    banc.TexteRiche_(texte);
+    banc.ChargerTexte(texte);
     auto& écran = banc.Ouvrir<frmTrous>();
 
     EXPECT_EQ(écran.rtfTrous.Text(), u"Un _____e.");
@@ -418,7 +420,7 @@ TEST(Trous, UnLongTexteSOuvreEnUneEdition)
     for (int i = 0; i < Mots; ++i) {
         texte.Ajouter(u"mot ", i % 2 == 0 ? Format{} : barré, {});
     }
-    banc.TexteRiche_(texte);
+    banc.ChargerTexte(texte);
     auto écran = std::make_unique<frmTrous>(banc.Choix());
     auto& boîte = écran->rtfTrous;
     int éditions = 0;
@@ -431,3 +433,5 @@ TEST(Trous, UnLongTexteSOuvreEnUneEdition)
     EXPECT_EQ(boîte.Longueur(), 4U * Mots);
     EXPECT_TRUE(boîte.Text().starts_with(u"mot ____mot ____"));
 }
+
+} // namespace tirelune
