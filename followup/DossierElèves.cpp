@@ -2,7 +2,7 @@
 
 #include "core/Application.h"
 #include "core/Elements.h"
-#include "followup/EnregistrerNotes.h"
+#include "followup/BoîteRéseau.h"
 
 namespace tirelune {
 

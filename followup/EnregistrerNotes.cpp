@@ -1,103 +1,15 @@
 #include "followup/EnregistrerNotes.h"
 
 #include "core/FichierChamps.h"
+#include "followup/BoîteRéseau.h"
+#include "followup/FichierBilan.h"
+#include "followup/GrilleRésultats.h"
+#include "followup/Notes.h"
 #include "followup/frmExercices.h"
 
-#include <algorithm>
 #include <cassert>
-#include <cmath>
 
 namespace tirelune {
-
-std::optional<float> LireNote(const Texte& cellule)
-{
-    static constexpr double HorsDeMesure = 1e9; // only damage makes such a number
-    const auto nombre = LireNombre(cellule);
-    return nombre && std::abs(*nombre) < HorsDeMesure ? std::optional{static_cast<float>(*nombre)} : std::nullopt;
-}
-
-Couleur CouleurDeNote(float note)
-{
-    if (note < 3)
-        return Rouge;
-    if (note < 5)
-        return Orange;
-    if (note < 7)
-        return Jaune;
-    if (note < 9)
-        return Vert;
-    return Cyan;
-}
-
-float NoteSurDix(const Label& gagnés, const Label& possibles)
-{
-    const double total = Valeur(possibles.Caption);
-    return total > 0 ? static_cast<float>(Valeur(gagnés.Caption) / total * 10) : 0; // nothing asked, nothing gained
-}
-
-Texte NoteCourte(VueTexte note)
-{
-    Texte courte{note.substr(0, 4)};
-    std::replace(courte.begin(), courte.end(), u',', u'.');
-    return courte;
-}
-
-Texte FichierBilan(VueTexte dossier, VueTexte nomElève)
-{
-    return Joindre(dossier, Texte{nomElève} + u".bil");
-}
-
-std::optional<Texte> CopierBilan(const Texte& fichier, VueTexte suffixe)
-{
-    Texte copie;
-    std::error_code erreur;
-    for (int numéro = 1; copie.empty() || std::filesystem::exists(EnChemin(copie), erreur); ++numéro)
-        copie = Texte{fichier}.append(suffixe) + EnTexte(static_cast<long long>(numéro));
-    return std::filesystem::copy_file(EnChemin(fichier), EnChemin(copie), erreur) ? std::optional{copie} : std::nullopt;
-}
-
-bool RéessayerRéseau(Application& application)
-{
-    return application.plateforme.AfficherBoîte({.Message =
-                                                     u"Le répertoire des fichiers \"Elèves\" n'est pas accessible.\n\n"
-                                                     u"Veuillez vérifier votre connexion avant de continuer !\n",
-                                                 .Titre = u"CONNEXION RESEAU DEFECTUEUSE",
-                                                 .Choix = Boutons::OkAnnuler}) == Réponse::Ok;
-}
-
-std::optional<float> MoyenneColonne(const frmExercices& choix, int colonne)
-{
-    float somme = 0;
-    int nombre = 0;
-    for (int rangée = 1; rangée < choix.fgRésultats.Rows(); ++rangée) {
-        if (const auto note = LireNote(choix.fgRésultats.TextMatrix(rangée, colonne))) {
-            somme += *note;
-            ++nombre;
-        }
-    }
-    return nombre == 0 ? std::nullopt : std::optional{somme / static_cast<float>(nombre)};
-}
-
-void MontrerVitesseMoyenne(frmExercices& choix)
-{
-    const auto moyenne = MoyenneColonne(choix, ColonneVitesse);
-    if (!moyenne)
-        return;
-    choix.fgRésultats.TextMatrix(0, ColonneVitesse, EnTexte(static_cast<long long>(*moyenne)));
-    choix.lblVitesseMoyenne.Caption = choix.fgRésultats.TextMatrix(0, ColonneVitesse);
-}
-
-int RangéeDuTexte(frmExercices& choix, const Texte& titre)
-{
-    auto& grille = choix.fgRésultats;
-    for (int rangée = 1; rangée < grille.Rows(); ++rangée) {
-        if (grille.TextMatrix(rangée, ColonneTitre) == titre)
-            return rangée;
-    }
-    grille.AddRow();
-    grille.TextMatrix(grille.Rows() - 1, ColonneTitre, titre);
-    return grille.Rows() - 1;
-}
 
 void EnregistrerNote(frmExercices& choix, float note)
 {

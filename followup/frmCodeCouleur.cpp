@@ -1,6 +1,6 @@
 #include "followup/frmCodeCouleur.h"
 
-#include "followup/EnregistrerNotes.h"
+#include "followup/Notes.h"
 
 namespace tirelune {
 

@@ -4,6 +4,9 @@
 #include "core/Fonctions.h"
 #include "followup/DossierElèves.h"
 #include "followup/EnregistrerNotes.h"
+#include "followup/FichierBilan.h"
+#include "followup/GrilleRésultats.h"
+#include "followup/Notes.h"
 
 #include <algorithm>
 

@@ -2,7 +2,7 @@
 
 #include "core/FichierChamps.h"
 #include "followup/DossierElèves.h"
-#include "followup/EnregistrerNotes.h"
+#include "followup/FichierBilan.h"
 #include "followup/NomElève.h"
 
 #include <algorithm>

@@ -1,6 +1,7 @@
 #include "followup/frmProgression.h"
 
-#include "followup/EnregistrerNotes.h"
+#include "followup/GrilleRésultats.h"
+#include "followup/Notes.h"
 
 #include <algorithm>
 

@@ -3,6 +3,8 @@
 #include "core/FichierChamps.h"
 #include "exercises/Conclure.h"
 #include "followup/EnregistrerNotes.h"
+#include "followup/GrilleRésultats.h"
+#include "followup/Notes.h"
 
 #include <algorithm>
 #include <cmath>

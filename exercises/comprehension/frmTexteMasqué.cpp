@@ -4,7 +4,7 @@
 #include "exercises/ClassesDeLettres.h"
 #include "exercises/Conclure.h"
 #include "exercises/TexteEtBarre.h"
-#include "followup/EnregistrerNotes.h"
+#include "followup/Notes.h"
 
 namespace tirelune {
 

@@ -2,7 +2,7 @@
 
 #include "exercises/Conclure.h"
 #include "exercises/TirageVocabulaire.h"
-#include "followup/EnregistrerNotes.h"
+#include "followup/Notes.h"
 
 #include <algorithm>
 #include <array>

@@ -2,7 +2,7 @@
 
 #include "core/Fonctions.h"
 #include "exercises/Conclure.h"
-#include "followup/EnregistrerNotes.h"
+#include "followup/Notes.h"
 
 #include <algorithm>
 #include <cmath>

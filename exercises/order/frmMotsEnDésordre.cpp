@@ -3,7 +3,7 @@
 #include "core/Fonctions.h"
 #include "exercises/Conclure.h"
 #include "exercises/order/TirerPhrase.h"
-#include "followup/EnregistrerNotes.h"
+#include "followup/Notes.h"
 
 #include <algorithm>
 

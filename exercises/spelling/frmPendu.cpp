@@ -3,7 +3,7 @@
 #include "exercises/ClassesDeLettres.h"
 #include "exercises/Conclure.h"
 #include "exercises/TirageVocabulaire.h"
-#include "followup/EnregistrerNotes.h"
+#include "followup/Notes.h"
 
 #include <algorithm>
 #include <array>

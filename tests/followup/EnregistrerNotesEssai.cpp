@@ -1,6 +1,8 @@
 #include "followup/EnregistrerNotes.h"
 
 #include "core/FichierChamps.h"
+#include "followup/FichierBilan.h"
+#include "followup/GrilleRésultats.h"
 #include "tests/support/Banc.h"
 
 #include <array>
@@ -71,15 +73,6 @@ TEST(EnregistrerNotes, MoyenneSurTousLesTextes)
     EXPECT_EQ(banc.Choix().lblExo(26).BackColor, Jaune);
 }
 
-TEST(EnregistrerNotes, CouleursAuxBornes)
-{
-    const std::vector<std::pair<float, Couleur>> attendues{{0, Rouge}, {2.99F, Rouge}, {3, Orange}, {4.99F, Orange},
-                                                           {5, Jaune}, {6.99F, Jaune}, {7, Vert},   {8.99F, Vert},
-                                                           {9, Cyan},  {10, Cyan}};
-    for (const auto& [note, teinte] : attendues)
-        EXPECT_EQ(CouleurDeNote(note), teinte) << note;
-}
-
 TEST(EnregistrerNotes, InfoBulleCoupéeSansArrondir)
 {
     Banc banc;
@@ -123,26 +116,6 @@ TEST(EnregistrerNotes, PointDécimalSelonLaMachine)
     Noter(banc, 0, 6.25F);
     EXPECT_EQ(banc.Note(0), u"6.25");
     EXPECT_EQ(banc.Choix().lblExo(0).ToolTipText, u"6.25");
-}
-
-TEST(EnregistrerNotes, RienDePossibleFaitZéro)
-{
-    Banc banc;
-    auto& choix = banc.Choix();
-    choix.lblVitesse.Caption = u"0";
-    choix.lblIndex.Caption = u"0";
-    EXPECT_EQ(NoteSurDix(choix.lblVitesse, choix.lblIndex), 0);
-    choix.lblVitesse.Caption = u"5";
-    choix.lblIndex.Caption = u"8";
-    EXPECT_EQ(NoteSurDix(choix.lblVitesse, choix.lblIndex), 6.25F);
-}
-
-TEST(EnregistrerNotes, CelluleQuiNEstPasUnNombreCompteCommeNonFaite)
-{
-    for (const auto* cellule : {u"", u"abc", u"7a", u"--", u"1,2,3", u"1e5", u"9999999999999999999999999999", u"*"})
-        EXPECT_FALSE(LireNote(cellule).has_value()) << EnUtf8(cellule);
-    EXPECT_EQ(LireNote(u"6,5"), 6.5F);
-    EXPECT_EQ(LireNote(u" 6.5 "), 6.5F);
 }
 
 // ---- The file ----------------------------------------------------------------------------------------------------

@@ -4,6 +4,7 @@
 #include "core/FichierChamps.h"
 #include "exercises/comprehension/frmQuestionnaire1.h"
 #include "followup/EnregistrerNotes.h"
+#include "followup/GrilleRésultats.h"
 #include "tests/support/Banc.h"
 
 namespace tirelune {

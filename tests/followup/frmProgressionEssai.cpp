@@ -1,6 +1,8 @@
 #include "followup/frmProgression.h"
 
 #include "followup/EnregistrerNotes.h"
+#include "followup/GrilleRésultats.h"
+#include "followup/Notes.h"
 #include "tests/support/Banc.h"
 
 #include <cmath>
