@@ -93,11 +93,32 @@ void Superposition::setGeometry(const QRect& place)
         pièce->setGeometry(intérieur);
 }
 
+void PlacementLibre::Ajouter(Vue& vue)
+{
+    Superposition::Ajouter(vue.widget);
+    vue.placeur = this;
+    vues_.push_back(&vue);
+}
+
+void PlacementLibre::Placer(Vue& vue)
+{
+    vue.widget->setGeometry(vue.PlaceLibre().translated(Coin()));
+    vue.NoterTailleLibre();
+}
+
+QSize PlacementLibre::sizeHint() const
+{
+    QRect tout;
+    for (const auto* vue : vues_)
+        tout |= vue->PlaceLibre();
+    return {tout.right() + 1, tout.bottom() + 1};
+}
+
 void PlacementLibre::setGeometry(const QRect& place)
 {
     QLayout::setGeometry(place); // NOLINT(bugprone-parent-virtual-call): the children have places of their own
-    if (placer)
-        placer();
+    for (auto* vue : vues_)
+        Placer(*vue);
 }
 
 } // namespace tirelune

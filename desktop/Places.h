@@ -1,9 +1,10 @@
-// The layouts that the toolkit lacks: one upon the other, at places of their own, in a scaled drawing.
+// The layouts that the toolkit lacks: one upon the other, and at places of their own.
 #pragma once
+#include "desktop/Vue.h"
+
 #include <QLayout>
 #include <QWidget>
 
-#include <functional>
 #include <vector>
 
 namespace tirelune {
@@ -34,16 +35,24 @@ private:
     std::vector<QLayoutItem*> pièces_;
 };
 
-// Children where `placer` says, inside the widget that the layout belongs to.
-class PlacementLibre final : public Superposition {
+// Children where the rules place them.
+class PlacementLibre final : public Superposition, public Placeur {
 public:
-    std::function<void()> placer;
-    std::function<QSize()> étendue; // what the children need together
+    explicit PlacementLibre(const Hôte& hôte) : hôte_(hôte) {}
 
-    [[nodiscard]] QSize sizeHint() const override { return étendue ? étendue() : QSize{}; }
+    void Ajouter(Vue& vue);
+    [[nodiscard]] double EchelleDesPlaces() const override { return hôte_.Echelle(); }
+    [[nodiscard]] QPoint Coin() const override { return geometry().topLeft(); }
+    void Placer(Vue& vue) override;
+
+    [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSize() const override { return {}; }
     [[nodiscard]] bool hasHeightForWidth() const override { return false; }
     void setGeometry(const QRect& place) override;
+
+private:
+    const Hôte& hôte_;
+    std::vector<Vue*> vues_;
 };
 
 } // namespace tirelune

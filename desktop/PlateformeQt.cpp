@@ -239,7 +239,8 @@ void PlateformeQt::AfficherModal(Ecran& écran)
         return;
     auto* dessous = Devant();
     {
-        Fenêtre fenêtre{*this, écran};
+        Fenêtre fenêtre{écran, dessous};
+        fenêtre.Peinte = [this] { FenêtrePeinte(); };
         fenêtres_.push_back(&fenêtre);
         QEventLoop boucle;
         const Séjour séjour{*this, {&écran, nullptr, [&boucle] { boucle.quit(); }}, false};
@@ -249,7 +250,7 @@ void PlateformeQt::AfficherModal(Ecran& écran)
         if (!fenêtre.Fermée()) {
             for (auto* minuterie : écran.Minuteries())
                 RéglerMinuterie(*minuterie);
-            fenêtre.Ouvrir(dessous);
+            fenêtre.Ouvrir();
         }
         if (!activé && écran.EstChargé() && !terminé_)
             écran.Activer();

@@ -55,8 +55,6 @@ public:
 
     // The first window shows its background at once, and fills while the user looks.
     void MontrerFondDAbord() { fondDAbord_ = true; }
-    // A window has been painted: what was put off until the first picture may come.
-    void FenêtrePeinte();
     // The window in front; none before the first.
     [[nodiscard]] Fenêtre* Devant() const { return fenêtres_.empty() ? nullptr : fenêtres_.back(); }
 
@@ -72,6 +70,8 @@ private:
     class Séjour; // the time spent in such a loop
 
     void MontrerFond(Fenêtre& fenêtre);
+    // A window has been painted: what was put off until the first picture may come.
+    void FenêtrePeinte();
     void MontrerDialogue(QDialog& dialogue);
     std::optional<Texte> DemanderFichier(const DialogueFichier& dialogue, bool enregistrer);
     [[nodiscard]] bool Montré(const Ecran& écran) const;

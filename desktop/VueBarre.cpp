@@ -1,7 +1,6 @@
 // The button bar: pictures of the icon theme, or our own where the theme lacks one.
 #include "desktop/Apparence.h"
 #include "desktop/Conversions.h"
-#include "desktop/Fenetre.h"
 #include "desktop/Vues.h"
 
 #include <QHBoxLayout>
@@ -114,8 +113,7 @@ protected:
 
 class VueBarre final : public Vue {
 public:
-    VueBarre(Fenêtre& fenêtre, Toolbar& barre, QWidget* parent)
-        : Vue(fenêtre, barre, new QWidget{parent}), barre_(barre)
+    VueBarre(Hôte& hôte, Toolbar& barre, QWidget* parent) : Vue(hôte, barre, new QWidget{parent}), barre_(barre)
     {
         widget->setAutoFillBackground(true); // pictures are made for a light ground, whatever the screen's
         auto* rang = new QHBoxLayout{widget};
@@ -139,7 +137,7 @@ public:
             QObject::connect(outil, &QToolButton::clicked, [this, clé = bouton.Clé] {
                 if (!Agissante())
                     return;
-                fenêtre_.Marquer(*this); // the screen says which state shows
+                hôte_.Marquer(*this); // the screen says which state shows
                 barre_.Cliquer(clé);
             });
             rang->addWidget(outil);
@@ -151,7 +149,7 @@ public:
 
     void Synchroniser() override
     {
-        const int côté = static_cast<int>(CôtéIcône * fenêtre_.Echelle());
+        const int côté = static_cast<int>(CôtéIcône * hôte_.Echelle());
         for (const auto& bouton : barre_.Boutons()) {
             const auto place = outils_.find(bouton.Clé);
             if (place == outils_.end())
@@ -177,9 +175,9 @@ private:
 
 } // namespace
 
-std::unique_ptr<Vue> CréerVueBarre(Fenêtre& fenêtre, Toolbar& barre, QWidget* parent)
+std::unique_ptr<Vue> Créer(Hôte& hôte, Toolbar& barre, QWidget* parent)
 {
-    return std::make_unique<VueBarre>(fenêtre, barre, parent);
+    return std::make_unique<VueBarre>(hôte, barre, parent);
 }
 
 } // namespace tirelune

@@ -2,8 +2,8 @@
 
 #include "desktop/Apparence.h"
 #include "desktop/Conversions.h"
-#include "desktop/Fenetre.h"
 #include "desktop/FormatsQt.h"
+#include "desktop/Vues.h"
 
 #include <QAbstractTextDocumentLayout>
 #include <QKeyEvent>
@@ -229,13 +229,13 @@ private:
 
 // ---- From the element to the widget ------------------------------------------------------------------------------
 
-VueTexteRiche::VueTexteRiche(Fenêtre& fenêtre, RichTextBox& boîte, QWidget* parent)
-    : Vue(fenêtre, boîte, new Page{*this, parent}), boîte_(boîte), zone_(static_cast<QTextEdit&>(*widget))
+VueTexteRiche::VueTexteRiche(Hôte& hôte, RichTextBox& boîte, QWidget* parent)
+    : Vue(hôte, boîte, new Page{*this, parent}), boîte_(boîte), zone_(static_cast<QTextEdit&>(*widget))
 {
     retouches_.Noter(0, 0, boîte.Longueur());
     boîte.EditionFaite = [this](const RichTextBox::Edition& édition) {
         retouches_.Noter(édition.Début, édition.Retirés, édition.Ajoutés);
-        fenêtre_.Marquer(*this);
+        hôte_.Marquer(*this);
     };
     QObject::connect(zone_.document(), &QTextDocument::contentsChange, &zone_,
                      [this](int position, int retirés, int ajoutés) { Reprendre(position, retirés, ajoutés); });
@@ -308,7 +308,7 @@ void VueTexteRiche::Synchroniser()
     ColorerFond(Teinte::Panneau);
     Vue::Synchroniser();
     enSynchro_ = true;
-    if (const double voulue = fenêtre_.Echelle(); voulue != échelleMontrée_) {
+    if (const double voulue = hôte_.Echelle(); voulue != échelleMontrée_) {
         échelleMontrée_ = voulue;
         formats_.clear();
         retouches_.Prendre();
@@ -528,7 +528,7 @@ void VueTexteRiche::Reprendre(int position, int retirés, int ajoutés)
 
     // The widget shows the characters; their formats come from the element, like all formats.
     retouches_.Noter(début, arrivé.size(), arrivé.size());
-    fenêtre_.Marquer(*this);
+    hôte_.Marquer(*this);
     // What only was laid out anew, or has another format, is no edit.
     std::size_t pareils = 0;
     const VueTexte ancien = VueTexte{texte}.substr(début, fin - début);
@@ -561,9 +561,9 @@ void VueTexteRiche::NoterSélection()
     boîte_.Sélectionner(début, DepuisWidget(curseur.selectionEnd()) - début);
 }
 
-std::unique_ptr<Vue> CréerVueTexteRiche(Fenêtre& fenêtre, RichTextBox& boîte, QWidget* parent)
+std::unique_ptr<Vue> Créer(Hôte& hôte, RichTextBox& boîte, QWidget* parent)
 {
-    return std::make_unique<VueTexteRiche>(fenêtre, boîte, parent);
+    return std::make_unique<VueTexteRiche>(hôte, boîte, parent);
 }
 
 } // namespace tirelune

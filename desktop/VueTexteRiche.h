@@ -1,7 +1,8 @@
 // A formatted text in the toolkit's text widget. In the element a line end counts two positions, in the widget one.
 #pragma once
+#include "core/RichTextBox.h"
 #include "desktop/Retouches.h"
-#include "desktop/Vues.h"
+#include "desktop/Vue.h"
 
 #include <QTextCharFormat>
 #include <QTextCursor>
@@ -14,7 +15,7 @@ namespace tirelune {
 
 class VueTexteRiche final : public Vue {
 public:
-    VueTexteRiche(Fenêtre& fenêtre, RichTextBox& boîte, QWidget* parent);
+    VueTexteRiche(Hôte& hôte, RichTextBox& boîte, QWidget* parent);
     ~VueTexteRiche() override;
 
     void Synchroniser() override;

@@ -8,12 +8,12 @@
 
 namespace tirelune {
 
-VueToile::VueToile(QWidget* parent, QSize étendue_) : QWidget(parent), unités_(étendue_)
+VueToile::VueToile(Hôte& hôte, QWidget* parent, QSize étendue) : QWidget(parent), hôte_(hôte), unités_(étendue)
 {
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
 }
 
-double VueToile::Facteur() const
+double VueToile::EchelleDesPlaces() const
 {
     if (unités_.isEmpty())
         return 1;
@@ -23,29 +23,33 @@ double VueToile::Facteur() const
 
 QPointF VueToile::Origine() const
 {
-    const auto étendue_ = QSizeF{unités_} * Facteur();
-    return {(width() - étendue_.width()) / 2, (height() - étendue_.height()) / 2};
+    const auto étendue = QSizeF{unités_} * EchelleDesPlaces();
+    return {(width() - étendue.width()) / 2, (height() - étendue.height()) / 2};
 }
 
-void VueToile::Placer()
+void VueToile::Ajouter(Vue& vue)
 {
-    const auto origine = Origine();
-    const double facteur = Facteur();
-    for (auto* vue : vues_) {
-        const auto& élément = vue->élément;
-        const auto naturelle = vue->widget->sizeHint();
-        const QSizeF taille{élément.Width > 0 ? élément.Width * facteur : naturelle.width(),
-                            élément.Height > 0 ? élément.Height * facteur : naturelle.height()};
-        const QPointF coin = origine + QPointF(élément.Left, élément.Top) * facteur;
-        vue->widget->setGeometry(QRectF{coin, taille}.toRect());
-    }
+    vue.placeur = this;
+    vues_.push_back(&vue);
+}
+
+void VueToile::Placer(Vue& vue)
+{
+    const double facteur = EchelleDesPlaces();
+    const auto& élément = vue.élément;
+    const auto naturelle = vue.widget->sizeHint();
+    const QSizeF taille{élément.Width > 0 ? élément.Width * facteur : naturelle.width(),
+                        élément.Height > 0 ? élément.Height * facteur : naturelle.height()};
+    const QPointF place = Origine() + QPointF(élément.Left, élément.Top) * facteur;
+    vue.widget->setGeometry(QRectF{place, taille}.toRect());
 }
 
 void VueToile::resizeEvent(QResizeEvent* /*événement*/)
 {
-    Placer();
-    if (étendue)
-        étendue();
+    for (auto* vue : vues_) {
+        Placer(*vue);
+        hôte_.Marquer(*vue); // the letters have another size
+    }
 }
 
 void VueToile::paintEvent(QPaintEvent* /*événement*/)
@@ -53,7 +57,7 @@ void VueToile::paintEvent(QPaintEvent* /*événement*/)
     QPainter peintre{this};
     peintre.setRenderHint(QPainter::Antialiasing);
     const auto origine = Origine();
-    const double facteur = Facteur();
+    const double facteur = EchelleDesPlaces();
     for (const auto* trait : traits_) {
         if (!trait->Visible)
             continue;

@@ -1,24 +1,21 @@
 // A drawing in units of its own, scaled to the place that it gets: lines, and elements that stand in it.
 #pragma once
-#include "desktop/Vues.h"
+#include "desktop/Vue.h"
 
-#include <functional>
 #include <vector>
 
 namespace tirelune {
 
-class VueToile final : public QWidget {
+class VueToile final : public QWidget, public Placeur {
 public:
-    VueToile(QWidget* parent, QSize étendue);
-
-    std::function<void()> étendue; // the scale has changed
+    VueToile(Hôte& hôte, QWidget* parent, QSize étendue);
 
     void Ajouter(Line& trait) { traits_.push_back(&trait); }
-    void Ajouter(Vue& vue) { vues_.push_back(&vue); }
-    [[nodiscard]] const std::vector<Vue*>& Vues() const { return vues_; }
+    void Ajouter(Vue& vue);
     // Pixels for one unit.
-    [[nodiscard]] double Facteur() const;
-    void Placer();
+    [[nodiscard]] double EchelleDesPlaces() const override;
+    [[nodiscard]] QPoint Coin() const override { return Origine().toPoint(); }
+    void Placer(Vue& vue) override;
 
     [[nodiscard]] QSize sizeHint() const override { return unités_ / 2; }
 
@@ -29,6 +26,7 @@ protected:
 private:
     [[nodiscard]] QPointF Origine() const;
 
+    Hôte& hôte_;
     QSize unités_;
     std::vector<Line*> traits_;
     std::vector<Vue*> vues_;
@@ -37,7 +35,7 @@ private:
 // A line of such a drawing.
 class VueTrait final : public Vue {
 public:
-    VueTrait(Fenêtre& fenêtre, Line& trait, VueToile& toile) : Vue(fenêtre, trait, nullptr), toile_(toile) {}
+    VueTrait(Hôte& hôte, Line& trait, VueToile& toile) : Vue(hôte, trait, nullptr), toile_(toile) {}
     void Synchroniser() override { toile_.update(); }
 
 private:

@@ -99,7 +99,7 @@ TEST_F(Dispositions, UneToileGardeSesProportions)
     écran.disposer = [&] { return Pile{Toile{100, 100, {écran.trait, écran.lblMot}}}; };
     Avec(écran, [&] {
         auto& toile = dynamic_cast<VueToile&>(*Widget(écran.lblMot).parentWidget());
-        const double facteur = toile.Facteur();
+        const double facteur = toile.EchelleDesPlaces();
         EXPECT_NEAR(facteur, std::min(toile.width(), toile.height()) / 100.0, 0.01);
         EXPECT_NEAR(Widget(écran.lblMot).width(), 50 * facteur, 1);
         const QPoint milieu{toile.width() / 2, toile.height() / 2};

@@ -1,0 +1,96 @@
+#include "desktop/BarreMenus.h"
+
+#include "desktop/Apparence.h"
+#include "desktop/Conversions.h"
+#include "desktop/JeuDeVues.h"
+
+#include <QAction>
+#include <QFontMetrics>
+#include <QMenu>
+
+namespace tirelune {
+
+namespace {
+
+class VueMenu final : public Vue {
+public:
+    VueMenu(Hôte& hôte, MenuOption& option, QAction& action, QMenu* sous)
+        : Vue(hôte, option, nullptr), option_(option), action_(action)
+    {
+        action.setObjectName(EnQString(option.Nom));
+        if (sous != nullptr)
+            sous->setObjectName(EnQString(option.Nom));
+        if (option.Caption == u"-")
+            action.setSeparator(true);
+        if (!option.Raccourci.empty())
+            action.setShortcut(QKeySequence{EnQString(option.Raccourci)});
+        QObject::connect(&action, &QAction::triggered, [this] {
+            if (Agissante())
+                option_.Cliquer();
+        });
+    }
+
+    void Synchroniser() override
+    {
+        action_.setText(EnAffichage(option_.Caption()));
+        action_.setEnabled(option_.Enabled);
+        action_.setVisible(option_.Visible);
+        if (option_.Checked)
+            action_.setCheckable(true);
+        action_.setChecked(option_.Checked);
+    }
+
+private:
+    MenuOption& option_;
+    QAction& action_;
+};
+
+} // namespace
+
+BarreMenus::BarreMenus(Hôte& hôte, JeuDeVues& vues, const std::vector<Menu>& menus, QWidget* parent) : QMenuBar(parent)
+{
+    setNativeMenuBar(false);
+    Remplir(hôte, vues, *this, menus);
+}
+
+void BarreMenus::Remplir(Hôte& hôte, JeuDeVues& vues, QWidget& où, const std::vector<Menu>& entrées)
+{
+    for (const auto& entrée : entrées) {
+        auto* action = new QAction{&où};
+        QMenu* sous = nullptr;
+        if (entrée.Option == nullptr)
+            action->setSeparator(true);
+        if (!entrée.Sous.empty()) {
+            sous = new QMenu{&où};
+            action->setMenu(sous);
+            Remplir(hôte, vues, *sous, entrée.Sous);
+        }
+        où.addAction(action);
+        if (entrée.Option == nullptr)
+            continue;
+        if (&où == this)
+            entrées_.emplace_back(entrée.Option, action);
+        vues.Ajouter(std::make_unique<VueMenu>(hôte, *entrée.Option, *action, sous));
+    }
+}
+
+void BarreMenus::Ajuster(double échelle, int largeur)
+{
+    const auto police = PolicePour({}, 0, false, échelle);
+    if (font() != police)
+        setFont(police);
+    const QFontMetrics mesure{police};
+    const int bord = 2 * (mesure.averageCharWidth() + 2);
+    int voulue = 0;
+    for (const auto& [option, action] : entrées_)
+        voulue += mesure.size(Qt::TextShowMnemonic, EnAffichage(option->Caption())).width() + bord;
+    // The blanks around captions spread the menus out; where there is no room they go first.
+    for (const auto& [option, action] : entrées_) {
+        const auto entière = EnAffichage(option->Caption());
+        const auto montrée = voulue <= largeur ? entière : QStringLiteral("  %1  ").arg(entière.trimmed());
+        if (action->text() != montrée)
+            action->setText(montrée);
+    }
+}
+
+} // namespace tirelune

@@ -1,0 +1,266 @@
+// Boxes of plain text, of one line or several.
+#include "desktop/Apparence.h"
+#include "desktop/Conversions.h"
+#include "desktop/Vues.h"
+
+#include <QLineEdit>
+#include <QMouseEvent>
+#include <QPlainTextEdit>
+#include <QSignalBlocker>
+
+#include <algorithm>
+
+namespace tirelune {
+
+namespace {
+
+class VueChamp final : public Vue {
+public:
+    VueChamp(Hôte& hôte, TextBox& boîte, QWidget* parent);
+
+    bool Taper(const Touche& touche) override { return boîte_.Taper(touche); }
+    void Synchroniser() override;
+
+private:
+    class Ligne final : public QLineEdit {
+    public:
+        Ligne(VueChamp& vue, QWidget* parent) : QLineEdit(parent), vue_(vue) {}
+        [[nodiscard]] QSize sizeHint() const override
+        {
+            const auto naturelle = QLineEdit::sizeHint();
+            const auto maximum = vue_.boîte_.MaxLength();
+            static constexpr std::size_t Court = 14;
+            const int largeur = maximum > 0 && maximum <= Court
+                                    ? fontMetrics().horizontalAdvance(u'M') * (static_cast<int>(maximum) + 2)
+                                    : naturelle.width();
+            return {largeur, naturelle.height() + font().pixelSize() / 3};
+        }
+
+    protected:
+        void mouseReleaseEvent(QMouseEvent* événement) override
+        {
+            QLineEdit::mouseReleaseEvent(événement);
+            if (événement->button() == Qt::LeftButton && !hasSelectedText() && vue_.Agissante() && !double_)
+                vue_.boîte_.Cliquer(static_cast<std::size_t>(cursorPosition()));
+            double_ = false;
+        }
+        void mouseDoubleClickEvent(QMouseEvent* événement) override
+        {
+            double_ = true;
+            const auto position = cursorPositionAt(événement->position().toPoint());
+            QLineEdit::mouseDoubleClickEvent(événement);
+            if (vue_.Agissante())
+                vue_.boîte_.DoubleCliquer(static_cast<std::size_t>(position));
+        }
+
+    private:
+        VueChamp& vue_;
+        bool double_ = false;
+    };
+
+    void Modifier(const QString& texte);
+    void NoterSélection();
+
+    TextBox& boîte_;
+    QLineEdit& ligne_;
+    int curseurAvant_ = 0;
+};
+
+VueChamp::VueChamp(Hôte& hôte, TextBox& boîte, QWidget* parent)
+    : Vue(hôte, boîte, new Ligne{*this, parent}), boîte_(boîte), ligne_(static_cast<QLineEdit&>(*widget))
+{
+    ligne_.setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    ligne_.setDragEnabled(false);
+    ligne_.setAcceptDrops(false);
+    if (boîte.PasswordChar != 0) {
+        ligne_.setEchoMode(QLineEdit::Password);
+    }
+    if (boîte.Centré)
+        ligne_.setAlignment(Qt::AlignCenter);
+    QObject::connect(&ligne_, &QLineEdit::textEdited, [this](const QString& texte) { Modifier(texte); });
+    QObject::connect(&ligne_, &QLineEdit::selectionChanged, [this] { NoterSélection(); });
+    QObject::connect(&ligne_, &QLineEdit::cursorPositionChanged, [this](int avant, int) {
+        curseurAvant_ = avant;
+        NoterSélection();
+    });
+}
+
+void VueChamp::Modifier(const QString& texte)
+{
+    if (!Agissante())
+        return;
+    const int curseur = curseurAvant_;
+    NoterSélection(); // first: handlers may choose another
+    if (boîte_.Saisir(DepuisQString(texte)))
+        return;
+    const QSignalBlocker silence{ligne_};
+    ligne_.setText(EnQString(boîte_.Text()));
+    ligne_.setCursorPosition(curseur);
+    NoterSélection();
+}
+
+void VueChamp::NoterSélection()
+{
+    if (!Agissante() || sale)
+        return; // what the program has just chosen is still on its way to the widget
+    const bool choisie = ligne_.hasSelectedText();
+    boîte_.SelStart.Noter(static_cast<std::size_t>(choisie ? ligne_.selectionStart() : ligne_.cursorPosition()));
+    boîte_.SelLength.Noter(static_cast<std::size_t>(choisie ? ligne_.selectionLength() : 0));
+}
+
+void VueChamp::Synchroniser()
+{
+    ColorerFond(Teinte::Panneau);
+    const QSignalBlocker silence{ligne_};
+    ligne_.setReadOnly(boîte_.Locked);
+    ligne_.setMaxLength(boîte_.MaxLength > 0 ? static_cast<int>(boîte_.MaxLength()) : 32767);
+    if (const auto texte = EnQString(boîte_.Text()); texte != ligne_.text())
+        ligne_.setText(texte);
+    const int début = std::min(static_cast<int>(boîte_.SelStart()), static_cast<int>(boîte_.Text().size()));
+    const int longueur = std::min(static_cast<int>(boîte_.SelLength()), static_cast<int>(boîte_.Text().size()) - début);
+    const int montrée = ligne_.hasSelectedText() ? ligne_.selectionLength() : 0;
+    const int départ = montrée > 0 ? ligne_.selectionStart() : ligne_.cursorPosition();
+    if (longueur != montrée || début != départ)
+        longueur > 0 ? ligne_.setSelection(début, longueur) : ligne_.setCursorPosition(début);
+    Vue::Synchroniser();
+}
+
+// A text box of several lines. Its line ends count two positions in the element and one in the widget.
+class VueTexteSimple final : public Vue {
+public:
+    VueTexteSimple(Hôte& hôte, TextBox& boîte, QWidget* parent)
+        : Vue(hôte, boîte, new Zone{*this, parent}), boîte_(boîte), zone_(static_cast<QPlainTextEdit&>(*widget))
+    {
+        zone_.setTabChangesFocus(true);
+        zone_.setUndoRedoEnabled(false);
+        QObject::connect(&zone_, &QPlainTextEdit::textChanged, [this] { Modifier(); });
+        QObject::connect(&zone_, &QPlainTextEdit::cursorPositionChanged, [this] { NoterSélection(); });
+        QObject::connect(&zone_, &QPlainTextEdit::selectionChanged, [this] { NoterSélection(); });
+    }
+
+    bool Taper(const Touche& touche) override { return boîte_.Taper(touche); }
+
+    void Synchroniser() override
+    {
+        ColorerFond(Teinte::Panneau);
+        const QSignalBlocker silence{zone_};
+        zone_.setReadOnly(boîte_.Locked);
+        zone_.setTextInteractionFlags(boîte_.Locked ? Qt::TextInteractionFlags{Qt::TextSelectableByMouse}
+                                                    : Qt::TextEditorInteraction);
+        if (const auto texte = Affiché(); texte != zone_.toPlainText())
+            zone_.setPlainText(texte);
+        auto curseur = zone_.textCursor();
+        const int début = EnWidget(boîte_.SelStart);
+        const int fin = EnWidget(boîte_.SelStart + boîte_.SelLength);
+        if (curseur.selectionStart() != début || curseur.selectionEnd() != fin) {
+            curseur.setPosition(début);
+            curseur.setPosition(fin, QTextCursor::KeepAnchor);
+            zone_.setTextCursor(curseur);
+        }
+        Vue::Synchroniser();
+    }
+
+private:
+    class Zone final : public QPlainTextEdit {
+    public:
+        Zone(VueTexteSimple& vue, QWidget* parent) : QPlainTextEdit(parent), vue_(vue) {}
+        [[nodiscard]] QSize sizeHint() const override
+        {
+            static constexpr int LignesUsuelles = 4;
+            static constexpr int LignesMaximales = 9;
+            const int bord = 2 * (frameWidth() + static_cast<int>(document()->documentMargin())) + 2;
+            const int largeur = font().pixelSize() * 18;
+            // A text to be read shows whole; one to be written starts with a few lines.
+            const int lue = isReadOnly() ? fontMetrics()
+                                               .boundingRect(QRect{0, 0, largeur - bord, 1}, Qt::TextWordWrap,
+                                                             EnAffichage(vue_.boîte_.Text()))
+                                               .height()
+                                         : 0;
+            const int ligne = fontMetrics().lineSpacing();
+            return {largeur, std::clamp(lue, ligne * LignesUsuelles, ligne * LignesMaximales) + bord};
+        }
+        [[nodiscard]] QSize minimumSizeHint() const override
+        {
+            return {font().pixelSize() * 6, fontMetrics().lineSpacing() * 2};
+        }
+
+    protected:
+        void mouseReleaseEvent(QMouseEvent* événement) override
+        {
+            QPlainTextEdit::mouseReleaseEvent(événement);
+            if (événement->button() == Qt::LeftButton && !textCursor().hasSelection() && vue_.Agissante())
+                vue_.boîte_.Cliquer(vue_.DepuisWidget(textCursor().position()));
+        }
+        void mouseDoubleClickEvent(QMouseEvent* événement) override
+        {
+            const int position = cursorForPosition(événement->position().toPoint()).position();
+            QPlainTextEdit::mouseDoubleClickEvent(événement);
+            if (vue_.Agissante())
+                vue_.boîte_.DoubleCliquer(vue_.DepuisWidget(position));
+        }
+
+    private:
+        VueTexteSimple& vue_;
+    };
+
+    [[nodiscard]] QString Affiché() const
+    {
+        auto texte = EnQString(boîte_.Text());
+        return texte.remove(u'\r');
+    }
+    [[nodiscard]] int EnWidget(std::size_t position) const
+    {
+        const auto avant = VueTexte{boîte_.Text()}.substr(0, position);
+        return static_cast<int>(avant.size() - static_cast<std::size_t>(std::count(avant.begin(), avant.end(), u'\r')));
+    }
+    [[nodiscard]] std::size_t DepuisWidget(int position) const { return Compter(boîte_.Text(), position); }
+    // The place in the text of a position that counts line ends once.
+    static std::size_t Compter(VueTexte texte, int position)
+    {
+        std::size_t i = 0;
+        for (; position > 0 && i < texte.size(); ++i)
+            position -= texte[i] == u'\r' ? 0 : 1;
+        return i;
+    }
+    void Modifier()
+    {
+        if (!Agissante())
+            return;
+        auto texte = zone_.toPlainText();
+        texte.replace(u'\n', QStringLiteral("\r\n"));
+        const auto début = boîte_.SelStart();
+        const auto longueur = boîte_.SelLength();
+        const auto curseur = zone_.textCursor();
+        const VueTexte avant =
+            VueTexte{reinterpret_cast<const char16_t*>(texte.utf16()), static_cast<std::size_t>(texte.size())};
+        boîte_.SelStart.Noter(Compter(avant, curseur.position()));
+        boîte_.SelLength.Noter(0);
+        if (boîte_.Saisir(DepuisQString(texte)))
+            return;
+        boîte_.SelStart.Noter(début);
+        boîte_.SelLength.Noter(longueur);
+        hôte_.Marquer(*this); // shows again what the element holds
+    }
+    void NoterSélection()
+    {
+        if (!Agissante() || sale)
+            return;
+        const auto curseur = zone_.textCursor();
+        boîte_.SelStart.Noter(DepuisWidget(curseur.selectionStart()));
+        boîte_.SelLength.Noter(DepuisWidget(curseur.selectionEnd()) - boîte_.SelStart);
+    }
+
+    TextBox& boîte_;
+    QPlainTextEdit& zone_;
+};
+
+} // namespace
+
+std::unique_ptr<Vue> Créer(Hôte& hôte, TextBox& boîte, QWidget* parent)
+{
+    if (boîte.MultiLine)
+        return std::make_unique<VueTexteSimple>(hôte, boîte, parent);
+    return std::make_unique<VueChamp>(hôte, boîte, parent);
+}
+
+} // namespace tirelune

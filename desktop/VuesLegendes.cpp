@@ -1,0 +1,180 @@
+// Captions, images and frames.
+#include "desktop/Apparence.h"
+#include "desktop/Composants.h"
+#include "desktop/Conversions.h"
+#include "desktop/Vues.h"
+
+namespace tirelune {
+
+namespace {
+
+class VueEtiquette : public Vue {
+public:
+    VueEtiquette(Hôte& hôte, Label& label, QWidget* parent)
+        : Vue(hôte, label, new Etiquette{parent}), label_(label), étiquette_(static_cast<Etiquette&>(*widget))
+    {
+        étiquette_.centrée = label.Centré;
+        if (!label.Click)
+            return;
+        étiquette_.RendreCliquable();
+        étiquette_.clic = [this] {
+            if (Agissante())
+                label_.Cliquer();
+        };
+    }
+
+    void Remarquer() override
+    {
+        // Rules read the width of such a label as soon as they have set its caption.
+        if (!label_.AutoSize)
+            return;
+        Habiller();
+        const auto taille = étiquette_.sizeHint();
+        label_.Width.Noter(Twips(taille.width()));
+        label_.Height.Noter(Twips(taille.height()));
+    }
+
+    void Synchroniser() override
+    {
+        Habiller();
+        const auto fond = EnQColor(label_.BackColor, {});
+        const auto encre = EnQColor(label_.ForeColor, {});
+        if (fond != étiquette_.fond || encre != étiquette_.encre || label_.Bordure != étiquette_.bordure) {
+            étiquette_.fond = fond;
+            étiquette_.encre = encre;
+            étiquette_.bordure = label_.Bordure;
+            étiquette_.update();
+        }
+        const auto pointeur = label_.MousePointer == Pointeur::Sablier ? Qt::WaitCursor
+                              : label_.Click                           ? Qt::PointingHandCursor
+                                                                       : Qt::ArrowCursor;
+        if (étiquette_.cursor().shape() != pointeur)
+            étiquette_.setCursor(pointeur);
+        Vue::Synchroniser();
+        // Assistive tools read what it says, rather than its tip: a label has nothing else to be read by.
+        if (étiquette_.accessibleDescription() != étiquette_.text())
+            étiquette_.setAccessibleDescription(étiquette_.text());
+    }
+
+private:
+    void Habiller()
+    {
+        étiquette_.enLigne = label_.AutoSize;
+        if (const auto légende = EnAffichage(label_.Caption()); légende != étiquette_.text())
+            étiquette_.setText(légende);
+    }
+
+    Label& label_;
+    Etiquette& étiquette_;
+};
+
+class VueImage final : public Vue {
+public:
+    VueImage(Hôte& hôte, Image& image, QWidget* parent)
+        : Vue(hôte, image, new ImageDessinée{parent}), image_(image), dessinée_(static_cast<ImageDessinée&>(*widget))
+    {
+        if (!image.Click)
+            return;
+        dessinée_.RendreCliquable();
+        dessinée_.setCursor(Qt::PointingHandCursor);
+        dessinée_.clic = [this] {
+            if (Agissante())
+                image_.Cliquer();
+        };
+    }
+
+    void Synchroniser() override
+    {
+        if (image_.Picture != dessinée_.dessin) {
+            dessinée_.dessin = image_.Picture;
+            dessinée_.updateGeometry();
+            dessinée_.update();
+        }
+        if (const auto fond = EnQColor(image_.BackColor, {}); fond != dessinée_.fond) {
+            dessinée_.fond = fond;
+            dessinée_.update();
+        }
+        Vue::Synchroniser();
+    }
+
+private:
+    Image& image_;
+    ImageDessinée& dessinée_;
+};
+
+class VueCadre final : public Vue {
+public:
+    VueCadre(Hôte& hôte, Frame& cadre, QWidget* parent)
+        : Vue(hôte, cadre, new Panneau{parent}), cadre_(cadre), panneau_(static_cast<Panneau&>(*widget))
+    {
+        if (cadre.Click) {
+            panneau_.setCursor(Qt::PointingHandCursor);
+            panneau_.clic = [this] {
+                if (Agissante())
+                    cadre_.Cliquer();
+            };
+        }
+        if (!cadre.MouseMove)
+            return;
+        panneau_.setCursor(Qt::OpenHandCursor);
+        panneau_.début = [this](QPoint prise) {
+            if (Agissante() && cadre_.Enabled)
+                cadre_.MouseMove(Twips(prise.x()), Twips(prise.y()));
+        };
+        panneau_.dépôt = [this](QPoint lieu) {
+            if (Agissante())
+                Déposer(lieu);
+        };
+    }
+
+    void Synchroniser() override
+    {
+        panneau_.Titrer(EnAffichage(cadre_.Caption()).trimmed());
+        const auto fond = EnQColor(cadre_.BackColor, {});
+        const auto encre = EnQColor(cadre_.ForeColor, {});
+        if (fond != panneau_.fond || encre != panneau_.encre) {
+            panneau_.fond = fond;
+            panneau_.encre = encre;
+            panneau_.update();
+        }
+        Vue::Synchroniser();
+    }
+
+private:
+    // On itself when it has hardly moved; else on the rich text below, or on the screen.
+    void Déposer(QPoint lieu)
+    {
+        if (!cadre_.DragDrop)
+            return;
+        if (panneau_.rect().contains(lieu)) {
+            cadre_.DragDrop(&cadre_, Twips(lieu.x()), Twips(lieu.y()));
+            return;
+        }
+        auto [cible, place] = hôte_.TomberEn(panneau_.mapToGlobal(lieu));
+        if (cible == nullptr && placeur != nullptr)
+            place -= placeur->Coin();
+        cadre_.DragDrop(cible, Twips(place.x()), Twips(place.y()));
+    }
+
+    Frame& cadre_;
+    Panneau& panneau_;
+};
+
+} // namespace
+
+std::unique_ptr<Vue> Créer(Hôte& hôte, Label& label, QWidget* parent)
+{
+    return std::make_unique<VueEtiquette>(hôte, label, parent);
+}
+
+std::unique_ptr<Vue> Créer(Hôte& hôte, Image& image, QWidget* parent)
+{
+    return std::make_unique<VueImage>(hôte, image, parent);
+}
+
+std::unique_ptr<Vue> Créer(Hôte& hôte, Frame& cadre, QWidget* parent)
+{
+    return std::make_unique<VueCadre>(hôte, cadre, parent);
+}
+
+} // namespace tirelune

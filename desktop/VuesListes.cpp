@@ -1,0 +1,236 @@
+// Lists, drop-down or open; drives and folders.
+#include "desktop/Apparence.h"
+#include "desktop/Conversions.h"
+#include "desktop/Vues.h"
+
+#include <QComboBox>
+#include <QCompleter>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QSignalBlocker>
+
+namespace tirelune {
+
+namespace {
+
+// The toolkit gives the value of a drop-down list as its accessible name: its own name goes into its description.
+void Nommer(QComboBox& liste)
+{
+    const auto description = (liste.objectName() + u' ' + liste.toolTip()).trimmed();
+    if (liste.accessibleDescription() != description)
+        liste.setAccessibleDescription(description);
+}
+
+class VueCombo final : public Vue {
+public:
+    VueCombo(Hôte& hôte, ComboBox& combo, QWidget* parent)
+        : Vue(hôte, combo, new QComboBox{parent}), combo_(combo), liste_(static_cast<QComboBox&>(*widget))
+    {
+        liste_.setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+        liste_.setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+        liste_.setMinimumContentsLength(combo.Saisie ? 5 : 14);
+        liste_.setMaxVisibleItems(16);
+        liste_.setAttribute(Qt::WA_InputMethodEnabled);
+        if (combo.Saisie) {
+            liste_.setEditable(true);
+            liste_.setInsertPolicy(QComboBox::NoInsert);
+            liste_.setCompleter(nullptr);
+            QObject::connect(liste_.lineEdit(), &QLineEdit::textEdited, [this](const QString& texte) {
+                if (Agissante())
+                    combo_.Saisir(DepuisQString(texte));
+            });
+        }
+        QObject::connect(&liste_, &QComboBox::activated, [this](int index) {
+            if (!Agissante())
+                return;
+            hôte_.Marquer(*this);
+            combo_.Choisir(index);
+        });
+    }
+
+    bool Taper(const Touche& touche) override { return combo_.Taper(touche); }
+
+    void Synchroniser() override
+    {
+        ColorerFond(Teinte::Panneau);
+        const QSignalBlocker silence{liste_};
+        if (montrés_ != combo_.Eléments()) {
+            montrés_ = combo_.Eléments();
+            QStringList textes;
+            textes.reserve(static_cast<qsizetype>(montrés_.size()));
+            for (const auto& texte : montrés_)
+                textes.push_back(EnAffichage(texte));
+            liste_.clear();
+            liste_.addItems(textes);
+        }
+        const auto texte = EnAffichage(combo_.Text());
+        if (combo_.Saisie) {
+            if (liste_.currentIndex() != combo_.ListIndex)
+                liste_.setCurrentIndex(combo_.ListIndex);
+            if (liste_.currentText() != texte)
+                liste_.setEditText(texte);
+        } else {
+            // A text that is none of the items shows in the place of an item.
+            const int index = combo_.ListIndex;
+            const bool élémentMontré = index >= 0 && index < combo_.ListCount() && combo_.List(index) == combo_.Text();
+            const int voulu = élémentMontré ? index : combo_.Chercher(combo_.Text());
+            liste_.setPlaceholderText(voulu < 0 ? texte : QString{});
+            if (liste_.currentIndex() != voulu)
+                liste_.setCurrentIndex(voulu);
+            liste_.update();
+        }
+        Vue::Synchroniser();
+        Nommer(liste_);
+    }
+
+private:
+    ComboBox& combo_;
+    QComboBox& liste_;
+    std::vector<Texte> montrés_;
+};
+
+class VueListe final : public Vue {
+public:
+    VueListe(Hôte& hôte, ListBox& éléments, QWidget* parent)
+        : Vue(hôte, éléments, new Rangées{*this, parent}), source_(éléments), liste_(static_cast<QListWidget&>(*widget))
+    {
+        liste_.setUniformItemSizes(true);
+        QObject::connect(&liste_, &QListWidget::itemClicked, [this] {
+            if (Agissante())
+                source_.Choisir(liste_.currentRow());
+        });
+        QObject::connect(&liste_, &QListWidget::itemDoubleClicked, [this] {
+            if (Agissante() && source_.Enabled && source_.EstAtteignable() && source_.DblClick)
+                source_.DblClick();
+        });
+    }
+
+    bool Taper(const Touche& touche) override
+    {
+        if (touche.Caractère == 0 || !source_.KeyPress) // arrows move in the list whatever becomes of typed keys
+            return true;
+        Touche copie = touche;
+        source_.KeyPress(copie);
+        return !copie.Avalée;
+    }
+
+    void Synchroniser() override
+    {
+        ColorerFond(Teinte::Panneau);
+        const QSignalBlocker silence{liste_};
+        if (montrés_ != source_.Eléments()) {
+            montrés_ = source_.Eléments();
+            liste_.clear();
+            for (const auto& texte : montrés_)
+                liste_.addItem(EnAffichage(texte));
+        }
+        if (liste_.currentRow() != source_.ListIndex)
+            liste_.setCurrentRow(source_.ListIndex);
+        Vue::Synchroniser();
+    }
+
+private:
+    class Rangées final : public QListWidget {
+    public:
+        Rangées(VueListe& vue, QWidget* parent) : QListWidget(parent), vue_(vue) {}
+
+    protected:
+        // Arrows choose as a click does.
+        void keyPressEvent(QKeyEvent* événement) override
+        {
+            const int avant = currentRow();
+            QListWidget::keyPressEvent(événement);
+            if (currentRow() != avant && vue_.Agissante())
+                vue_.source_.Choisir(currentRow());
+        }
+
+    private:
+        VueListe& vue_;
+    };
+
+    ListBox& source_;
+    QListWidget& liste_;
+    std::vector<Texte> montrés_;
+};
+
+class VueLecteurs final : public Vue {
+public:
+    VueLecteurs(Hôte& hôte, DriveListBox& lecteurs, QWidget* parent)
+        : Vue(hôte, lecteurs, new QComboBox{parent}), source_(lecteurs), liste_(static_cast<QComboBox&>(*widget))
+    {
+        liste_.setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+        QObject::connect(&liste_, &QComboBox::activated, [this](int index) {
+            if (Agissante())
+                source_.Choisir(index);
+        });
+    }
+
+    void Synchroniser() override
+    {
+        const QSignalBlocker silence{liste_};
+        QStringList textes;
+        for (const auto& lecteur : source_.Lecteurs())
+            textes.push_back(EnQString(lecteur));
+        liste_.clear();
+        liste_.addItems(textes);
+        liste_.setCurrentIndex(static_cast<int>(textes.indexOf(EnQString(source_.Drive()))));
+        Vue::Synchroniser();
+        Nommer(liste_);
+    }
+
+private:
+    DriveListBox& source_;
+    QComboBox& liste_;
+};
+
+class VueDossiers final : public Vue {
+public:
+    VueDossiers(Hôte& hôte, DirListBox& dossiers, QWidget* parent)
+        : Vue(hôte, dossiers, new QListWidget{parent}), source_(dossiers), liste_(static_cast<QListWidget&>(*widget))
+    {
+        QObject::connect(&liste_, &QListWidget::itemActivated, [this] {
+            if (Agissante())
+                source_.Ouvrir(liste_.currentRow() - 1); // the first row goes up
+        });
+    }
+
+    void Synchroniser() override
+    {
+        const QSignalBlocker silence{liste_};
+        liste_.clear();
+        liste_.addItem(QStringLiteral("..  (%1)").arg(EnQString(source_.Path())));
+        for (const auto& nom : source_.SousDossiers())
+            liste_.addItem(EnQString(nom));
+        liste_.setCurrentRow(0);
+        Vue::Synchroniser();
+    }
+
+private:
+    DirListBox& source_;
+    QListWidget& liste_;
+};
+
+} // namespace
+
+std::unique_ptr<Vue> Créer(Hôte& hôte, ComboBox& combo, QWidget* parent)
+{
+    return std::make_unique<VueCombo>(hôte, combo, parent);
+}
+
+std::unique_ptr<Vue> Créer(Hôte& hôte, ListBox& liste, QWidget* parent)
+{
+    return std::make_unique<VueListe>(hôte, liste, parent);
+}
+
+std::unique_ptr<Vue> Créer(Hôte& hôte, DriveListBox& lecteurs, QWidget* parent)
+{
+    return std::make_unique<VueLecteurs>(hôte, lecteurs, parent);
+}
+
+std::unique_ptr<Vue> Créer(Hôte& hôte, DirListBox& dossiers, QWidget* parent)
+{
+    return std::make_unique<VueDossiers>(hôte, dossiers, parent);
+}
+
+} // namespace tirelune
