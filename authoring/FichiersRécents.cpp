@@ -1,6 +1,7 @@
 #include "authoring/FichiersRécents.h"
 
 #include "core/Fichiers.h"
+#include "core/Windows1252.h"
 
 namespace tirelune {
 

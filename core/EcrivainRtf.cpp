@@ -1,6 +1,6 @@
 #include "core/EcrivainRtf.h"
 
-#include "core/PagesDeCodes.h"
+#include "core/Windows1252.h"
 
 #include <algorithm>
 #include <array>
@@ -191,7 +191,6 @@ void Ecrivain::EcrireCaractères(std::size_t début, std::size_t fin)
 void Ecrivain::EcrireCaractère(char16_t c)
 {
     static constexpr std::string_view Chiffres = "0123456789abcdef";
-    static const MoitiéHaute& Windows1252 = *TrouverPageDeCodes(1252);
     if (c >= u' ' && c < 0x7F) {
         if (c == u'\\' || c == u'{' || c == u'}')
             sortie_ += '\\';
@@ -201,15 +200,14 @@ void Ecrivain::EcrireCaractère(char16_t c)
     } else if (c == 0xA0) {
         sortie_ += "\\~";
     } else {
-        const auto place = c < 0x80 ? Windows1252.end() : std::find(Windows1252.begin(), Windows1252.end(), c);
-        if (place == Windows1252.end()) {
+        const auto octet = c < 0x80 ? std::nullopt : OctetWindows1252(c);
+        if (!octet) {
             Unicode(c);
             return;
         }
-        const auto octet = static_cast<unsigned>(place - Windows1252.begin()) + 0x80U;
         sortie_ += "\\'";
-        sortie_ += Chiffres[octet >> 4U];
-        sortie_ += Chiffres[octet & 0xFU];
+        sortie_ += Chiffres[static_cast<unsigned char>(*octet) >> 4U];
+        sortie_ += Chiffres[static_cast<unsigned char>(*octet) & 0xFU];
     }
 }
 

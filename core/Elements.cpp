@@ -2,6 +2,7 @@
 
 #include "core/Ecran.h"
 #include "core/OrdreAlphabetique.h"
+#include "core/Windows1252.h"
 
 #include <algorithm>
 #include <cassert>
@@ -432,36 +433,49 @@ Line::Line(Ecran& écran, std::string_view nom, Trait trait, bool visible) : El�
 // ---- Grid ----------------------------------------------------------------------------------------------------
 
 Grid::Grid(Ecran& écran, std::string_view nom, int lignes, int colonnes)
-    : Elément(écran, nom),
-      colonnes_(colonnes),
-      cellules_(static_cast<std::size_t>(lignes), std::vector<Texte>(static_cast<std::size_t>(colonnes)))
+    : Elément(écran, nom), colonnes_(colonnes), cellules_(static_cast<std::size_t>(lignes))
 {
     Visible.Noter(false);
 }
 
 void Grid::Rows(int lignes)
 {
-    cellules_.resize(static_cast<std::size_t>(lignes), std::vector<Texte>(static_cast<std::size_t>(colonnes_)));
+    cellules_.resize(static_cast<std::size_t>(lignes));
     Changer();
 }
 
 void Grid::Cols(int colonnes)
 {
+    if (colonnes < colonnes_) {
+        for (auto& ligne : cellules_)
+            ligne.resize(std::min(ligne.size(), static_cast<std::size_t>(colonnes)));
+    }
     colonnes_ = colonnes;
-    for (auto& ligne : cellules_)
-        ligne.resize(static_cast<std::size_t>(colonnes));
     Changer();
 }
 
 const Texte& Grid::TextMatrix(int ligne, int colonne) const
 {
-    return cellules_.at(static_cast<std::size_t>(ligne)).at(static_cast<std::size_t>(colonne));
+    static const Texte vide;
+    const auto& cellules = cellules_.at(static_cast<std::size_t>(ligne));
+    const auto place = PlaceDe(colonne);
+    return place < cellules.size() ? cellules[place] : vide;
 }
 
 void Grid::TextMatrix(int ligne, int colonne, Texte texte)
 {
-    cellules_.at(static_cast<std::size_t>(ligne)).at(static_cast<std::size_t>(colonne)) = std::move(texte);
+    auto& cellules = cellules_.at(static_cast<std::size_t>(ligne));
+    const auto place = PlaceDe(colonne);
+    if (place >= cellules.size())
+        cellules.resize(place + 1);
+    cellules[place] = std::move(texte);
     Changer();
+}
+
+std::size_t Grid::PlaceDe(int colonne) const
+{
+    assert(colonne >= 0 && colonne < colonnes_);
+    return static_cast<std::size_t>(colonne);
 }
 
 void Grid::AddRow()

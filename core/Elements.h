@@ -393,8 +393,10 @@ public:
     void RemoveRow(int ligne);
 
 private:
+    [[nodiscard]] std::size_t PlaceDe(int colonne) const;
+
     int colonnes_;
-    std::vector<std::vector<Texte>> cellules_;
+    std::vector<std::vector<Texte>> cellules_; // each row up to the last cell that was written
 };
 
 class Toolbar final : public Elément {

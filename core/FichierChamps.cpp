@@ -1,6 +1,7 @@
 #include "core/FichierChamps.h"
 
 #include "core/Fichiers.h"
+#include "core/Windows1252.h"
 
 #include <algorithm>
 

@@ -29,23 +29,27 @@ bool PousserSurLeDisque(std::FILE* fichier)
 #endif
 }
 
-// Codes 0x80 to 0x9F of Windows-1252 (WHATWG index); the unassigned ones map to themselves.
-constexpr std::array<char16_t, 32> Haut{0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021,
-                                        0x02C6, 0x2030, 0x0160, 0x2039, 0x0152, 0x008D, 0x017D, 0x008F,
-                                        0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014,
-                                        0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
-
-std::optional<char> OctetDe(char16_t caractère)
-{
-    if (caractère < 0x80 || (caractère >= 0xA0 && caractère <= 0xFF))
-        return static_cast<char>(caractère);
-    const auto* place = std::find(Haut.begin(), Haut.end(), caractère);
-    if (place == Haut.end())
-        return std::nullopt;
-    return static_cast<char>(0x80 + (place - Haut.begin()));
-}
-
 } // namespace
+
+Texte NomRéel(VueTexte dossier, VueTexte nom)
+{
+    std::error_code erreur;
+    if (std::filesystem::exists(EnChemin(Joindre(dossier, nom)), erreur))
+        return Texte{nom};
+    const auto point = std::min(nom.rfind(u'.'), nom.size());
+    const auto racine = nom.substr(0, point);
+    const auto extension = Minuscules(nom.substr(point));
+    std::optional<Texte> trouvé;
+    std::filesystem::directory_iterator entrée{EnChemin(dossier), erreur};
+    for (; !erreur && entrée != std::filesystem::directory_iterator{}; entrée.increment(erreur)) {
+        auto autre = DepuisChemin(entrée->path().filename());
+        const bool même = autre.size() == nom.size() && autre.starts_with(racine) &&
+                          Minuscules(VueTexte{autre}.substr(point)) == extension;
+        if (même && (!trouvé || autre < *trouvé)) // of several, always the same one
+            trouvé = std::move(autre);
+    }
+    return trouvé.value_or(Texte{nom});
+}
 
 std::optional<std::string> LireFichier(const Chemin& fichier)
 {
@@ -78,35 +82,6 @@ std::optional<EchecFichier> RéécrireFichier(const Chemin& fichier, std::string
     if (!écrit || !PousserSurLeDisque(flux.get()))
         return EchecFichier::Ecriture;
     return std::nullopt;
-}
-
-Texte DepuisWindows1252(std::string_view octets)
-{
-    Texte texte;
-    texte.reserve(octets.size());
-    for (const char octet : octets) {
-        const auto code = static_cast<unsigned char>(octet);
-        texte += code >= 0x80 && code < 0xA0 ? Haut[code - 0x80U] : static_cast<char16_t>(code);
-    }
-    return texte;
-}
-
-std::optional<std::string> EnWindows1252(VueTexte texte)
-{
-    std::string octets;
-    octets.reserve(texte.size());
-    for (const char16_t caractère : texte) {
-        const auto octet = OctetDe(caractère);
-        if (!octet)
-            return std::nullopt;
-        octets += *octet;
-    }
-    return octets;
-}
-
-bool TientEnWindows1252(VueTexte texte)
-{
-    return std::all_of(texte.begin(), texte.end(), [](char16_t c) { return OctetDe(c).has_value(); });
 }
 
 Texte MessageEchec(EchecFichier échec, VueTexte fichier)

@@ -1,4 +1,4 @@
-// Reading and rewriting whole files.
+// Finding, reading and rewriting whole files.
 #pragma once
 #include "core/Texte.h"
 
@@ -13,17 +13,15 @@ enum class EchecFichier {
     Ecriture,  // the file was created but not written whole: the disk is full or was lost
 };
 
+// The name under which a folder holds that file: this one, or else the one with the extension in capitals, small
+// letters or both. The name itself when there is none.
+Texte NomRéel(VueTexte dossier, VueTexte nom);
+
 // Nothing when the file can't be opened or read.
 std::optional<std::string> LireFichier(const Chemin& fichier);
 
 // Deletes the file, then writes it anew in one piece, flushed to the disk.
 std::optional<EchecFichier> RéécrireFichier(const Chemin& fichier, std::string_view contenu);
-
-// Windows-1252 after the WHATWG index; the five unassigned bytes map to the same code.
-Texte DepuisWindows1252(std::string_view octets);
-// Nothing when a character has no place in Windows-1252.
-std::optional<std::string> EnWindows1252(VueTexte texte);
-bool TientEnWindows1252(VueTexte texte);
 
 // The message for a file that could not be written; names the file and says what to do.
 Texte MessageEchec(EchecFichier échec, VueTexte fichier);

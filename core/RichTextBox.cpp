@@ -3,6 +3,7 @@
 #include "core/Ecran.h"
 #include "core/Fichiers.h"
 #include "core/LecteurRtf.h"
+#include "core/Windows1252.h"
 
 #include <algorithm>
 

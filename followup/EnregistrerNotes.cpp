@@ -1,5 +1,6 @@
 #include "followup/EnregistrerNotes.h"
 
+#include "core/Enregistrements.h"
 #include "core/FichierChamps.h"
 #include "followup/BoîteRéseau.h"
 #include "followup/FichierBilan.h"
@@ -35,13 +36,8 @@ namespace {
 // All records, row 0 left out. Titles that a field can't hold never get into the grid.
 std::string ComposerBilan(const Grid& grille)
 {
-    std::vector<Texte> champs;
-    champs.reserve(static_cast<std::size_t>(grille.Rows()) * (NombreColonnes + 1));
-    for (int rangée = 1; rangée < grille.Rows(); ++rangée) {
-        champs.emplace_back(Marqueur);
-        for (int colonne = 0; colonne < NombreColonnes; ++colonne)
-            champs.push_back(Rogner(grille.TextMatrix(rangée, colonne)));
-    }
+    auto champs = FichesDe(grille, 1);
+    std::transform(champs.begin(), champs.end(), champs.begin(), [](const Texte& champ) { return Rogner(champ); });
     const auto octets = ComposerChamps(champs);
     assert(octets);
     return *octets;

@@ -1,6 +1,6 @@
 #include "followup/NomElève.h"
 
-#include "core/Fichiers.h"
+#include "core/Windows1252.h"
 
 #include <algorithm>
 #include <array>

@@ -1,5 +1,6 @@
 #include "followup/frmExercices.h"
 
+#include "core/Enregistrements.h"
 #include "core/FichierChamps.h"
 #include "core/Fonctions.h"
 #include "followup/DossierElèves.h"
@@ -142,11 +143,11 @@ void frmExercices::ListerElèves()
 void frmExercices::cmdOk_Click()
 {
     état.NomElève = cmbNoms.Text;
-    const auto champs = LireBilan();
+    auto champs = LireBilan();
     if (!champs)
         return; // the first save would replace what can't be read now
     AjouterNomElève();
-    ChargerBilan(*champs);
+    ChargerBilan(std::move(*champs));
     frameElève.Visible = false;
 }
 
@@ -168,9 +169,9 @@ std::optional<std::vector<Texte>> frmExercices::LireBilan()
     return std::nullopt;
 }
 
-void frmExercices::ChargerBilan(const std::vector<Texte>& champs)
+void frmExercices::ChargerBilan(std::vector<Texte> champs)
 {
-    RangerChamps(champs);
+    RangerChamps(std::move(champs));
     CalculerMoyennes();
     PeindreMoyennes();
     if (cmbTextes.ListCount() == 0)
@@ -179,45 +180,35 @@ void frmExercices::ChargerBilan(const std::vector<Texte>& champs)
     PeindreTexte(fgRésultats.Rows() - 1);
 }
 
-void frmExercices::RangerChamps(const std::vector<Texte>& champs)
+void frmExercices::RangerChamps(std::vector<Texte> champs)
 {
     // A cell is written trimmed: what would then open a record opens one now.
-    const auto ouvre = [](const Texte& champ) { return Rogner(champ) == Marqueur; };
-    const auto textes = static_cast<int>(std::count_if(champs.begin(), champs.end(), ouvre));
-    fgRésultats.Rows(textes + 1);
+    std::transform(champs.begin(), champs.end(), champs.begin(), [](const Texte& champ) { return Rogner(champ); });
     std::vector<Texte> titres;
-    bool abîmé = false;
-    int rangée = 0;
-    int colonne = 0;
-    for (const auto& champ : champs) {
-        if (ouvre(champ)) {
-            ++rangée;
-            colonne = 0;
-            continue;
-        }
-        if (rangée == 0 || colonne >= NombreColonnes) {
-            abîmé = true;
-            continue;
-        }
-        if (colonne == ColonneTitre)
-            titres.push_back(Rogner(champ));
-        fgRésultats.TextMatrix(rangée, colonne, AvecSéparateur(Rogner(champ), colonne));
-        ++colonne;
+    for (std::size_t i = 1; i < champs.size(); ++i) {
+        if (champs[i - 1] == Marqueur && champs[i] != Marqueur)
+            titres.push_back(champs[i]);
+    }
+    const auto perdus = RangerFiches(std::move(champs), fgRésultats, 1, Colonnes::Fixes);
+    for (int rangée = 1; rangée < fgRésultats.Rows(); ++rangée) {
+        for (int colonne = PremièreColonneNote; colonne < NombreColonnes; ++colonne)
+            PrendreSéparateur(rangée, colonne);
     }
     cmbTextes.AddItems(std::move(titres));
-    if (abîmé)
+    if (perdus)
         GarderBilanAbîmé();
 }
 
 // A score may come from a machine with another decimal separator; this machine's own is what gets written.
-Texte frmExercices::AvecSéparateur(Texte champ, int colonne) const
+void frmExercices::PrendreSéparateur(int rangée, int colonne)
 {
-    if (colonne >= PremièreColonneNote && LireNote(champ)) {
-        const auto séparateur = application_.plateforme.SéparateurDécimal();
-        std::replace_if(
-            champ.begin(), champ.end(), [](char16_t c) { return c == u'.' || c == u','; }, séparateur);
-    }
-    return champ;
+    auto note = fgRésultats.TextMatrix(rangée, colonne);
+    if (!LireNote(note))
+        return;
+    const auto séparateur = application_.plateforme.SéparateurDécimal();
+    std::replace_if(
+        note.begin(), note.end(), [](char16_t c) { return c == u'.' || c == u','; }, séparateur);
+    fgRésultats.TextMatrix(rangée, colonne, std::move(note));
 }
 
 // Some of the file has no place in the grid: the next save would lose it, so the file stays under another name.

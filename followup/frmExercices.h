@@ -63,9 +63,9 @@ private:
 
     void ListerElèves();
     [[nodiscard]] std::optional<std::vector<Texte>> LireBilan();
-    void ChargerBilan(const std::vector<Texte>& champs);
-    void RangerChamps(const std::vector<Texte>& champs);
-    [[nodiscard]] Texte AvecSéparateur(Texte champ, int colonne) const;
+    void ChargerBilan(std::vector<Texte> champs);
+    void RangerChamps(std::vector<Texte> champs);
+    void PrendreSéparateur(int rangée, int colonne);
     void GarderBilanAbîmé();
     void CalculerMoyennes();
     void PeindreMoyennes();

@@ -309,6 +309,8 @@ TEST(Eléments, GrilleGranditEtRétrécit)
     EXPECT_EQ(écran.fg.TextMatrix(0, 2), u"x");
     écran.fg.Cols(2);
     EXPECT_EQ(écran.fg.Cols(), 2);
+    écran.fg.Cols(3);
+    EXPECT_EQ(écran.fg.TextMatrix(0, 2), u""); // what was cut off doesn't come back
 }
 
 TEST(Eléments, ListeDeFichiersSelonLeMotif)

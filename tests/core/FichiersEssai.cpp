@@ -95,29 +95,25 @@ TEST(Fichiers, DisquePleinPendantUnBilanSeDitEtSeRattrape)
     EXPECT_GT(banc.Lire("Léa.bil")->size(), 5000U);
 }
 
-TEST(Fichiers, Windows1252SelonLaTable)
+TEST(Fichiers, LExtensionSeTrouveDansToutesLesCasses)
 {
-    const Texte haut = u"€\u0081‚ƒ„…†‡ˆ‰Š‹Œ\u008DŽ\u008F\u0090‘’“”•–—˜™š›œ\u009DžŸ";
-    std::string octets;
-    for (int code = 0; code < 256; ++code)
-        octets += static_cast<char>(code);
-    const auto texte = DepuisWindows1252(octets);
-    ASSERT_EQ(texte.size(), 256U);
-    for (std::size_t code = 0; code < 256; ++code) {
-        const bool table = code >= 0x80 && code < 0xA0;
-        EXPECT_EQ(texte[code], table ? haut[code - 0x80] : static_cast<char16_t>(code)) << code;
-    }
-    EXPECT_EQ(EnWindows1252(texte), octets);
-}
-
-TEST(Fichiers, HorsDeWindows1252NeDevientJamaisUnPointDInterrogation)
-{
-    for (const auto* texte : {u"Ω", u"e\u0301", u"\U0001F600", u"ł", u"\uFFFD", u"\u0100"}) {
-        EXPECT_FALSE(EnWindows1252(texte).has_value());
-        EXPECT_FALSE(TientEnWindows1252(texte));
-    }
-    EXPECT_TRUE(TientEnWindows1252(u"œ€Ÿ"));
-    EXPECT_TRUE(TientEnWindows1252(u""));
+    Banc banc;
+    const auto& dossier = banc.état.CheminAppli;
+    EXPECT_EQ(NomRéel(dossier, u"Abel.bil"), u"Abel.bil"); // none yet: the one to make
+    banc.Ecrire("Abel.BIL", "");
+    EXPECT_EQ(NomRéel(dossier, u"Abel.bil"), u"Abel.BIL");
+    EXPECT_EQ(NomRéel(dossier + u"/", u"Abel.bil"), u"Abel.BIL");
+    EXPECT_EQ(NomRéel(dossier, u"abel.bil"), u"abel.bil"); // another pupil
+    EXPECT_EQ(NomRéel(dossier, u"Abe.bil"), u"Abe.bil");
+    EXPECT_EQ(NomRéel(dossier, u"Abel.bi"), u"Abel.bi");
+    banc.Ecrire("Abel.Bil", "");
+    EXPECT_EQ(NomRéel(dossier, u"Abel.bil"), u"Abel.BIL");
+    banc.Ecrire("Abel.bil", "");
+    EXPECT_EQ(NomRéel(dossier, u"Abel.bil"), u"Abel.bil");
+    banc.Ecrire("Jean P.BIL", "");
+    EXPECT_EQ(NomRéel(dossier, u"Jean P.bil"), u"Jean P.BIL");
+    EXPECT_EQ(NomRéel(dossier, u"SansPoint"), u"SansPoint");
+    EXPECT_EQ(NomRéel(dossier + u"/absent", u"Abel.bil"), u"Abel.bil");
 }
 
 TEST(Fichiers, LeMessageNommeLeFichier)
