@@ -10,6 +10,7 @@ public:
     void AmorcerHasard() override {}
     double Hasard() override { return 0; }
     Chemin DossierProgramme() override { return {}; }
+    std::vector<Texte> Lecteurs() override { return {}; }
     std::optional<EchecFichier> Réécrire(const Chemin&, std::string_view) override { return std::nullopt; }
     char16_t SéparateurDécimal() override { return u','; }
     Réponse AfficherBoîte(const Boîte&) override { return Réponse::Ok; }

@@ -6,7 +6,6 @@
 
 #include <algorithm>
 #include <cassert>
-#include <cstdlib>
 
 namespace tirelune {
 
@@ -338,17 +337,7 @@ DriveListBox::DriveListBox(Ecran& écran, std::string_view nom, const EtatInitia
 
 void DriveListBox::Refresh()
 {
-    lecteurs_ = {u"/"};
-    if (const char* maison = std::getenv("HOME"); maison != nullptr && *maison != '\0')
-        lecteurs_.push_back(DepuisUtf8(maison));
-    const auto dossiers = [](const std::filesystem::directory_entry& entrée, const Texte&) {
-        std::error_code erreur;
-        return entrée.is_directory(erreur);
-    };
-    for (const auto* racine : {u"/media", u"/mnt", u"/run/media"}) {
-        for (const auto& nom : Lister(racine, dossiers).value_or(std::vector<Texte>{}))
-            lecteurs_.push_back(Joindre(racine, nom));
-    }
+    lecteurs_ = EcranDe().ApplicationDe().plateforme.Lecteurs();
     Changer();
 }
 

@@ -55,6 +55,7 @@ public:
 
     // Files. Reading goes through the standard library; writing is here so that failures can be played.
     virtual Chemin DossierProgramme() = 0;
+    virtual std::vector<Texte> Lecteurs() = 0; // where the list of drives may lead
     virtual std::optional<EchecFichier> Réécrire(const Chemin& fichier, std::string_view contenu) = 0;
     virtual char16_t SéparateurDécimal() = 0;
 

@@ -10,6 +10,7 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QColorDialog>
+#include <QDir>
 #include <QEventLoop>
 #include <QFileDialog>
 #include <QFontDatabase>
@@ -84,6 +85,17 @@ double PlateformeQt::Hasard()
 Chemin PlateformeQt::DossierProgramme()
 {
     return EnChemin(DepuisQString(QApplication::applicationDirPath()));
+}
+
+std::vector<Texte> PlateformeQt::Lecteurs()
+{
+    std::vector<Texte> lecteurs{u"/", DepuisQString(QDir::homePath())};
+    for (const char* montages : {"/media", "/mnt", "/run/media"}) {
+        const QDir racine{montages};
+        for (const auto& nom : racine.entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name))
+            lecteurs.push_back(DepuisQString(racine.filePath(nom)));
+    }
+    return lecteurs;
 }
 
 std::optional<EchecFichier> PlateformeQt::Réécrire(const Chemin& fichier, std::string_view contenu)

@@ -28,6 +28,7 @@ public:
     double Hasard() override;
 
     Chemin DossierProgramme() override;
+    std::vector<Texte> Lecteurs() override;
     std::optional<EchecFichier> Réécrire(const Chemin& fichier, std::string_view contenu) override;
     char16_t SéparateurDécimal() override;
 

@@ -352,16 +352,34 @@ TEST(Eléments, ListeDeDossiersDescendEtRemonte)
     EXPECT_EQ(changements, 2);
 }
 
-TEST(Eléments, LecteursCommencentParLaRacine)
+TEST(Eléments, LecteursSontCeuxDeLaMachine)
+{
+    Banc banc;
+    banc.plateforme.lecteurs = {u"/", u"/media/clé"};
+    auto& écran = banc.Ouvrir<Essai>();
+    EXPECT_EQ(écran.lecteurs.Lecteurs(), (std::vector<Texte>{u"/", u"/media/clé"}));
+    int changements = 0;
+    écran.lecteurs.Change = [&] { ++changements; };
+    écran.lecteurs.Choisir(2);
+    écran.lecteurs.Choisir(-1);
+    EXPECT_EQ(écran.lecteurs.Drive, u"");
+    EXPECT_EQ(changements, 0);
+    écran.lecteurs.Choisir(1);
+    EXPECT_EQ(écran.lecteurs.Drive, u"/media/clé");
+    EXPECT_EQ(changements, 1);
+    écran.lecteurs.Enabled = false;
+    écran.lecteurs.Choisir(0);
+    EXPECT_EQ(changements, 1);
+}
+
+TEST(Eléments, UnLecteurBranchéEntreTempsParaîtEnRafraîchissant)
 {
     Banc banc;
     auto& écran = banc.Ouvrir<Essai>();
-    ASSERT_FALSE(écran.lecteurs.Lecteurs().empty());
-    EXPECT_EQ(écran.lecteurs.Lecteurs().front(), u"/");
-    écran.lecteurs.Choisir(1000);
-    EXPECT_EQ(écran.lecteurs.Drive, u"");
-    écran.lecteurs.Choisir(0);
-    EXPECT_EQ(écran.lecteurs.Drive, u"/");
+    banc.plateforme.lecteurs.push_back(u"/media/clé");
+    EXPECT_EQ(écran.lecteurs.Lecteurs().size(), 1U);
+    écran.lecteurs.Refresh();
+    EXPECT_EQ(écran.lecteurs.Lecteurs().size(), 2U);
 }
 
 TEST(Eléments, BarreDOutilsDonneLaClé)

@@ -256,6 +256,14 @@ TEST_F(Attentes, LHeureEtLesDés)
     EXPECT_EQ(tirages.size(), 200U); // the clock has hardly moved
 }
 
+TEST_F(Attentes, LesLecteursCommencentParLaRacineEtLaMaison)
+{
+    const auto lecteurs = plateforme.Lecteurs();
+    ASSERT_GE(lecteurs.size(), 2U);
+    EXPECT_EQ(lecteurs[0], u"/");
+    EXPECT_EQ(lecteurs[1], DepuisUtf8(qgetenv("HOME").toStdString()));
+}
+
 TEST_F(Attentes, LesPolicesViennentAprèsLaPremièreImage)
 {
     std::vector<Texte> reçues;

@@ -538,10 +538,12 @@ TEST(GestionEleves, ChoisirUnDossierLEcritEtLeListe)
 TEST(GestionEleves, LecteurChoisiMontreSesDossiers)
 {
     Banc banc;
+    banc.Ecrire("clé/Zoé.bil", "");
+    banc.plateforme.lecteurs.push_back(DepuisChemin(banc.dossier / "clé"));
     auto& écran = banc.Ouvrir<frmGestionEleves>();
     écran.cmdCheminRéseau.Cliquer();
-    écran.drvLecteurs.Choisir(0);
-    EXPECT_EQ(écran.dirLecteurs.Path(), u"/");
+    écran.drvLecteurs.Choisir(1);
+    EXPECT_EQ(écran.dirLecteurs.Path(), DepuisChemin(banc.dossier / "clé"));
 }
 
 TEST(GestionEleves, LecteurVideEstIgnoré)

@@ -44,8 +44,18 @@ bool Correspond(VueTexte montré, VueTexte attendu)
 
 } // namespace
 
+void PlateformeEssai::AmorcerHasard()
+{
+    EXPECT_TRUE(amorcesLibres || !amorcé_) << "deux amorces pour un tirage";
+    amorcé_ = true;
+    ++amorces;
+}
+
 double PlateformeEssai::Hasard()
 {
+    EXPECT_TRUE(amorcesLibres || amorcé_) << "tirage sans amorce";
+    amorcé_ = false;
+    ++tirages;
     if (hasards.empty() && toujours)
         return toujours();
     return Prendre(hasards, "tirage");
@@ -60,14 +70,25 @@ std::optional<EchecFichier> PlateformeEssai::Réécrire(const Chemin& fichier, s
     return RéécrireFichier(fichier, contenu);
 }
 
+namespace {
+
+Réponse Refus(const Boîte& boîte)
+{
+    return boîte.Choix == Boutons::OuiNon      ? Réponse::Non
+           : boîte.Choix == Boutons::OkAnnuler ? Réponse::Annuler
+                                               : Réponse::Ok;
+}
+
+} // namespace
+
 Réponse PlateformeEssai::AfficherBoîte(const Boîte& boîte)
 {
+    if (terminé)
+        return Refus(boîte);
     boîtesMontrées.push_back(boîte);
     if (boîtes.empty()) {
         ADD_FAILURE() << "boîte qui n'a pas été annoncée : " << EnUtf8(boîte.Message);
-        return boîte.Choix == Boutons::OuiNon      ? Réponse::Non
-               : boîte.Choix == Boutons::OkAnnuler ? Réponse::Annuler
-                                                   : Réponse::Ok;
+        return Refus(boîte);
     }
     auto annoncée = std::move(boîtes.front());
     boîtes.pop_front();
@@ -83,30 +104,40 @@ Réponse PlateformeEssai::AfficherBoîte(const Boîte& boîte)
 
 std::optional<Texte> PlateformeEssai::DemanderFichierAOuvrir(const DialogueFichier& dialogue)
 {
+    if (terminé)
+        return std::nullopt;
     dialogues.push_back(dialogue);
     return Prendre(fichiers, "dialogue de fichier");
 }
 
 std::optional<Texte> PlateformeEssai::DemanderFichierAEnregistrer(const DialogueFichier& dialogue)
 {
+    if (terminé)
+        return std::nullopt;
     dialogues.push_back(dialogue);
     return Prendre(fichiers, "dialogue de fichier");
 }
 
 std::optional<Couleur> PlateformeEssai::DemanderCouleur(Couleur départ)
 {
+    if (terminé)
+        return std::nullopt;
     couleursProposées.push_back(départ);
     return Prendre(couleurs, "dialogue de couleur");
 }
 
 std::optional<ChoixPolice> PlateformeEssai::DemanderPolice(const ChoixPolice& départ)
 {
+    if (terminé)
+        return std::nullopt;
     policesProposées.push_back(départ);
     return Prendre(choixPolices, "dialogue de police");
 }
 
 bool PlateformeEssai::Imprimer(const TexteRiche& texte, const TexteRiche& sélection)
 {
+    if (terminé)
+        return false;
     imprimés.emplace_back(texte.Caractères(), sélection.Caractères());
     return Prendre(impressions, "dialogue d'impression");
 }
@@ -128,6 +159,8 @@ constexpr int Hauteur = 9000;
 
 void PlateformeEssai::AfficherModal(Ecran& écran)
 {
+    if (terminé || !écran.EstChargé())
+        return;
     écransMontrés.push_back(écran.Nom);
     écran.Dimensionner(Largeur, Hauteur);
     écran.Activer();
@@ -140,10 +173,17 @@ void PlateformeEssai::AfficherModal(Ecran& écran)
         if (écran.EstChargé() && type == typeid(écran).name())
             faire(écran);
     }
-    if (écran.EstChargé())
+    if (écran.EstChargé() && !terminé)
         écran.FermerParCroix();
-    if (écran.EstChargé())
+    if (écran.EstChargé() && !terminé)
         écran.Décharger();
+}
+
+// The windows go and the loops end; no screen is unloaded any more.
+void PlateformeEssai::Terminer()
+{
+    terminé = true;
+    échéances_.clear();
 }
 
 void PlateformeEssai::EcranFermé(Ecran& écran)
@@ -162,7 +202,7 @@ void PlateformeEssai::Repeindre(Ecran& écran)
 
 void PlateformeEssai::RéglerMinuterie(Timer& minuterie)
 {
-    if (minuterie.EnMarche())
+    if (minuterie.EnMarche() && !terminé)
         échéances_[&minuterie] = temps_ + minuterie.Interval / 1000.0;
     else
         échéances_.erase(&minuterie);
@@ -231,23 +271,37 @@ void PlateformeEssai::Avancer(std::chrono::milliseconds durée)
 bool PlateformeEssai::Attendre(Ecran& écran, std::chrono::milliseconds durée)
 {
     const double limite = temps_ + Secondes(durée);
-    while (écran.EstChargé() && Suivant(limite + Marge, false)) {
+    while (Vit(écran) && Suivant(limite + Marge, false)) {
     }
-    if (écran.EstChargé())
+    if (Vit(écran))
         Passer(std::max(limite, temps_));
-    return écran.EstChargé();
+    return Vit(écran);
 }
 
 bool PlateformeEssai::AttendreArrêt(Timer& minuterie)
 {
     auto& écran = minuterie.EcranDe();
-    while (écran.EstChargé() && minuterie.EnMarche()) {
+    while (Vit(écran) && minuterie.EnMarche()) {
         if (!Suivant(std::numeric_limits<double>::max(), true)) {
             ADD_FAILURE() << "attente sans fin de " << minuterie.Nom;
-            return écran.EstChargé();
+            break;
         }
     }
-    return écran.EstChargé();
+    return Vit(écran);
+}
+
+void PlateformeEssai::VérifierFin() const
+{
+    EXPECT_TRUE(hasards.empty()) << hasards.size() << " tirages annoncés de trop";
+    EXPECT_TRUE(amorcesLibres || !amorcé_) << "amorce sans tirage";
+    for (const auto& boîte : boîtes)
+        ADD_FAILURE() << "boîte annoncée jamais montrée : " << EnUtf8(boîte.Message);
+    EXPECT_TRUE(fichiers.empty()) << "dialogue de fichier annoncé jamais montré";
+    EXPECT_TRUE(couleurs.empty()) << "dialogue de couleur annoncé jamais montré";
+    EXPECT_TRUE(choixPolices.empty()) << "dialogue de police annoncé jamais montré";
+    EXPECT_TRUE(impressions.empty()) << "dialogue d'impression annoncé jamais montré";
+    EXPECT_TRUE(modaux.empty()) << "écran annoncé jamais montré";
+    EXPECT_TRUE(actions_.empty()) << actions_.size() << " actions prévues jamais faites";
 }
 
 // ---- The bench ---------------------------------------------------------------------------------------------------
@@ -267,6 +321,7 @@ Chemin DossierNeuf()
 Banc::Banc() : application(plateforme), état(application.état), dossier(DossierNeuf())
 {
     plateforme.dossier = dossier;
+    plateforme.lecteurs = {DepuisChemin(dossier)};
     état.CheminAppli = DepuisChemin(dossier);
     état.CheminBilans = état.CheminAppli;
     RemplirTable(application);
@@ -274,15 +329,13 @@ Banc::Banc() : application(plateforme), état(application.état), dossier(Dossie
 
 Banc::~Banc()
 {
-    for (auto écran = écrans_.rbegin(); écran != écrans_.rend(); ++écran)
-        (*écran)->Décharger();
-    if (choix_)
-        choix_->Décharger();
-    EXPECT_TRUE(plateforme.hasards.empty()) << plateforme.hasards.size() << " tirages annoncés de trop";
-    for (const auto& boîte : plateforme.boîtes)
-        ADD_FAILURE() << "boîte annoncée jamais montrée : " << EnUtf8(boîte.Message);
-    EXPECT_TRUE(plateforme.fichiers.empty()) << "dialogue de fichier annoncé jamais montré";
-    EXPECT_TRUE(plateforme.modaux.empty()) << "écran annoncé jamais montré";
+    if (!plateforme.terminé) {
+        for (auto écran = écrans_.rbegin(); écran != écrans_.rend(); ++écran)
+            (*écran)->Décharger();
+        if (choix_)
+            choix_->Décharger();
+    }
+    plateforme.VérifierFin();
     std::error_code ignorée;
     std::filesystem::remove_all(dossier, ignorée);
 }

@@ -1,5 +1,7 @@
 // The test platform: a virtual clock, dice, boxes and dialogs that the test has announced, and a folder of its own.
-// A draw, a box or a dialog that was not announced fails the test, and so does one announced that never came.
+// A draw, a box or a dialog that was not announced fails the test, and so does one announced that never came, an action
+// planned that was never due, and a draw that isn't seeded once. After `Terminer` nothing is shown, asked or waited
+// for.
 #pragma once
 #include "core/Application.h"
 #include "core/Ecran.h"
@@ -34,9 +36,10 @@ void PrintTo(Couleur couleur, std::ostream* flux);
 class PlateformeEssai final : public Plateforme {
 public:
     double Horloge() override { return heure_; }
-    void AmorcerHasard() override {}
+    void AmorcerHasard() override;
     double Hasard() override;
     Chemin DossierProgramme() override { return dossier; }
+    std::vector<Texte> Lecteurs() override { return lecteurs; }
     std::optional<EchecFichier> Réécrire(const Chemin& fichier, std::string_view contenu) override;
     char16_t SéparateurDécimal() override { return séparateur; }
     Réponse AfficherBoîte(const Boîte& boîte) override;
@@ -51,7 +54,7 @@ public:
     double LargeurTexte(const Texte& texte, double taille) override;
     void AfficherModal(Ecran& écran) override;
     void EcranFermé(Ecran& écran) override;
-    void Terminer() override { terminé = true; }
+    void Terminer() override;
     void Repeindre(Ecran& écran) override;
     [[nodiscard]] bool Attendre(Ecran& écran, std::chrono::milliseconds durée) override;
     [[nodiscard]] bool AttendreArrêt(Timer& minuterie) override;
@@ -68,8 +71,10 @@ public:
     Chemin dossier;
     char16_t séparateur = u',';
     std::vector<Texte> polices{u"Comic Sans MS"};
+    std::vector<Texte> lecteurs; // the bench's folder alone
     std::deque<double> hasards;
     std::function<double()> toujours; // a draw for ever, for the tests that don't mind which
+    bool amorcesLibres = false;       // for the rules that don't seed once before each draw
     std::deque<BoîteAnnoncée> boîtes;
     std::deque<std::optional<Texte>> fichiers; // answers of the file dialogs
     std::deque<std::optional<Couleur>> couleurs;
@@ -86,6 +91,8 @@ public:
     std::vector<Couleur> couleursProposées;        // what the dialogs started with
     std::vector<ChoixPolice> policesProposées;
     Texte pressePapiers;
+    int amorces = 0; // seeds of the dice
+    int tirages = 0; // draws
     int repeints = 0;
     std::function<void(Ecran&)> auRepeint; // looks at what is painted
     bool terminé = false;
@@ -95,6 +102,8 @@ public:
     void Avancer(std::chrono::milliseconds durée);
     // Plans an action that long from now: also during waits.
     void Prévoir(std::chrono::milliseconds délai, std::function<void()> action);
+    // Fails the test for each answer and action that was announced and never used, and for a seed without its draw.
+    void VérifierFin() const;
 
 private:
     struct Action {
@@ -103,8 +112,11 @@ private:
     };
     // Runs what is due first up to `limite`; false when nothing is. Ticks wait while `minuteries` is false.
     bool Suivant(double limite, bool minuteries);
+    // What waits for this screen goes on.
+    [[nodiscard]] bool Vit(const Ecran& écran) const { return écran.EstChargé() && !terminé; }
     void Passer(double temps);
 
+    bool amorcé_ = false;
     double heure_ = 36000; // ten o'clock
     double temps_ = 0;     // seconds since the start of the test
     std::vector<Action> actions_;
