@@ -1,5 +1,6 @@
 #include "authoring/FichiersRécents.h"
 
+#include "core/frmTirelune.h"
 #include "tests/support/Banc.h"
 
 namespace tirelune {

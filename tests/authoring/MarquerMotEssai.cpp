@@ -1,6 +1,7 @@
 #include "authoring/MarquerMot.h"
 
 #include "core/EcrivainRtf.h"
+#include "followup/frmExercices.h"
 #include "tests/support/Banc.h"
 #include "tests/support/EcranTexte.h"
 

@@ -1,5 +1,6 @@
 #include "exercises/TirageVocabulaire.h"
 
+#include "followup/frmExercices.h"
 #include "tests/support/Mots.h"
 
 namespace tirelune {

@@ -3,6 +3,7 @@
 #include "core/FichierChamps.h"
 #include "followup/FichierBilan.h"
 #include "followup/GrilleRésultats.h"
+#include "followup/frmExercices.h"
 #include "tests/support/Banc.h"
 
 #include <array>

@@ -1,5 +1,6 @@
 #include "followup/Notes.h"
 
+#include "followup/frmExercices.h"
 #include "tests/support/Banc.h"
 
 namespace tirelune {

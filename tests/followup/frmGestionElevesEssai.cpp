@@ -1,6 +1,7 @@
 #include "followup/frmGestionEleves.h"
 
 #include "core/FichierChamps.h"
+#include "followup/frmExercices.h"
 #include "tests/support/Banc.h"
 
 namespace tirelune {

@@ -3,6 +3,7 @@
 #include "TableEcrans.h"
 #include "core/FichierChamps.h"
 #include "core/Fichiers.h"
+#include "followup/frmExercices.h"
 
 #include <algorithm>
 #include <cstdlib>

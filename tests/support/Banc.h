@@ -5,8 +5,6 @@
 #pragma once
 #include "core/Application.h"
 #include "core/Ecran.h"
-#include "core/frmTirelune.h"
-#include "followup/frmExercices.h"
 
 #include <gtest/gtest.h>
 
@@ -21,6 +19,8 @@
 #include <vector>
 
 namespace tirelune {
+
+class frmExercices;
 
 using namespace std::chrono_literals;
 

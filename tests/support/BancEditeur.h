@@ -1,6 +1,7 @@
 // The teacher's editor on the bench, opened from a first screen of its own.
 #pragma once
 #include "authoring/frmEnseignant.h"
+#include "core/frmTirelune.h"
 #include "tests/support/Banc.h"
 
 #include <fstream>
