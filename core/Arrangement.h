@@ -65,6 +65,11 @@ struct Pile : Arrangement {
 struct Ressort : Arrangement {
     Ressort() : Arrangement(Disposition::Ressort, std::vector<Arrangement>{}) { Etirement = 1; }
 };
+// Side by side in the middle of the place, each as wide as what it shows: letters, for example.
+struct Rangée : Ligne {
+    template <class T>
+    explicit Rangée(Tableau<T>& éléments);
+};
 struct Centré : Arrangement {
     Centré(Arrangement un) : Arrangement(Disposition::Centré, {std::move(un)}) {} // NOLINT(google-explicit-constructor)
 };

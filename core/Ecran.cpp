@@ -1,6 +1,7 @@
 #include "core/Ecran.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace tirelune {
 
@@ -94,8 +95,21 @@ void Ecran::Décharger()
 
 void Ecran::PrendreFocus(Elément& élément)
 {
-    focus_ = &élément;
-    Changer();
+    FocusVenu(élément);
+    if (FocusDemandé)
+        FocusDemandé();
+}
+
+void Ecran::FocusVenu(Elément& élément)
+{
+    if (focus_ == &élément)
+        return;
+    const auto* avant = std::exchange(focus_, &élément);
+    if (avant != nullptr && chargé_ && avant->LostFocus)
+        avant->LostFocus();
+    // What has just been left may have closed the screen, or sent the keyboard elsewhere.
+    if (focus_ == &élément && chargé_ && élément.GotFocus)
+        élément.GotFocus();
 }
 
 void Ecran::Avertir(Texte message, Texte titre)

@@ -33,7 +33,9 @@ public:
     // Filled rectangles and lines behind the elements, in a scale of their own: see Dessin.
     Propriété<Dessin> Fond{*this, Dessin{}};
 
+    // Set by who draws the screen: something of it has changed; the keyboard is to go to the element of Focus.
     std::function<void()> Observateur;
+    std::function<void()> FocusDemandé;
 
     // Loads the screen, shows it above the others and comes back when it is closed.
     void Afficher();
@@ -59,8 +61,10 @@ public:
     [[nodiscard]] const std::vector<Timer*>& Minuteries() const { return minuteries_; }
     // The frames that hide all the rest while they are visible: as large as the screen.
     [[nodiscard]] const std::vector<Elément*>& Couvertures() const { return couvertures_; }
+    // The element that has the keyboard, as far as the screen or the user has said.
     [[nodiscard]] Elément* Focus() const { return focus_; }
     void PrendreFocus(Elément& élément);
+    void FocusVenu(Elément& élément);
 
     void Inscrire(Elément& élément) { éléments_.push_back(&élément); }
     void Inscrire(Timer& minuterie) { minuteries_.push_back(&minuterie); }
@@ -110,6 +114,13 @@ template <class T>
 std::vector<Arrangement> EnPlaces(Tableau<T>& éléments)
 {
     return {éléments.begin(), éléments.end()};
+}
+template <class T>
+Rangée::Rangée(Tableau<T>& éléments) : Ligne{Ressort{}}
+{
+    for (auto& un : éléments)
+        Enfants.emplace_back(un);
+    Enfants.emplace_back(Ressort{});
 }
 template <class T>
 Ligne::Ligne(Tableau<T>& éléments) : Arrangement(Disposition::Ligne, EnPlaces(éléments))

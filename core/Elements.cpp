@@ -20,7 +20,7 @@ Elément::Elément(Ecran& écran, std::string_view nom, const EtatInitial& initi
       ForeColor(*this, initial.ForeColor),
       FontSize(*this, initial.FontSize),
       Police(*this, initial.Police),
-      Gras(initial.Gras),
+      Gras(*this, initial.Gras),
       écran_(écran)
 {
     écran.Inscrire(*this);
@@ -45,6 +45,12 @@ bool Elément::EstAtteignable() const
 void Elément::SetFocus()
 {
     écran_.PrendreFocus(*this);
+}
+
+void Elément::RecevoirFocus()
+{
+    if (Enabled && EstAtteignable())
+        écran_.FocusVenu(*this);
 }
 
 void Elément::Refresh()

@@ -12,6 +12,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace tirelune {
@@ -34,6 +35,7 @@ struct EtatInitial {
     bool Sorted = false;      // of lists
     bool Saisie = false;      // of a combo box: values may be typed
     bool MultiLine = false;   // of a text box
+    bool UneLigne = false;    // of a rich text box: as high as its first line, which never breaks
     bool PourFichier = false; // of a text box: holds only what a field file can hold
     std::size_t MaxLength = 0;
     char16_t PasswordChar = 0;
@@ -84,15 +86,21 @@ public:
     Propriété<Couleur> ForeColor;
     Propriété<double> FontSize;
     Propriété<Texte> Police; // empty: the program's own font
-    const bool Gras;
+    Propriété<bool> Gras;
+    // In a Libre: stands over another element, in its place and size, wherever that one is.
+    Propriété<const Elément*> PoséSur{*this, nullptr};
     Texte Tag; // a mark of the screen's own; nobody draws it
 
+    std::function<void()> GotFocus; // the keyboard has come to the element
+    std::function<void()> LostFocus;
     std::function<void()> Observateur; // set by who draws the element
 
     [[nodiscard]] Ecran& EcranDe() const { return écran_; }
     // Visible, in visible frames, and under no frame that covers the screen.
     [[nodiscard]] bool EstAtteignable() const;
     void SetFocus();
+    // The user goes to the element, by Tab or by the mouse.
+    void RecevoirFocus();
     // Paints the screen's changes now.
     void Refresh();
 
@@ -450,11 +458,15 @@ public:
     auto begin() { return éléments_.begin(); }
     auto end() { return éléments_.end(); }
 
-    void Click(const std::function<void(int)>& clic)
+    // Binds the same event of all: what it calls gets the index first.
+    template <class E, class... Arguments, class Suite>
+    void Relier(std::function<void(Arguments...)> E::*événement, Suite suite)
     {
         for (int i = 0; i < Nombre(); ++i)
-            (*this)(i).Click = [clic, i] { clic(i); };
+            (*this)(i).*
+                événement = [suite, i](Arguments... arguments) { suite(i, std::forward<Arguments>(arguments)...); };
     }
+    void Click(const std::function<void(int)>& clic) { Relier(&T::Click, clic); }
 
 private:
     static std::string NomIndexé(std::string_view nom, int i)

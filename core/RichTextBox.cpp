@@ -19,7 +19,8 @@ void Appeler(const std::function<void()>& événement)
 
 } // namespace
 
-RichTextBox::RichTextBox(Ecran& écran, std::string_view nom, const EtatInitial& initial) : Elément(écran, nom, initial)
+RichTextBox::RichTextBox(Ecran& écran, std::string_view nom, const EtatInitial& initial)
+    : Elément(écran, nom, initial), UneLigne(initial.UneLigne)
 {
 }
 

@@ -52,10 +52,13 @@ Etiquette::Etiquette(QWidget* parent) : QLabel(parent)
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
 }
 
-void Etiquette::RendreCliquable()
+void Etiquette::RendreCliquable(bool cliquable)
 {
-    setFocusPolicy(Qt::TabFocus); // a click leaves the keyboard where it is
-    setAttribute(Qt::WA_InputMethodEnabled);
+    cliquable_ = cliquable;
+    setFocusPolicy(cliquable ? Qt::TabFocus : Qt::NoFocus); // a click leaves the keyboard where it is
+    setAttribute(Qt::WA_InputMethodEnabled, cliquable);
+    updateGeometry();
+    update();
 }
 
 int Etiquette::Drapeaux() const
@@ -66,7 +69,7 @@ int Etiquette::Drapeaux() const
 
 int Etiquette::Marge() const
 {
-    return bordure || fond.isValid() || clic ? std::max(4, font().pixelSize() / 4) : 1;
+    return bordure || fond.isValid() || cliquable_ ? std::max(4, font().pixelSize() / 4) : 1;
 }
 
 // Long runs of blanks stand for line ends: they push what follows to the next line.
@@ -117,7 +120,7 @@ void Etiquette::paintEvent(QPaintEvent* /*événement*/)
     QPainter peintre{this};
     peintre.setRenderHint(QPainter::Antialiasing);
     const auto place = QRectF{rect()}.adjusted(0.5, 0.5, -0.5, -0.5);
-    const bool arrondie = clic && !enLigne;
+    const bool arrondie = cliquable_ && !enLigne;
     const int coin = arrondie ? Coin : 0;
     if (fond.isValid()) {
         peintre.setPen(bordure || arrondie ? QPen{Teinte::BordPanneau} : QPen{Qt::NoPen});
@@ -131,7 +134,7 @@ void Etiquette::paintEvent(QPaintEvent* /*événement*/)
     }
     const int marge = Marge();
     PeindreContenu(peintre, rect().adjusted(marge, marge / 2, -marge, -(marge / 2)));
-    if (survolée_ && clic && isEnabled()) {
+    if (survolée_ && cliquable_ && isEnabled()) {
         peintre.setPen(QPen{Teinte::BordBouton, 2});
         peintre.setBrush(Qt::NoBrush);
         peintre.drawRoundedRect(place.adjusted(0.5, 0.5, -0.5, -0.5), Coin, Coin);
@@ -160,7 +163,7 @@ void Etiquette::PeindreContenu(QPainter& peintre, const QRect& place)
 
 void Etiquette::mousePressEvent(QMouseEvent* événement)
 {
-    if (!clic || événement->button() != Qt::LeftButton) {
+    if (!cliquable_ || événement->button() != Qt::LeftButton) {
         événement->ignore();
         return;
     }
@@ -174,7 +177,7 @@ void Etiquette::mouseReleaseEvent(QMouseEvent* événement)
         return;
     }
     pressée_ = false;
-    if (clic && rect().contains(événement->position().toPoint()))
+    if (cliquable_ && rect().contains(événement->position().toPoint()))
         clic();
 }
 
@@ -187,7 +190,7 @@ void Etiquette::keyPressEvent(QKeyEvent* événement)
 {
     const bool touche =
         événement->key() == Qt::Key_Space || événement->key() == Qt::Key_Return || événement->key() == Qt::Key_Enter;
-    if (clic && choisie_ && touche && !événement->isAutoRepeat())
+    if (cliquable_ && choisie_ && touche && !événement->isAutoRepeat())
         clic();
     else
         événement->ignore();
@@ -196,7 +199,7 @@ void Etiquette::keyPressEvent(QKeyEvent* événement)
 void Etiquette::enterEvent(QEnterEvent* événement)
 {
     survolée_ = true;
-    if (clic)
+    if (cliquable_)
         update();
     QLabel::enterEvent(événement);
 }
@@ -204,7 +207,7 @@ void Etiquette::enterEvent(QEnterEvent* événement)
 void Etiquette::leaveEvent(QEvent* événement)
 {
     survolée_ = false;
-    if (clic)
+    if (cliquable_)
         update();
     QLabel::leaveEvent(événement);
 }
@@ -351,7 +354,7 @@ void Panneau::paintEvent(QPaintEvent* /*événement*/)
 
 void Panneau::mousePressEvent(QMouseEvent* événement)
 {
-    if ((!clic && !début) || événement->button() != Qt::LeftButton) {
+    if ((!cliquable && !traînable) || événement->button() != Qt::LeftButton) {
         événement->ignore();
         return;
     }
@@ -363,7 +366,7 @@ void Panneau::mousePressEvent(QMouseEvent* événement)
 
 void Panneau::mouseMoveEvent(QMouseEvent* événement)
 {
-    if (!pressé_ || !début) {
+    if (!pressé_ || !traînable) {
         événement->ignore();
         return;
     }
@@ -390,9 +393,8 @@ void Panneau::mouseReleaseEvent(QMouseEvent* événement)
     if (traîné_) {
         const auto lieu = événement->globalPosition().toPoint();
         move(départ_); // the drop decides where the panel goes
-        if (dépôt)
-            dépôt(mapFromGlobal(lieu));
-    } else if (clic && rect().contains(événement->position().toPoint())) {
+        dépôt(mapFromGlobal(lieu));
+    } else if (cliquable && rect().contains(événement->position().toPoint())) {
         clic();
     }
 }

@@ -24,19 +24,20 @@ private:
     QFont police_;
 };
 
-// A caption; a button without its looks when it can be clicked.
+// A caption; a button without its looks when it can be clicked. Else the mouse goes through to what holds it.
 class Etiquette : public QLabel {
 public:
     explicit Etiquette(QWidget* parent);
 
-    std::function<void()> clic; // empty: the mouse goes through to what holds the caption
+    std::function<void()> clic;
     QColor fond;
     QColor encre;
     bool bordure = false;
     bool centrée = false;
     bool enLigne = false; // never broken into lines
 
-    void RendreCliquable();
+    void RendreCliquable(bool cliquable);
+    [[nodiscard]] bool EstCliquable() const { return cliquable_; }
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override;
     [[nodiscard]] bool hasHeightForWidth() const override;
@@ -59,6 +60,7 @@ private:
     [[nodiscard]] int Drapeaux() const;
     [[nodiscard]] int Marge() const;
 
+    bool cliquable_ = false;
     bool pressée_ = false;
     bool survolée_ = false;
     bool choisie_ = false; // by the keyboard's user, not by the toolkit that needs some widget to start with
@@ -106,8 +108,10 @@ public:
     QColor fond;
     QColor encre;
     bool couvrant = false; // over the whole screen: no corners, no look through
+    bool cliquable = false;
+    bool traînable = false;
     std::function<void()> clic;
-    // Of a panel that can be dragged: the first movement, and the drop; both in pixels inside the panel.
+    // The first movement, and the drop; both in pixels inside the panel.
     std::function<void(QPoint)> début;
     std::function<void(QPoint)> dépôt;
 

@@ -13,6 +13,7 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <utility>
 
 namespace tirelune {
 
@@ -78,24 +79,15 @@ void Fenêtre::Observer()
     sales_.clear();
     for (const auto& vue : vues_)
         sales_.push_back(vue.get());
-    légendeVue_ = écran_.Caption;
-    fondVu_ = écran_.BackColor;
-    focusVu_ = nullptr;
     focusDemandé_ = écran_.Focus() != nullptr;
     écran_.Observateur = [this] {
-        const bool change = légendeVue_ != écran_.Caption() || fondVu_ != écran_.BackColor() ||
-                            dessinVu_ != écran_.Fond().Formes.empty();
-        légendeVue_ = écran_.Caption;
-        fondVu_ = écran_.BackColor;
-        dessinVu_ = écran_.Fond().Formes.empty();
-        if (!change || focusVu_ != écran_.Focus())
-            focusDemandé_ = écran_.Focus() != nullptr;
-        focusVu_ = écran_.Focus();
         écranSale_ = true;
         Réveiller();
     };
-    dessinVu_ = écran_.Fond().Formes.empty();
-    focusVu_ = écran_.Focus();
+    écran_.FocusDemandé = [this] {
+        focusDemandé_ = true;
+        Réveiller();
+    };
 }
 
 void Fenêtre::Ouvrir()
@@ -129,6 +121,7 @@ void Fenêtre::Fermer()
         return;
     fermée_ = true;
     écran_.Observateur = nullptr;
+    écran_.FocusDemandé = nullptr;
     for (const auto& vue : vues_)
         vue->élément.Observateur = nullptr;
     hide();
@@ -199,6 +192,8 @@ void Fenêtre::Synchroniser()
     réveillée_ = false;
     if (fermée_)
         return;
+    const bool dedans = std::exchange(enSynchro_, true);
+    RevoirVues();
     if (écranSale_)
         SynchroniserFenêtre();
     bool couvertures = !ouverte_;
@@ -213,17 +208,55 @@ void Fenêtre::Synchroniser()
         contenu_.MontrerCouvertures();
     if (menus_ != nullptr)
         menus_->Ajuster(échelle_, width());
-    if (!ouverte_)
+    if (ouverte_) {
+        if (auto* plan = contenu_.Plan().layout(); plan != nullptr)
+            plan->activate();
+        PlacerPosés();
+        NoterGéométrie();
+        if (focusDemandé_)
+            DonnerFocus();
+    }
+    enSynchro_ = dedans;
+    if (!ouverte_ || dedans)
         return;
-    if (auto* plan = contenu_.Plan().layout(); plan != nullptr)
-        plan->activate();
-    NoterGéométrie();
-    if (focusDemandé_)
-        DonnerFocus();
-    if (tailleChangée_) {
+    if (std::exchange(focusÀNoter_, false))
+        NoterFocus();
+    if (tailleChangée_ && !fermée_) {
         tailleChangée_ = false;
         écran_.Dimensionner(Twips(contenu_.width()), Twips(contenu_.height()));
     }
+}
+
+void Fenêtre::RevoirVues()
+{
+    bool arrêts = false;
+    for (const auto& vue : vues_)
+        arrêts = vue->Revoir() || arrêts;
+    if (arrêts)
+        OrdonnerTabulation();
+}
+
+void Fenêtre::PlacerPosés()
+{
+    const auto posé = [](const auto& vue) {
+        return vue->placeur != nullptr && vue->élément.PoséSur() != nullptr && vue->élément.Visible;
+    };
+    if (std::none_of(vues_.begin(), vues_.end(), posé))
+        return;
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest); // what they stand over goes to its place first
+    for (const auto& vue : vues_) {
+        if (posé(vue))
+            vue->placeur->Placer(*vue);
+    }
+}
+
+void Fenêtre::NoterFocus()
+{
+    focusÀNoter_ = enSynchro_;
+    if (enSynchro_ || fermée_ || !isActiveWindow())
+        return;
+    if (const auto* vue = vues_.VueDuWidget(focusWidget()); vue != nullptr)
+        vue->élément.RecevoirFocus();
 }
 
 void Fenêtre::SynchroniserFenêtre()
@@ -260,13 +293,8 @@ void Fenêtre::DonnerFocus()
 void Fenêtre::NoterGéométrie()
 {
     for (const auto& vue : vues_) {
-        if (vue->widget == nullptr || vue->placeur != nullptr)
-            continue;
-        const auto place = vue->widget->geometry();
-        vue->élément.Left.Noter(Twips(place.x()));
-        vue->élément.Top.Noter(Twips(place.y()));
-        vue->élément.Width.Noter(Twips(place.width()));
-        vue->élément.Height.Noter(Twips(place.height()));
+        if (vue->widget != nullptr && vue->placeur == nullptr)
+            vue->NoterPlace(vue->widget->geometry());
     }
 }
 

@@ -34,13 +34,14 @@ public:
     [[nodiscard]] Ecran& EcranDe() const { return écran_; }
     [[nodiscard]] int Pixels(int twips) const;
     [[nodiscard]] int Twips(int pixels) const;
-    [[nodiscard]] Vue* VueDe(const Elément& élément) const { return vues_.VueDe(élément); }
     [[nodiscard]] QWidget* Plan() const;
 
     // Sets all that is marked, once.
     void Synchroniser();
     // Synchroniser, and paints now.
     void Repeindre();
+    // The keyboard may have gone to another widget.
+    void NoterFocus();
     // Keys go to the screen first, then to the element. True: swallowed.
     bool Filtrer(QObject* visé, QEvent* événement);
 
@@ -48,6 +49,7 @@ public:
     [[nodiscard]] bool Fermée() const override { return fermée_; }
     [[nodiscard]] double Echelle() const override { return échelle_; }
     void Marquer(Vue& vue) override;
+    [[nodiscard]] Vue* VueDe(const Elément& élément) const override { return vues_.VueDe(élément); }
     [[nodiscard]] Chute TomberEn(QPoint global) const override;
 
 protected:
@@ -62,6 +64,8 @@ private:
     void TailleChangée();
     void ChangerEchelle(double nouvelle);
     void SynchroniserFenêtre();
+    void RevoirVues();
+    void PlacerPosés();
     void NoterGéométrie(); // writes back where the elements stand
     void DonnerFocus();
     void Réveiller(); // asks for Synchroniser before the next events
@@ -81,11 +85,8 @@ private:
     bool écranSale_ = true;
     bool tailleChangée_ = false;
     bool focusDemandé_ = false;
-    // What the screen last said of itself: another notice with all this unchanged asks for the focus.
-    Texte légendeVue_;
-    Couleur fondVu_;
-    bool dessinVu_ = false;
-    const Elément* focusVu_ = nullptr;
+    bool enSynchro_ = false;
+    bool focusÀNoter_ = false; // it has moved while the views were set
 };
 
 } // namespace tirelune

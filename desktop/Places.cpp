@@ -102,15 +102,31 @@ void PlacementLibre::Ajouter(Vue& vue)
 
 void PlacementLibre::Placer(Vue& vue)
 {
+    if (const auto* dessous = vue.élément.PoséSur(); dessous != nullptr) {
+        if (const auto* autre = hôte_.VueDe(*dessous); autre != nullptr && autre->widget != nullptr)
+            PoserSur(vue, *autre->widget);
+        return;
+    }
     vue.widget->setGeometry(vue.PlaceLibre().translated(Coin()));
     vue.NoterTailleLibre();
+}
+
+void PlacementLibre::PoserSur(Vue& vue, const QWidget& dessous)
+{
+    auto& dessus = *vue.widget;
+    const QRect place{dessus.parentWidget()->mapFromGlobal(dessous.mapToGlobal(QPoint{0, 0})), dessous.size()};
+    dessus.setGeometry(place);
+    dessus.raise();
+    vue.NoterPlace(place.translated(-Coin()));
 }
 
 QSize PlacementLibre::sizeHint() const
 {
     QRect tout;
-    for (const auto* vue : vues_)
-        tout |= vue->PlaceLibre();
+    for (const auto* vue : vues_) {
+        if (vue->élément.PoséSur() == nullptr)
+            tout |= vue->PlaceLibre();
+    }
     return {tout.right() + 1, tout.bottom() + 1};
 }
 

@@ -51,6 +51,8 @@ public:
     void setGeometry(const QRect& place) override;
 
 private:
+    void PoserSur(Vue& vue, const QWidget& dessous);
+
     const Hôte& hôte_;
     std::vector<Vue*> vues_;
 };

@@ -53,6 +53,7 @@ PlateformeQt::PlateformeQt()
 {
     AmorcerHasard();
     qApp->installEventFilter(this);
+    QObject::connect(qApp, &QApplication::focusChanged, this, [this] { FocusChangé(); });
 }
 
 PlateformeQt::~PlateformeQt()
@@ -411,15 +412,20 @@ void PlateformeQt::Battre(Timer& minuterie)
 
 void PlateformeQt::RendreRetardées()
 {
-    if (retardées_.empty())
-        return;
     QTimer::singleShot(0, this, [this] {
+        FocusChangé(); // it may have gone elsewhere meanwhile
         while (!retardées_.empty() && !entréeJetée_) {
             auto& minuterie = **retardées_.begin();
             retardées_.erase(retardées_.begin());
             Battre(minuterie);
         }
     });
+}
+
+void PlateformeQt::FocusChangé()
+{
+    if (auto* devant = Devant(); devant != nullptr && !entréeJetée_)
+        devant->NoterFocus();
 }
 
 // ---- Input -----------------------------------------------------------------------------------------------------

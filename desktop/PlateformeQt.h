@@ -80,6 +80,7 @@ private:
     void Désarmer(Timer& minuterie);
     void Battre(Timer& minuterie);
     void RendreRetardées();
+    void FocusChangé();
     void ListerPolices();
 
     std::mt19937_64 dés_;

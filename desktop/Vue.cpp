@@ -73,6 +73,14 @@ void Vue::NoterTailleLibre()
     élément.Height.Noter(taille.height());
 }
 
+void Vue::NoterPlace(const QRect& place)
+{
+    élément.Left.Noter(Twips(place.x()));
+    élément.Top.Noter(Twips(place.y()));
+    élément.Width.Noter(Twips(place.width()));
+    élément.Height.Noter(Twips(place.height()));
+}
+
 void Vue::Synchroniser()
 {
     const double agrandissement = placeur != nullptr ? placeur->EchelleDesPlaces() : hôte_.Echelle();

@@ -21,6 +21,7 @@ public:
     [[nodiscard]] virtual double Echelle() const = 0;
     // The view waits for its turn to be synced.
     virtual void Marquer(Vue& vue) = 0;
+    [[nodiscard]] virtual Vue* VueDe(const Elément& élément) const = 0;
     // Where something falls that is dropped at a point of the display: on a rich text, or on the screen (no target);
     // in pixels inside it.
     struct Chute {
@@ -62,12 +63,17 @@ public:
     virtual void Synchroniser();
     // At once when the element changes; the rest waits for Synchroniser.
     virtual void Remarquer() {}
+    // A handler that was bound or taken away since gives no notice: looked at before each click and key. True: the
+    // keyboard now stops here, or doesn't any more.
+    virtual bool Revoir() { return false; }
     // A key typed on the widget. False: thrown away.
     virtual bool Taper(const Touche& /*touche*/) { return true; }
     // The place that the rules have computed. Where they have said nothing of a size, the widget's own counts.
     [[nodiscard]] QRect PlaceLibre() const;
-    // Tells the element the sizes that are the widget's own.
+    // Tells the element the sizes that are the widget's own...
     void NoterTailleLibre();
+    // ...or the place where the widget stands, whoever has put it there.
+    void NoterPlace(const QRect& place);
 
 protected:
     Hôte& hôte_;

@@ -16,6 +16,7 @@
 #include <QTextLayout>
 
 #include <algorithm>
+#include <cmath>
 #include <utility>
 
 namespace tirelune {
@@ -59,8 +60,27 @@ public:
         viewport()->setCursor(verrouillée ? Qt::ArrowCursor : Qt::IBeamCursor);
     }
 
-    [[nodiscard]] QSize sizeHint() const override { return {font().pixelSize() * 24, font().pixelSize() * 12}; }
-    [[nodiscard]] QSize minimumSizeHint() const override { return {font().pixelSize() * 8, font().pixelSize() * 4}; }
+    // What lies below the first line is out of sight.
+    void MettreEnLigne()
+    {
+        static constexpr double Marge = 3;
+        document()->setDocumentMargin(Marge);
+        setLineWrapMode(NoWrap);
+        setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+        setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+        // Letters may be of any size.
+        QObject::connect(document()->documentLayout(), &QAbstractTextDocumentLayout::documentSizeChanged, this,
+                         [this] { updateGeometry(); });
+    }
+
+    [[nodiscard]] QSize sizeHint() const override
+    {
+        return {font().pixelSize() * 24, vue_.boîte_.UneLigne ? HauteurLigne() : font().pixelSize() * 12};
+    }
+    [[nodiscard]] QSize minimumSizeHint() const override
+    {
+        return {font().pixelSize() * 8, vue_.boîte_.UneLigne ? HauteurLigne() : font().pixelSize() * 4};
+    }
 
     // The character under the point; right of a line, its end.
     [[nodiscard]] int CaractèreSous(QPoint lieu) const
@@ -139,6 +159,10 @@ protected:
             return;
         }
         const bool entrée = événement->key() == Qt::Key_Return || événement->key() == Qt::Key_Enter;
+        if (entrée && vue_.boîte_.UneLigne) {
+            événement->ignore();
+            return;
+        }
         if (entrée && événement->modifiers() != Qt::NoModifier) {
             textCursor().insertBlock(); // one kind of line end only
             ensureCursorVisible();
@@ -154,6 +178,8 @@ protected:
         texte.replace(QChar{0x202F}, u' ').replace(QChar{0x2009}, u' ');
         texte.replace(QStringLiteral("\r\n"), QStringLiteral("\n")).replace(u'\r', u'\n');
         texte.remove(QChar{GlypheMasque});
+        if (vue_.boîte_.UneLigne)
+            texte.replace(u'\n', u' ');
         textCursor().insertText(texte);
         ensureCursorVisible();
     }
@@ -172,6 +198,12 @@ protected:
     }
 
 private:
+    [[nodiscard]] int HauteurLigne() const
+    {
+        const auto première = document()->documentLayout()->blockBoundingRect(document()->firstBlock());
+        const double marges = 2 * (document()->documentMargin() + frameWidth());
+        return static_cast<int>(std::ceil(std::max<double>(première.height(), fontMetrics().lineSpacing()) + marges));
+    }
     [[nodiscard]] QRect CadreVisé() const
     {
         QTextCursor ici{document()};
@@ -232,6 +264,8 @@ private:
 VueTexteRiche::VueTexteRiche(Hôte& hôte, RichTextBox& boîte, QWidget* parent)
     : Vue(hôte, boîte, new Page{*this, parent}), boîte_(boîte), zone_(static_cast<QTextEdit&>(*widget))
 {
+    if (boîte.UneLigne)
+        static_cast<Page&>(zone_).MettreEnLigne();
     retouches_.Noter(0, 0, boîte.Longueur());
     boîte.EditionFaite = [this](const RichTextBox::Edition& édition) {
         retouches_.Noter(édition.Début, édition.Retirés, édition.Ajoutés);

@@ -27,7 +27,10 @@ std::unique_ptr<Vue> CréerVue(Hôte& hôte, Elément& élément, QWidget* paren
     auto vue = CréerParmi<Label, Button, Frame, TextBox, RichTextBox, ComboBox, ListBox, CheckBox, Image, DriveListBox,
                           DirListBox, ScrollBar, Toolbar, Rectangle, Line>(hôte, élément, parent);
     assert(vue != nullptr && "an element of a kind that has no view stands in the arrangement");
-    return vue != nullptr ? std::move(vue) : std::make_unique<Vue>(hôte, élément, new QWidget{parent});
+    if (vue == nullptr)
+        vue = std::make_unique<Vue>(hôte, élément, new QWidget{parent});
+    vue->Revoir();
+    return vue;
 }
 
 } // namespace tirelune

@@ -8,15 +8,22 @@ namespace tirelune {
 
 namespace {
 
+// Whether it can be clicked has changed.
+bool SuivreClic(Etiquette& étiquette, const Légendé& élément)
+{
+    const bool cliquable{élément.Click};
+    if (étiquette.EstCliquable() == cliquable)
+        return false;
+    étiquette.RendreCliquable(cliquable);
+    return true;
+}
+
 class VueEtiquette : public Vue {
 public:
     VueEtiquette(Hôte& hôte, Label& label, QWidget* parent)
         : Vue(hôte, label, new Etiquette{parent}), label_(label), étiquette_(static_cast<Etiquette&>(*widget))
     {
         étiquette_.centrée = label.Centré;
-        if (!label.Click)
-            return;
-        étiquette_.RendreCliquable();
         étiquette_.clic = [this] {
             if (Agissante())
                 label_.Cliquer();
@@ -34,6 +41,14 @@ public:
         label_.Height.Noter(Twips(taille.height()));
     }
 
+    bool Revoir() override
+    {
+        const bool change = SuivreClic(étiquette_, label_);
+        if (change)
+            MettrePointeur();
+        return change;
+    }
+
     void Synchroniser() override
     {
         Habiller();
@@ -45,11 +60,7 @@ public:
             étiquette_.bordure = label_.Bordure;
             étiquette_.update();
         }
-        const auto pointeur = label_.MousePointer == Pointeur::Sablier ? Qt::WaitCursor
-                              : label_.Click                           ? Qt::PointingHandCursor
-                                                                       : Qt::ArrowCursor;
-        if (étiquette_.cursor().shape() != pointeur)
-            étiquette_.setCursor(pointeur);
+        MettrePointeur();
         Vue::Synchroniser();
         // Assistive tools read what it says, rather than its tip: a label has nothing else to be read by.
         if (étiquette_.accessibleDescription() != étiquette_.text())
@@ -57,6 +68,14 @@ public:
     }
 
 private:
+    void MettrePointeur()
+    {
+        const auto pointeur = label_.MousePointer == Pointeur::Sablier ? Qt::WaitCursor
+                              : étiquette_.EstCliquable()              ? Qt::PointingHandCursor
+                                                                       : Qt::ArrowCursor;
+        if (étiquette_.cursor().shape() != pointeur)
+            étiquette_.setCursor(pointeur);
+    }
     void Habiller()
     {
         étiquette_.enLigne = label_.AutoSize;
@@ -73,14 +92,18 @@ public:
     VueImage(Hôte& hôte, Image& image, QWidget* parent)
         : Vue(hôte, image, new ImageDessinée{parent}), image_(image), dessinée_(static_cast<ImageDessinée&>(*widget))
     {
-        if (!image.Click)
-            return;
-        dessinée_.RendreCliquable();
-        dessinée_.setCursor(Qt::PointingHandCursor);
         dessinée_.clic = [this] {
             if (Agissante())
                 image_.Cliquer();
         };
+    }
+
+    bool Revoir() override
+    {
+        const bool change = SuivreClic(dessinée_, image_);
+        if (change)
+            dessinée_.EstCliquable() ? dessinée_.setCursor(Qt::PointingHandCursor) : dessinée_.unsetCursor();
+        return change;
     }
 
     void Synchroniser() override
@@ -107,16 +130,10 @@ public:
     VueCadre(Hôte& hôte, Frame& cadre, QWidget* parent)
         : Vue(hôte, cadre, new Panneau{parent}), cadre_(cadre), panneau_(static_cast<Panneau&>(*widget))
     {
-        if (cadre.Click) {
-            panneau_.setCursor(Qt::PointingHandCursor);
-            panneau_.clic = [this] {
-                if (Agissante())
-                    cadre_.Cliquer();
-            };
-        }
-        if (!cadre.MouseMove)
-            return;
-        panneau_.setCursor(Qt::OpenHandCursor);
+        panneau_.clic = [this] {
+            if (Agissante())
+                cadre_.Cliquer();
+        };
         panneau_.début = [this](QPoint prise) {
             if (Agissante() && cadre_.Enabled)
                 cadre_.MouseMove(Twips(prise.x()), Twips(prise.y()));
@@ -125,6 +142,21 @@ public:
             if (Agissante())
                 Déposer(lieu);
         };
+    }
+
+    bool Revoir() override
+    {
+        if (panneau_.cliquable == bool{cadre_.Click} && panneau_.traînable == bool{cadre_.MouseMove})
+            return false;
+        panneau_.cliquable = bool{cadre_.Click};
+        panneau_.traînable = bool{cadre_.MouseMove};
+        if (panneau_.traînable)
+            panneau_.setCursor(Qt::OpenHandCursor);
+        else if (panneau_.cliquable)
+            panneau_.setCursor(Qt::PointingHandCursor);
+        else
+            panneau_.unsetCursor();
+        return false;
     }
 
     void Synchroniser() override

@@ -19,6 +19,7 @@ public:
     ComboBox cmbTriée{*this, "cmbTriée", {.Sorted = true}};
     ComboBox cmbSaisie{*this, "cmbSaisie", {.Saisie = true}};
     ListBox lstUne{*this, "lstUne"};
+    Tableau<ListBox> lstPlusieurs{*this, "lstPlusieurs", 2};
     ScrollBar barre{*this, "barre"};
     Timer Chrono{*this, "Chrono", 100};
     Grid fg{*this, "fg", 2, 3};
@@ -56,6 +57,101 @@ TEST(Eléments, UnTableauNommeEtNumérote)
     écran.lblPlusieurs.Click([&](int i) { cliqué = i; });
     écran.lblPlusieurs(2).Cliquer();
     EXPECT_EQ(cliqué, 2);
+}
+
+TEST(Eléments, UnTableauRelieToutEvénementAvecLIndex)
+{
+    Banc banc;
+    auto& écran = banc.Ouvrir<Essai>();
+    std::vector<int> suite;
+    écran.lstPlusieurs.Relier(&ListBox::DblClick, [&](int i) { suite.push_back(i); });
+    écran.lstPlusieurs.Relier(&ListBox::KeyPress, [&](int i, Touche& touche) {
+        suite.push_back(i);
+        touche.Avaler();
+    });
+    écran.lstPlusieurs(1).DblClick();
+    Touche touche{u'a', 'a'};
+    écran.lstPlusieurs(0).KeyPress(touche);
+    EXPECT_EQ(suite, (std::vector{1, 0}));
+    EXPECT_TRUE(touche.Avalée);
+}
+
+TEST(Eléments, LeClavierQuiVientEtQuiPartSeDit)
+{
+    Banc banc;
+    auto& écran = banc.Ouvrir<Essai>();
+    std::string suite;
+    écran.txtUn.GotFocus = [&] { suite += "+"; };
+    écran.txtUn.LostFocus = [&] { suite += "-"; };
+    écran.txtUn.SetFocus();
+    écran.txtUn.SetFocus(); // has it already
+    écran.txtUn.RecevoirFocus();
+    EXPECT_EQ(suite, "+");
+    écran.chkUn.Enabled = false;
+    écran.chkUn.RecevoirFocus(); // out of reach
+    EXPECT_EQ(écran.Focus(), &écran.txtUn);
+    écran.cmbUn.RecevoirFocus();
+    EXPECT_EQ(suite, "+-");
+    EXPECT_EQ(écran.Focus(), &écran.cmbUn);
+    écran.Décharger();
+    écran.txtUn.SetFocus();
+    EXPECT_EQ(suite, "+-");
+}
+
+TEST(Eléments, QuiPerdLeClavierPeutLEnvoyerAilleurs)
+{
+    Banc banc;
+    auto& écran = banc.Ouvrir<Essai>();
+    std::string suite;
+    écran.txtUn.LostFocus = [&] { écran.lstUne.SetFocus(); };
+    écran.cmbUn.GotFocus = [&] { suite += "combo"; };
+    écran.lstUne.GotFocus = [&] { suite += "liste"; };
+    écran.txtUn.SetFocus();
+    écran.cmbUn.RecevoirFocus();
+    EXPECT_EQ(suite, "liste");
+    EXPECT_EQ(écran.Focus(), &écran.lstUne);
+    écran.lstUne.LostFocus = [&] { écran.Décharger(); };
+    écran.cmbUn.RecevoirFocus();
+    EXPECT_EQ(suite, "liste"); // nothing comes to a closed screen
+}
+
+TEST(Eléments, LeClavierEstDemandéAQuiDessineChaqueFois)
+{
+    Banc banc;
+    auto& écran = banc.Ouvrir<Essai>();
+    int demandes = 0;
+    int changements = 0;
+    écran.FocusDemandé = [&] { ++demandes; };
+    écran.Observateur = [&] { ++changements; };
+    écran.txtUn.SetFocus();
+    écran.txtUn.SetFocus();
+    écran.cmbUn.RecevoirFocus(); // the user is there already
+    EXPECT_EQ(demandes, 2);
+    EXPECT_EQ(changements, 0);
+}
+
+TEST(Eléments, GrasEtPoséSurPréviennent)
+{
+    Banc banc;
+    auto& écran = banc.Ouvrir<Essai>();
+    int fois = 0;
+    écran.txtUn.Observateur = [&] { ++fois; };
+    écran.txtUn.Gras = true;
+    écran.txtUn.PoséSur = &écran.cmbUn;
+    écran.txtUn.PoséSur = &écran.cmbUn;
+    EXPECT_EQ(fois, 2);
+    EXPECT_EQ(écran.txtUn.PoséSur, &écran.cmbUn);
+}
+
+TEST(Eléments, UneRangéeSeTientAuMilieu)
+{
+    Banc banc;
+    auto& écran = banc.Ouvrir<Essai>();
+    const Rangée rangée{écran.lblPlusieurs};
+    ASSERT_EQ(rangée.Enfants.size(), 5U);
+    EXPECT_EQ(rangée.Enfants.front().Genre, Disposition::Ressort);
+    EXPECT_EQ(rangée.Enfants[1].Occupant, &écran.lblPlusieurs(0));
+    EXPECT_EQ(rangée.Enfants.back().Genre, Disposition::Ressort);
 }
 
 TEST(Eléments, UneCouvertureALaTailleDeLEcranDèsQuIlEnAUne)

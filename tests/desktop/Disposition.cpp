@@ -3,6 +3,13 @@
 #include "desktop/Apparence.h"
 #include "desktop/VueToile.h"
 
+#include <QClipboard>
+#include <QLabel>
+#include <QScrollBar>
+#include <QTextBlock>
+#include <QTextEdit>
+#include <QTextLayout>
+
 namespace tirelune {
 
 namespace {
@@ -19,6 +26,10 @@ struct EcranPlaces final : EcranEssai {
     Line trait{*this, "trait", {.X1 = 10, .Y1 = 50, .X2 = 90, .Y2 = 50, .Teinte = Rouge, .Epaisseur = 4}, false};
     Frame frameLibre{*this, "frameLibre", {.Caption = u"Questions"}};
     RichTextBox rtf{*this, "rtf"};
+    RichTextBox rtfLigne{*this, "rtfLigne", {.UneLigne = true}};
+    TextBox txtDedans{*this, "txtDedans"};
+    TextBox txtDessus{*this, "txtDessus"};
+    Tableau<Label> lblLettre{*this, "lblLettre", 26};
     std::function<Arrangement()> disposer;
     Arrangement Disposer() override { return disposer(); }
 };
@@ -90,6 +101,32 @@ TEST_F(Dispositions, CeQuiEstLibreVaOùLesRèglesLePlacent)
     });
 }
 
+TEST_F(Dispositions, MesurerNEcritRien)
+{
+    écran.disposer = [&] { return Pile{Libre{écran.lblMot}}; };
+    Avec(écran, [&] {
+        const int avant = écran.lblMot.Width;
+        Widget<QLabel>(écran.lblMot).setText("un mot bien plus long");
+        EXPECT_GT(Devant().sizeHint().width(), Devant().Pixels(avant));
+        EXPECT_EQ(écran.lblMot.Width, avant);
+        écran.lblMot.Caption = u"un mot bien plus long"; // shown: now it is so wide
+        Mettre();
+        EXPECT_GT(écran.lblMot.Width, avant);
+        écran.lblMot.Width = 3000;
+        écran.lblMot.Height = 600;
+        Mettre();
+        EXPECT_EQ(Widget(écran.lblMot).width(), Devant().Pixels(3000));
+        EXPECT_EQ(Widget(écran.lblMot).height(), Devant().Pixels(600));
+    });
+}
+
+TEST_F(Dispositions, UnElémentSansVueArrêteUneCompilationDEssai)
+{
+    Grid grille{écran, "grille", 1, 1};
+    écran.disposer = [&] { return Colonne{grille}; };
+    EXPECT_DEBUG_DEATH(Avec(écran, [] {}), "has no view");
+}
+
 TEST_F(Dispositions, UneToileGardeSesProportions)
 {
     écran.lblMot.Left = 50;
@@ -107,6 +144,74 @@ TEST_F(Dispositions, UneToileGardeSesProportions)
         écran.trait.Visible = true;
         Mettre();
         EXPECT_EQ(toile.grab().toImage().pixelColor(milieu), (QColor{255, 0, 0}));
+    });
+}
+
+TEST_F(Dispositions, UnElémentSePoseSurUnAutreDUnAutreCadre)
+{
+    écran.txtDessus.PoséSur = &écran.txtDedans;
+    écran.disposer = [&] {
+        return Pile{Colonne{écran.cmdJouer, Extensible(Cadre{écran.frameLibre, Colonne{écran.lblMot, écran.txtDedans}}),
+                            écran.lblFond},
+                    Libre{écran.txtDessus}};
+    };
+    const auto lieu = [&](const Elément& un) {
+        return QRect{Widget(un).mapTo(&Devant(), QPoint{0, 0}), Widget(un).size()};
+    };
+    Avec(écran, [&] {
+        EXPECT_EQ(lieu(écran.txtDessus), lieu(écran.txtDedans));
+        EXPECT_EQ(Devant().childAt(lieu(écran.txtDedans).center()), &Widget(écran.txtDessus)); // in front
+        EXPECT_EQ(écran.txtDessus.Width, écran.txtDedans.Width);
+        Devant().setGeometry(0, 0, 1024, 768);
+        Mettre();
+        EXPECT_EQ(lieu(écran.txtDessus), lieu(écran.txtDedans));
+        écran.txtDessus.PoséSur = &écran.cmdJouer;
+        Mettre();
+        EXPECT_EQ(lieu(écran.txtDessus), lieu(écran.cmdJouer));
+    });
+}
+
+TEST_F(Dispositions, UneRangéeEstLargeCommeSesLettres)
+{
+    for (int i = 0; i < écran.lblLettre.Nombre(); ++i)
+        écran.lblLettre(i).Caption = Texte{static_cast<char16_t>(u'a' + i)};
+    écran.disposer = [&] { return Colonne{Rangée{écran.lblLettre}, écran.lblFond, écran.cmdJouer}; };
+    Avec(écran, [&] {
+        const auto& première = Widget(écran.lblLettre(0));
+        const auto& dernière = Widget(écran.lblLettre(écran.lblLettre.UBound()));
+        EXPECT_EQ(première.width(), première.sizeHint().width());
+        EXPECT_LT(Widget(écran.lblLettre(8)).width(), Widget(écran.lblLettre(12)).width()); // i and m
+        const int gauche = première.x();
+        const int droite = Devant().width() - dernière.geometry().right();
+        EXPECT_NEAR(gauche, droite, 2);
+        EXPECT_LT(première.width() * 26, Devant().width());
+    });
+}
+
+TEST_F(Dispositions, UnTexteRicheDUneLigneNEnAPasDeux)
+{
+    écran.rtfLigne.Text(u"chat\r\nchien");
+    écran.disposer = [&] { return Colonne{écran.rtfLigne, Extensible(écran.lblFond), écran.txtDedans}; };
+    Avec(écran, [&] {
+        auto& ligne = Widget<QTextEdit>(écran.rtfLigne);
+        const int hauteur = ligne.height();
+        EXPECT_LT(hauteur, 2 * ligne.fontMetrics().lineSpacing());
+        EXPECT_GE(hauteur, ligne.fontMetrics().lineSpacing());
+        écran.rtfLigne.Text(Texte(300, u'x'));
+        Mettre();
+        EXPECT_EQ(ligne.document()->firstBlock().layout()->lineCount(), 1);
+        EXPECT_FALSE(ligne.verticalScrollBar()->isVisible());
+        QTest::keyClick(&ligne, Qt::Key_Return);
+        QTest::keyClick(&ligne, Qt::Key_Return, Qt::ShiftModifier);
+        EXPECT_EQ(écran.rtfLigne.Longueur(), 300U);
+        QApplication::clipboard()->setText("un\ndeux");
+        ligne.selectAll();
+        QTest::keyClick(&ligne, Qt::Key_V, Qt::ControlModifier);
+        EXPECT_EQ(écran.rtfLigne.Text(), u"un deux");
+        écran.rtfLigne.ToutFormater([](Format& format) { format.Taille = 30; });
+        Mettre();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
+        EXPECT_GT(ligne.height(), hauteur * 3 / 2);
     });
 }
 

@@ -143,6 +143,33 @@ TEST_F(Eléments, UneÉtiquetteSansClicEstHorsDuClavier)
     });
 }
 
+TEST_F(Eléments, UnClicReliéAprèsCoupRépond)
+{
+    Avec(écran, [&] {
+        Cliquer(écran.lblMuet);
+        écran.lblMuet.Click = [&] { clics += 1; };
+        écran.imgTête.Click = [&] { clics += 10; };
+        écran.frame.Click = [&] { clics += 100; };
+        Cliquer(écran.lblMuet);
+        Cliquer(écran.imgTête);
+        QTest::mouseClick(&Widget(écran.frame), Qt::LeftButton, {}, QPoint{20, 6});
+        EXPECT_EQ(clics, 111);
+        EXPECT_EQ(Widget(écran.lblMuet).cursor().shape(), Qt::PointingHandCursor);
+        EXPECT_EQ(Widget(écran.imgTête).cursor().shape(), Qt::PointingHandCursor);
+        Widget(écran.lblMuet).setFocus();
+        QTest::keyClick(&Widget(écran.lblMuet), Qt::Key_Tab);
+        EXPECT_EQ(Devant().focusWidget()->objectName(), "cmdOk"); // in the order of declaration
+        écran.lblMuet.Click = nullptr;
+        écran.frame.Click = nullptr;
+        Mettre();
+        Cliquer(écran.lblMuet);
+        QTest::mouseClick(&Widget(écran.frame), Qt::LeftButton, {}, QPoint{20, 6});
+        EXPECT_EQ(clics, 111);
+        EXPECT_EQ(Widget(écran.lblMuet).cursor().shape(), Qt::ArrowCursor);
+        EXPECT_EQ(Widget(écran.lblMuet).focusPolicy(), Qt::NoFocus);
+    });
+}
+
 TEST_F(Eléments, CliquerUnBouton)
 {
     écran.cmdOk.Click = [&] { ++clics; };
@@ -461,6 +488,78 @@ TEST_F(Eléments, LeFocusDemandéEstDonné)
         écran.cmdOk.SetFocus();
         Mettre();
         EXPECT_EQ(Devant().focusWidget()->objectName(), "cmdOk");
+    });
+}
+
+TEST_F(Eléments, UnNouveauDessinNeDéplacePasLeClavier)
+{
+    écran.cmdOk.SetFocus();
+    écran.Fond = Dessin{10, 10, {{GenreForme::Ellipse, {{0, 0}, {10, 10}}}}};
+    Avec(écran, [&] {
+        EXPECT_EQ(Devant().focusWidget()->objectName(), "cmdOk");
+        Widget(écran.txtCode).setFocus();
+        écran.Fond = Dessin{10, 10, {{GenreForme::Ellipse, {{0, 0}, {5, 5}}}}};
+        Mettre();
+        EXPECT_EQ(Devant().focusWidget()->objectName(), "txtCode");
+        écran.Width = écran.Width + 100;
+        Mettre();
+        EXPECT_EQ(Devant().focusWidget()->objectName(), "txtCode");
+        écran.BackColor = Jaune;
+        écran.txtCode.SetFocus();
+        écran.cmdOk.SetFocus(); // the last word counts
+        Mettre();
+        EXPECT_EQ(Devant().focusWidget()->objectName(), "cmdOk");
+    });
+}
+
+TEST_F(Eléments, LeClavierQuiVientEtQuiPartSeDit)
+{
+    std::string suite;
+    écran.txtNom.GotFocus = [&] { suite += "+nom "; };
+    écran.txtNom.LostFocus = [&] { suite += "-nom "; };
+    écran.cmdOk.GotFocus = [&] { suite += "+ok "; };
+    écran.cmdOk.Click = [&] { suite += "clic "; };
+    Avec(écran, [&] {
+        EXPECT_EQ(suite, "+nom "); // typing starts there
+        QTest::keyClick(&Widget(écran.txtNom), Qt::Key_Tab);
+        EXPECT_EQ(suite, "+nom -nom ");
+        suite.clear();
+        QTest::mouseClick(&Widget(écran.txtNom), Qt::LeftButton);
+        Widget(écran.cmdOk).setFocus(Qt::MouseFocusReason); // as a real click does before it is one
+        Cliquer(écran.cmdOk);
+        EXPECT_EQ(suite, "+nom -nom +ok clic ");
+        suite.clear();
+        écran.txtNom.SetFocus();
+        EXPECT_EQ(suite, "+nom "); // said at once, and only once
+        Mettre();
+        EXPECT_EQ(suite, "+nom ");
+        écran.txtNom.Visible = false; // the keyboard goes on to what comes next
+        Mettre();
+        EXPECT_EQ(suite, "+nom -nom ");
+        EXPECT_EQ(écran.Focus(), &écran.txtCode);
+    });
+}
+
+TEST_F(Eléments, PendantUneAttenteLeClavierNeVientPas)
+{
+    using namespace std::chrono_literals;
+    écran.txtCode.GotFocus = [&] { ++clics; };
+    Avec(écran, [&] {
+        Ensuite([&] { Widget(écran.txtCode).setFocus(); });
+        EXPECT_TRUE(écran.Attendre(2ms));
+        EXPECT_EQ(clics, 0);
+        QCoreApplication::processEvents();
+        EXPECT_EQ(clics, 1);
+    });
+}
+
+TEST_F(Eléments, UneLégendeDevientGrasse)
+{
+    Avec(écran, [&] {
+        EXPECT_FALSE(Widget(écran.lblMot).font().bold());
+        écran.lblMot.Gras = true;
+        Mettre();
+        EXPECT_TRUE(Widget(écran.lblMot).font().bold());
     });
 }
 
