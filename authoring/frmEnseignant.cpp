@@ -61,7 +61,7 @@ frmEnseignant::frmEnseignant(frmTirelune& accueil)
       accueil_(accueil)
 {
     for (const int taille : TaillesProposées)
-        cmbFontSize.AddItem(EnTexte(static_cast<long long>(taille)));
+        cmbFontSize.AddItem(EnTexte(taille));
     mnuAuto.Checked = true;
     txtMessageCorrection.Locked = true;
     framePolices.Width = LargeurListe;

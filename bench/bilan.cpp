@@ -37,7 +37,7 @@ struct Classe {
         application.état.CheminBilans = application.état.CheminAppli;
         std::vector<Texte> champs;
         for (int texte = 0; texte < textes; ++texte) {
-            champs.insert(champs.end(), {Texte{Marqueur}, u"Texte " + EnTexte(static_cast<long long>(texte)), u"123"});
+            champs.insert(champs.end(), {Texte{Marqueur}, u"Texte " + EnTexte(texte), u"123"});
             champs.insert(champs.end(), NombreExercices, u"6,666667");
             champs.emplace_back();
         }

@@ -15,10 +15,4 @@ bool Application::Demander(Texte question, Texte titre)
            Réponse::Oui;
 }
 
-std::size_t Tirer(Plateforme& plateforme, std::size_t n)
-{
-    plateforme.AmorcerHasard();
-    return static_cast<std::size_t>(static_cast<double>(n) * plateforme.Hasard());
-}
-
 } // namespace tirelune

@@ -112,9 +112,14 @@ void CheckBox::Cliquer()
     Appeler(Click);
 }
 
+int Compte(const Label& compteur)
+{
+    return static_cast<int>(Valeur(compteur.Caption));
+}
+
 void Incrémenter(Label& compteur, int pas)
 {
-    compteur.Caption = EnTexte(static_cast<long long>(Valeur(compteur.Caption)) + pas);
+    compteur.Caption = EnTexte(Compte(compteur) + pas);
 }
 
 // ---- Text box ------------------------------------------------------------------------------------------------

@@ -476,7 +476,9 @@ private:
     std::deque<T> éléments_; // elements have an identity and never move
 };
 
-// A counter kept in a caption: its value plus `pas`, with no blanks.
+// A counter kept in a caption, as a whole number; 0 where it holds none.
+int Compte(const Label& compteur);
+// Its value plus `pas`, with no blanks.
 void Incrémenter(Label& compteur, int pas = 1);
 
 } // namespace tirelune

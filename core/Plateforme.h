@@ -94,7 +94,4 @@ public:
     virtual void RéglerMinuterie(Timer& minuterie) = 0;
 };
 
-// The whole part of a draw in [0, 1) times n, after seeding: 0 to n - 1.
-std::size_t Tirer(Plateforme& plateforme, std::size_t n);
-
 } // namespace tirelune

@@ -214,6 +214,11 @@ std::optional<double> LireNombre(VueTexte texte)
     return Convertir(nombre);
 }
 
+Texte EnTexte(int nombre)
+{
+    return DepuisUtf8(std::to_string(nombre));
+}
+
 Texte EnTexte(long long nombre)
 {
     return DepuisUtf8(std::to_string(nombre));

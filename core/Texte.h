@@ -37,6 +37,7 @@ Texte Joindre(VueTexte dossier, VueTexte nom);
 double Valeur(VueTexte texte);
 // A whole text that is a number, comma or point as decimal separator, blanks around it allowed.
 std::optional<double> LireNombre(VueTexte texte);
+Texte EnTexte(int nombre);
 Texte EnTexte(long long nombre);
 // Seven significant digits, no trailing zero: the shape of a single-precision score. Below a ten-thousandth: 0.
 Texte EnTexte(float nombre, char16_t séparateurDécimal);

@@ -1,32 +1,27 @@
 #include "exercises/TirageVocabulaire.h"
 
+#include "core/Tirage.h"
+
 #include <algorithm>
 #include <set>
 
 namespace tirelune {
 
-namespace {
-
-int CompterDifférents(const std::vector<Texte>& mots)
-{
-    return static_cast<int>(std::set<VueTexte>(mots.begin(), mots.end()).size());
-}
-
-} // namespace
-
 int CompterMotsDifférents(const ComboBox& vocabulaire)
 {
-    return CompterDifférents(vocabulaire.Eléments());
+    const auto& mots = vocabulaire.Eléments();
+    return static_cast<int>(std::set<VueTexte>(mots.begin(), mots.end()).size());
 }
 
 std::vector<Texte> TirerMotsDifférents(const std::vector<Texte>& mots, int limite, Plateforme& plateforme)
 {
-    const auto nombre = static_cast<std::size_t>(std::max(0, std::min(limite, CompterDifférents(mots))));
     std::vector<Texte> tirés;
-    while (tirés.size() < nombre) {
-        const auto& candidat = mots[Tirer(plateforme, mots.size())];
-        if (std::find(tirés.begin(), tirés.end(), candidat) == tirés.end())
-            tirés.push_back(candidat);
+    const auto déjàTiré = [&](std::size_t k) { return std::find(tirés.begin(), tirés.end(), mots[k]) != tirés.end(); };
+    while (std::ssize(tirés) < limite) {
+        const auto k = TirerSauf(plateforme, static_cast<double>(mots.size()), déjàTiré);
+        if (!k)
+            break;
+        tirés.push_back(mots[*k]);
     }
     return tirés;
 }
@@ -34,6 +29,14 @@ std::vector<Texte> TirerMotsDifférents(const std::vector<Texte>& mots, int limi
 std::vector<Texte> TirerMotsDifférents(const ComboBox& vocabulaire, int limite, Plateforme& plateforme)
 {
     return TirerMotsDifférents(vocabulaire.Eléments(), limite, plateforme);
+}
+
+Texte TirerEtRetirer(ComboBox& mots, Plateforme& plateforme)
+{
+    const auto k = static_cast<int>(Tirer(plateforme, mots.ListCount()));
+    auto mot = mots.List(k);
+    mots.RemoveItem(k);
+    return mot;
 }
 
 } // namespace tirelune

@@ -19,4 +19,7 @@ int CompterMotsDifférents(const ComboBox& vocabulaire);
 std::vector<Texte> TirerMotsDifférents(const std::vector<Texte>& mots, int limite, Plateforme& plateforme);
 std::vector<Texte> TirerMotsDifférents(const ComboBox& vocabulaire, int limite, Plateforme& plateforme);
 
+// Draws a word of a list that holds one, and takes it out.
+Texte TirerEtRetirer(ComboBox& mots, Plateforme& plateforme);
+
 } // namespace tirelune

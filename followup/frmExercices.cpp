@@ -360,7 +360,7 @@ void frmExercices::lblExo_Click(int i)
     }
     lblExo(i).Bordure = true;
     lblExo(i).MousePointer = Pointeur::Sablier;
-    lblIndex.Caption = EnTexte(static_cast<long long>(i));
+    lblIndex.Caption = EnTexte(i);
     OuvrirExercice(i);
     lblExo(i).MousePointer = Pointeur::Normal;
     lblExo(i).Bordure = false;

@@ -1,5 +1,6 @@
 #include "exercises/comprehension/frmClosures.h"
 
+#include "core/Tirage.h"
 #include "exercises/Conclure.h"
 #include "exercises/TexteEtBarre.h"
 #include "followup/Notes.h"
@@ -10,8 +11,8 @@ namespace tirelune {
 
 namespace {
 
-constexpr std::size_t DépartsPossibles = 80; // characters at the head of the text
-constexpr double PartTrouée = 0.9;           // the last tenth of the text stays whole
+constexpr double DépartsPossibles = 80; // characters at the head of the text
+constexpr double PartTrouée = 0.9;      // the last tenth of the text stays whole
 constexpr int RangDuMotEnlevé = 7;
 // Behind the signs: backspace, tab, line feed, carriage return. The apostrophe and the hyphen stay inside a word.
 constexpr VueTexte Séparateurs = u" ?,.;:!()\x08\t\n\r\"«»";

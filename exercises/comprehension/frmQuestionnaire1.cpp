@@ -235,13 +235,13 @@ void frmQuestionnaire1::cmdVérifier_Click()
     for (auto& réponse : chkRéponse)
         réponse.Enabled = true;
     lblOuiNon.Visible = false;
-    AfficherQuestion(static_cast<int>(Valeur(lblNuméro.Caption)));
+    AfficherQuestion(Compte(lblNuméro));
     Incrémenter(lblNuméro);
 }
 
 bool frmQuestionnaire1::EstDernièreQuestion() const
 {
-    const int suivante = static_cast<int>(Valeur(lblNuméro.Caption));
+    const int suivante = Compte(lblNuméro);
     return suivante >= QuestionsMaximum || Rogner(fgQuestions.TextMatrix(suivante, ColonneQuestion)).empty();
 }
 
@@ -257,7 +257,7 @@ bool frmQuestionnaire1::RéponseJuste(int rangée) const
 
 void frmQuestionnaire1::CorrigerQuestion()
 {
-    const bool juste = RéponseJuste(static_cast<int>(Valeur(lblNuméro.Caption)) - 1);
+    const bool juste = RéponseJuste(Compte(lblNuméro) - 1);
     lblOuiNon.Caption = juste ? u"Bonne Réponse" : u"Mauvaise Réponse";
     lblOuiNon.ForeColor = juste ? VertFoncé : Rouge;
     if (juste)

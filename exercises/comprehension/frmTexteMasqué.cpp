@@ -101,7 +101,7 @@ void frmTexteMasqué::ProposerLettre(int k)
     choix_.rtfTexte.Sélectionner(place, 1);
     if (Contient(classe, choix_.rtfTexte.SelText().front()))
         DévoilerLettre(k, classe);
-    else if (Valeur(lblPoints(0).Caption) > 0)
+    else if (Compte(lblPoints(0)) > 0)
         Incrémenter(lblPoints(0), -1);
     Incrémenter(lblPoints(1));
     rtfMasqué.Sélectionner(place, 0);

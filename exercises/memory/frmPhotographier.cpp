@@ -1,5 +1,6 @@
 #include "exercises/memory/frmPhotographier.h"
 
+#include "core/Tirage.h"
 #include "exercises/Conclure.h"
 #include "exercises/TirageVocabulaire.h"
 #include "followup/Notes.h"
@@ -81,7 +82,7 @@ void frmPhotographier::cmdAfficher_Click()
     cmdAfficher.Enabled = false;
     EffacerRéponses();
     const int dernière = ProposerMots() - 1;
-    const auto montrée = Tirer(application_.plateforme, static_cast<std::size_t>(dernière));
+    const auto montrée = Tirer(application_.plateforme, dernière);
     lblMot.Caption = lblRéponse(static_cast<int>(montrée)).Caption;
     lblMot.ForeColor = Bleu;
     lblMot.Refresh(); // on the display before the time runs

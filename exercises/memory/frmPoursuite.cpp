@@ -1,12 +1,11 @@
 #include "exercises/memory/frmPoursuite.h"
 
 #include "core/Fonctions.h"
+#include "core/Tirage.h"
 #include "exercises/Conclure.h"
 #include "followup/Notes.h"
 
 #include <algorithm>
-#include <cmath>
-#include <set>
 
 namespace tirelune {
 
@@ -16,9 +15,9 @@ constexpr int VitesseInitiale = 100; // ms between two letters
 constexpr int PauseDePhrase = 1000;  // ms
 constexpr int PauseDeVirgule = 500;
 constexpr VueTexte SignesDePhrase = u".!?;:";
-constexpr int PlacesDuMotFinal = 9; // never the last label
-constexpr long MargeDuTirage = 26;  // characters at the end of the text that no draw starts from
-constexpr long PremièrePlaceTirée = 25;
+constexpr int PlacesDuMotFinal = 9;  // never the last label
+constexpr double MargeDuTirage = 26; // characters of the text that no draw starts from
+constexpr std::size_t PremièrePlaceTirée = 25;
 constexpr int PoursuitesAvantLaDernière = 4;
 constexpr int TailleMinimum = 1000; // twips
 constexpr VueTexte Quitter = u"&Quitter";
@@ -35,14 +34,9 @@ std::int16_t MoinsVite(std::int16_t vitesse)
 }
 
 // Place from 0 of a draw that counts from 1; nothing stands before the text.
-std::size_t EnPlace(long tirage)
+std::size_t EnPlace(std::size_t tirage)
 {
-    return static_cast<std::size_t>(std::max(1L, tirage)) - 1;
-}
-
-long PartieEntière(double nombre)
-{
-    return static_cast<long>(std::floor(nombre));
+    return std::max<std::size_t>(1, tirage) - 1;
 }
 
 } // namespace
@@ -97,7 +91,7 @@ void frmPoursuite::cmdCommencer_Click()
     CacherTexte();
     EcrireAlphabetSimple(état);
     état.LettresEtChiffres += u'-';
-    ChercherBlancs();
+    ChercherMots();
     const auto arrêt = TirerArrêt();
     if (!arrêt) {
         Avertir(u"Ce texte ne convient pas à cet exercice : je n'y trouve pas de mot suivi d'un espace où m'arrêter !");
@@ -108,7 +102,7 @@ void frmPoursuite::cmdCommencer_Click()
         mot.Caption = Texte{};
     TirerMotFinal(*arrêt);
     RemplirPropositions();
-    if (FaireApparaître(arrêt->Blanc))
+    if (FaireApparaître(arrêt->Fin))
         DemanderMot();
 }
 
@@ -125,114 +119,61 @@ void frmPoursuite::CacherTexte()
     Repeindre();
 }
 
-void frmPoursuite::ChercherBlancs()
+void frmPoursuite::ChercherMots()
 {
-    blancs_.clear();
     const auto& texte = rtfPoursuite.Text();
-    std::size_t début = 0;
-    for (std::size_t place = 0; place < texte.size(); ++place) {
-        if (texte[place] == u' ')
-            blancs_.push_back({début, place});
-        if (!Contient(état.LettresEtChiffres, texte[place]))
-            début = place + 1;
-    }
+    mots_.clear();
+    for (auto blanc = texte.find(u' '); blanc != Texte::npos; blanc = texte.find(u' ', blanc + 1))
+        mots_.push_back(MotAutour(texte, blanc, état.LettresEtChiffres));
 }
 
-std::vector<frmPoursuite::Butée>::const_iterator frmPoursuite::BlancDepuis(std::size_t place) const
+std::optional<Passage> frmPoursuite::MotDepuis(std::size_t place) const
 {
-    return std::lower_bound(blancs_.begin(), blancs_.end(), place,
-                            [](const Butée& un, std::size_t p) { return un.Blanc < p; });
+    const auto mot = std::lower_bound(mots_.begin(), mots_.end(), place,
+                                      [](const Passage& un, std::size_t p) { return un.Fin < p; });
+    return mot == mots_.end() || mot->Longueur() == 0 ? std::nullopt : std::optional{*mot};
 }
 
-std::optional<frmPoursuite::Butée> frmPoursuite::ButéeDepuis(std::size_t place) const
+std::optional<Passage> frmPoursuite::TirerArrêt()
 {
-    const auto un = BlancDepuis(place);
-    return un == blancs_.end() || !un->SuitUnMot() ? std::nullopt : std::optional{*un};
+    const auto longueur = rtfPoursuite.Longueur();
+    const auto depuis = [&](std::size_t tirage) { return MotDepuis(EnPlace(longueur / 10 + tirage)); };
+    const auto tirage = TirerSauf(application_.plateforme, static_cast<double>(longueur) / 3,
+                                  [&](std::size_t place) { return !depuis(place); });
+    return tirage ? depuis(*tirage) : std::nullopt;
 }
 
-std::vector<frmPoursuite::Butée> frmPoursuite::ButéesEntre(std::size_t premier, std::size_t dernier) const
+void frmPoursuite::TirerMotFinal(const Passage& arrêt)
 {
-    std::vector<Butée> butées;
-    for (auto un = BlancDepuis(premier); un != blancs_.end(); ++un) {
-        if (un->SuitUnMot())
-            butées.push_back(*un);
-        if (un->Blanc >= dernier)
-            break;
-    }
-    return butées;
-}
-
-VueTexte frmPoursuite::MotDe(const Butée& butée) const
-{
-    return VueTexte{rtfPoursuite.Text()}.substr(butée.Début, butée.Blanc - butée.Début);
-}
-
-std::optional<frmPoursuite::Butée> frmPoursuite::TirerArrêt()
-{
-    const auto longueur = static_cast<long>(rtfPoursuite.Longueur());
-    const long premier = longueur / 10;
-    const long tirages = (longueur + 2) / 3; // how many places a draw can fall on
-    if (ButéesEntre(EnPlace(premier), EnPlace(premier + tirages - 1)).empty())
-        return std::nullopt;
-    for (;;) {
-        application_.plateforme.AmorcerHasard();
-        const double tirage = static_cast<double>(longueur) / 3 * application_.plateforme.Hasard();
-        if (const auto arrêt = ButéeDepuis(EnPlace(premier + PartieEntière(tirage))))
-            return arrêt;
-    }
-}
-
-void frmPoursuite::TirerMotFinal(const Butée& arrêt)
-{
-    const Texte mot{MotDe(arrêt)};
+    lblCorrigé.Caption = Texte{arrêt.Dans(rtfPoursuite.Text())};
     auto& place = lblMot(static_cast<int>(Tirer(application_.plateforme, PlacesDuMotFinal)));
     place.AutoSize = true;
-    place.Caption = mot;
-    lblCorrigé.Caption = mot;
+    place.Caption = lblCorrigé.Caption;
 }
 
 void frmPoursuite::RemplirPropositions()
 {
-    int restants = CompterAutresMots();
     for (auto& mot : lblMot) {
-        if (mot.Caption().empty() && restants > 0) {
-            do
-                TirerMotTexte();
-            while (EstProposé(lblPassage.Caption));
+        if (mot.Caption().empty() && TirerMotTexte()) {
             mot.AutoSize = true;
             mot.Caption = lblPassage.Caption;
-            --restants;
         }
         mot.Visible = !mot.Caption().empty();
     }
 }
 
-// There is at least one word to be drawn.
-void frmPoursuite::TirerMotTexte()
+bool frmPoursuite::TirerMotTexte()
 {
-    const auto étendue = static_cast<double>(rtfPoursuite.Longueur()) - static_cast<double>(MargeDuTirage);
-    for (;;) {
-        application_.plateforme.AmorcerHasard();
-        const double tirage = application_.plateforme.Hasard() * étendue;
-        if (const auto butée = ButéeDepuis(EnPlace(PremièrePlaceTirée + PartieEntière(tirage)))) {
-            lblPassage.Caption = Texte{MotDe(*butée)};
-            return;
-        }
-    }
-}
-
-int frmPoursuite::CompterAutresMots() const
-{
-    // In a text shorter than the margin the draws go downward.
-    const auto longueur = static_cast<long>(rtfPoursuite.Longueur());
-    const auto butées =
-        ButéesEntre(EnPlace(std::min(PremièrePlaceTirée, longueur - MargeDuTirage + PremièrePlaceTirée)),
-                    EnPlace(std::max(PremièrePlaceTirée, longueur - MargeDuTirage + PremièrePlaceTirée - 1)));
-    std::set<VueTexte> mots;
-    for (const auto& butée : butées)
-        mots.insert(MotDe(butée));
-    mots.erase(lblCorrigé.Caption);
-    return static_cast<int>(mots.size());
+    const auto depuis = [&](std::size_t tirage) { return MotDepuis(EnPlace(PremièrePlaceTirée + tirage)); };
+    const auto refusé = [&](std::size_t tirage) {
+        const auto mot = depuis(tirage);
+        return !mot || EstProposé(mot->Dans(rtfPoursuite.Text()));
+    };
+    const auto étendue = static_cast<double>(rtfPoursuite.Longueur()) - MargeDuTirage;
+    const auto tirage = TirerSauf(application_.plateforme, std::max(étendue, 0.0), refusé);
+    if (tirage)
+        lblPassage.Caption = Texte{depuis(*tirage)->Dans(rtfPoursuite.Text())};
+    return tirage.has_value();
 }
 
 bool frmPoursuite::EstProposé(VueTexte mot) const
@@ -319,7 +260,7 @@ void frmPoursuite::cmdContinuer_Click()
         Conclure(*this, choix_, NoteSurDix(lblPoints(0), lblPoints(1)));
         return;
     }
-    if (Valeur(lblPoints(1).Caption) >= PoursuitesAvantLaDernière)
+    if (Compte(lblPoints(1)) >= PoursuitesAvantLaDernière)
         cmdContinuer.Caption = Texte{Quitter};
     frameMot.Visible = false;
     cmdContinuer.Visible = false;

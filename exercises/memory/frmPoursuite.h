@@ -2,6 +2,7 @@
 // faster, wrong ones slower. Five chases.
 #pragma once
 #include "core/Ecran.h"
+#include "core/Passages.h"
 #include "exercises/BandeDePoints.h"
 #include "followup/frmExercices.h"
 
@@ -33,14 +34,6 @@ public:
     Label lblCorrigé{*this, "lblCorrigé", {.Visible = false}}; // the right word
 
 private:
-    // A blank of the text, and where the run of word characters that ends there begins; places from 0.
-    struct Butée {
-        std::size_t Début;
-        std::size_t Blanc;
-
-        [[nodiscard]] bool SuitUnMot() const { return Début < Blanc; }
-    };
-
     void Load() override;
     void Resize() override;
     Arrangement Disposer() override;
@@ -52,20 +45,15 @@ private:
     void cmdContinuer_Click();
 
     void CacherTexte();
-    void ChercherBlancs();
-    [[nodiscard]] std::vector<Butée>::const_iterator BlancDepuis(std::size_t place) const;
-    // The first blank at or after a place, if it stands behind a word.
-    [[nodiscard]] std::optional<Butée> ButéeDepuis(std::size_t place) const;
-    // All that a draw from `premier` to `dernier` can lead to.
-    [[nodiscard]] std::vector<Butée> ButéesEntre(std::size_t premier, std::size_t dernier) const;
-    [[nodiscard]] VueTexte MotDe(const Butée& butée) const;
+    void ChercherMots();
+    // The word that the first blank at or after a place follows; nothing when it follows none, or there is no blank.
+    [[nodiscard]] std::optional<Passage> MotDepuis(std::size_t place) const;
     // Nothing when no draw leads to a word.
-    [[nodiscard]] std::optional<Butée> TirerArrêt();
-    void TirerMotFinal(const Butée& arrêt);
-    void TirerMotTexte();
+    [[nodiscard]] std::optional<Passage> TirerArrêt();
+    void TirerMotFinal(const Passage& arrêt);
+    // Puts in lblPassage a word that isn't proposed yet. False: there is none.
+    bool TirerMotTexte();
     void RemplirPropositions();
-    // The different words that TirerMotTexte can get, without the right one.
-    [[nodiscard]] int CompterAutresMots() const;
     [[nodiscard]] bool EstProposé(VueTexte mot) const;
     // False: the screen was closed meanwhile.
     [[nodiscard]] bool FaireApparaître(std::size_t fin);
@@ -73,7 +61,7 @@ private:
     [[nodiscard]] bool EstRépondu() const;
 
     frmExercices& choix_;
-    std::vector<Butée> blancs_; // all of the text, in its order
+    std::vector<Passage> mots_; // what stands before each blank of the text: a word, or nothing
 };
 
 } // namespace tirelune

@@ -89,7 +89,7 @@ void frmSérie::NouvelleSérie()
     Incrémenter(lblCompteur);
     const int mots = std::min(CompterMotsDifférents(choix_.cmbVocabulaire), lblChoix.Nombre());
     état.NoteSérie = static_cast<std::uint8_t>(mots - 1);
-    lblPoints(1).Caption = EnTexte(static_cast<long long>(mots));
+    lblPoints(1).Caption = EnTexte(mots);
     ChoisirMots();
     CacherOrdre();
 }
@@ -228,8 +228,8 @@ void frmSérie::lblChoix_Click(int c)
         }
         lblMot(*i).Caption = lblChoix(c).Caption;
         lblMot(*i).BackColor = Blanc;
-        if (Valeur(lblPoints(0).Caption) < *i + 1)
-            lblPoints(0).Caption = EnTexte(static_cast<long long>(*i) + 1);
+        if (Compte(lblPoints(0)) < *i + 1)
+            lblPoints(0).Caption = EnTexte(*i + 1);
         if (*i == état.NoteSérie) {
             cmdVoir.Visible = false;
             cmdContinuer.Visible = true;
@@ -262,7 +262,7 @@ void frmSérie::cmdContinuer_Click()
     Repeindre();
     NouvelleSérie();
     cmdVoir.SetFocus();
-    if (lblCompteur.Caption == EnTexte(static_cast<long long>(SériesMaximum)))
+    if (lblCompteur.Caption == EnTexte(SériesMaximum))
         ProposerDeQuitter();
 }
 

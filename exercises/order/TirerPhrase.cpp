@@ -1,5 +1,7 @@
 #include "exercises/order/TirerPhrase.h"
 
+#include "core/Tirage.h"
+
 namespace tirelune {
 
 namespace {
@@ -39,7 +41,7 @@ std::vector<Texte> LirePhrase(VueTexte texte, VueTexte lettres)
 std::optional<std::vector<Texte>> TirerPhrase(Plateforme& plateforme, VueTexte texte, VueTexte lettres, VueTexte banque)
 {
     for (int tirage = 0; tirage < TiragesMaximum; ++tirage) {
-        const auto point = texte.find(u'.', Tirer(plateforme, texte.size()));
+        const auto point = texte.find(u'.', Tirer(plateforme, static_cast<double>(texte.size())));
         auto mots = LirePhrase(texte.substr(point == VueTexte::npos ? 0 : point + 1), lettres);
         if (mots.size() >= MotsMinimum && mots.size() <= MotsMaximum && banque.find(EnPhrase(mots)) == VueTexte::npos)
             return mots;

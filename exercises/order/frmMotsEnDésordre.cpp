@@ -1,6 +1,7 @@
 #include "exercises/order/frmMotsEnDésordre.h"
 
 #include "core/Fonctions.h"
+#include "core/Passages.h"
 #include "exercises/Conclure.h"
 #include "exercises/order/TirerPhrase.h"
 #include "followup/Notes.h"
@@ -14,11 +15,6 @@ namespace {
 constexpr int ColonnesDeMots = 5;
 constexpr VueTexte SignesDesMots = u"'-(),\"«»";
 constexpr VueTexte Quitter = u"&Quitter";
-
-int Compte(const Label& compteur)
-{
-    return static_cast<int>(Valeur(compteur.Caption));
-}
 
 Texte EntreGuillemets(VueTexte mot)
 {
@@ -104,7 +100,7 @@ void frmMotsEnDésordre::CommencerPhrase()
         lblMot(i).Visible = true;
     txtPhrase.Text = u" ";
     Sélectionner(0, 1);
-    lblEssais.Caption = EnTexte(static_cast<long long>(cmbOrdre.ListCount() / MotsParEssai));
+    lblEssais.Caption = EnTexte(cmbOrdre.ListCount() / MotsParEssai);
     lblEssaisMax.Caption = lblEssais.Caption;
     cmdTerminé.Enabled = true;
 }
@@ -161,9 +157,8 @@ void frmMotsEnDésordre::SélectionnerSous(std::size_t position)
         Sélectionner(position, 1);
         return;
     }
-    const auto avant = phrase.rfind(u' ', position); // the sentence begins and ends with a blank
-    const auto après = phrase.find(u' ', position);
-    Sélectionner(avant, après + 1 - avant);
+    const auto mot = MorceauAutour(phrase, position, u" ");
+    Sélectionner(mot.Début - 1, mot.Longueur() + 2); // the sentence begins and ends with a blank
 }
 
 void frmMotsEnDésordre::Sélectionner(std::size_t début, std::size_t longueur)
@@ -189,10 +184,9 @@ Texte frmMotsEnDésordre::DécrireSélection() const
     if (const auto mot = Rogner(choisi); !mot.empty())
         return u"Mot choisi : " + EntreGuillemets(mot);
     const VueTexte phrase = txtPhrase.Text;
-    auto avant = phrase.substr(0, txtPhrase.SelStart);
-    avant.remove_prefix(std::min(avant.size(), avant.rfind(u' ') + 1));
-    auto après = phrase.substr(txtPhrase.SelStart + 1);
-    après = après.substr(0, après.find(u' '));
+    const auto place = txtPhrase.SelStart();
+    const auto avant = MorceauAutour(phrase, place, u" ").Dans(phrase);
+    const auto après = MorceauAutour(phrase, place + 1, u" ").Dans(phrase);
     if (avant.empty() && après.empty())
         return u"Place choisie : le début de la phrase";
     if (avant.empty())

@@ -137,9 +137,7 @@ void frmPendu::PréparerMot()
 
 void frmPendu::TirerMot()
 {
-    const auto k = static_cast<int>(Tirer(application_.plateforme, static_cast<std::size_t>(cmbMots.ListCount())));
-    lblRéf.Caption = cmbMots.List(k);
-    cmbMots.RemoveItem(k);
+    lblRéf.Caption = TirerEtRetirer(cmbMots, application_.plateforme);
     Texte masqué = lblRéf.Caption;
     std::replace_if(
         masqué.begin(), masqué.end(), [](char16_t c) { return c != u'-'; }, Masque);

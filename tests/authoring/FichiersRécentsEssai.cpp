@@ -15,7 +15,7 @@ struct Récents {
     void Remplir(int nombre)
     {
         for (int i = 1; i <= nombre; ++i)
-            liste.AddItem(u"/t/" + EnTexte(static_cast<long long>(i)) + u".rtf");
+            liste.AddItem(u"/t/" + EnTexte(i) + u".rtf");
     }
 };
 

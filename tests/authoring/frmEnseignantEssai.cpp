@@ -28,7 +28,7 @@ void PlacerTémoin(BancEditeur& banc, const std::string& nom)
 
 Texte Entrée(int i, const Texte& chemin)
 {
-    return u" " + EnTexte(static_cast<long long>(i)) + u" - " + chemin;
+    return u" " + EnTexte(i) + u" - " + chemin;
 }
 
 std::string NomNuméroté(int i)
@@ -1418,7 +1418,7 @@ struct ListePolices : BancEditeur {
             polices.push_back(Nom(i));
         return polices;
     }
-    static Texte Nom(int i) { return (i < 10 ? u"P0" : u"P") + EnTexte(static_cast<long long>(i)); }
+    static Texte Nom(int i) { return (i < 10 ? u"P0" : u"P") + EnTexte(i); }
     [[nodiscard]] std::vector<Texte> Lignes() const
     {
         std::vector<Texte> lignes;

@@ -196,6 +196,16 @@ TEST(Eléments, IncrémenterCompteDansLaLégende)
     EXPECT_EQ(écran.lblUn.Caption, u"-1");
 }
 
+TEST(Eléments, CompteLitLaLégendeEnNombreEntier)
+{
+    Banc banc;
+    auto& écran = banc.Ouvrir<Essai>();
+    for (const auto& [légende, compte] : {std::pair{u"0", 0}, {u" 12 ", 12}, {u"-3", -3}, {u"7,5", 7}, {u"", 0}}) {
+        écran.lblUn.Caption = légende;
+        EXPECT_EQ(Compte(écran.lblUn), compte);
+    }
+}
+
 TEST(Eléments, CacherLeCadreCacheCeQuIlTient)
 {
     Banc banc;

@@ -109,6 +109,9 @@ TEST(Texte, NombreEnTexteASeptChiffres)
     EXPECT_EQ(EnTexte(0.0001F, u','), u"0,0001");
     EXPECT_EQ(EnTexte(0.00005F, u','), u"0"); // no exponent, which no reader would take
     EXPECT_EQ(EnTexte(-12LL), u"-12");
+    EXPECT_EQ(EnTexte(9007199254740993LL), u"9007199254740993");
+    EXPECT_EQ(EnTexte(0), u"0");
+    EXPECT_EQ(EnTexte(-2147483647 - 1), u"-2147483648");
 }
 
 TEST(Texte, ContientChercheUnCaractère)

@@ -54,6 +54,27 @@ TEST(TirageVocabulaire, VocabulaireVideNeTireRien)
     EXPECT_EQ(CompterMotsDifférents(banc.Choix().cmbVocabulaire), 0);
 }
 
+TEST(TirageVocabulaire, AucunMotDemandéNeTireRien)
+{
+    Banc banc;
+    banc.Vocabulaire({u"âne"});
+    EXPECT_TRUE(Tirés(banc, 0).empty());
+    EXPECT_TRUE(Tirés(banc, -1).empty());
+}
+
+TEST(TirageVocabulaire, MotTiréQuitteLaListe)
+{
+    Banc banc;
+    banc.Vocabulaire({u"âne", u"bal", u"cri"});
+    banc.Hasards({0.34, 0.99, 0.0});
+    auto& mots = banc.Choix().cmbVocabulaire;
+    EXPECT_EQ(TirerEtRetirer(mots, banc.plateforme), u"bal");
+    EXPECT_EQ(mots.Eléments(), (std::vector<Texte>{u"âne", u"cri"}));
+    EXPECT_EQ(TirerEtRetirer(mots, banc.plateforme), u"cri");
+    EXPECT_EQ(TirerEtRetirer(mots, banc.plateforme), u"âne");
+    EXPECT_EQ(mots.ListCount(), 0);
+}
+
 TEST(TirageVocabulaire, CinqCentsMotsDontUnSeulDiffèreSontTirésTousDeux)
 {
     Banc banc;

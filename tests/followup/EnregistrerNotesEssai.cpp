@@ -274,13 +274,13 @@ TEST(SauverBilan, HuitMachinesEnregistrentEnsembleSansSeGêner)
         std::vector<Texte> champs;
         for (int texte = 0; texte <= fois % 7; ++texte) {
             champs.emplace_back(Marqueur);
-            champs.push_back(u"Texte " + EnTexte(static_cast<long long>(texte)));
-            champs.insert(champs.end(), NombreColonnes - 1, EnTexte(static_cast<long long>(machine * 1000 + fois)));
+            champs.push_back(u"Texte " + EnTexte(texte));
+            champs.insert(champs.end(), NombreColonnes - 1, EnTexte(machine * 1000 + fois));
         }
         return ComposerChamps(champs).value();
     };
     const auto fichier = [&](int machine) {
-        return EnChemin(FichierBilan(banc.état.CheminBilans, u"Élève " + EnTexte(static_cast<long long>(machine))));
+        return EnChemin(FichierBilan(banc.état.CheminBilans, u"Élève " + EnTexte(machine)));
     };
     std::array<pid_t, Machines> enfants{};
     for (int machine = 0; machine < Machines; ++machine) {

@@ -368,7 +368,7 @@ TEST(Bilan, CinqMilleTextes)
     Banc banc;
     std::vector<Texte> champs;
     for (int i = 0; i < PetitsTitres; ++i) {
-        const auto fiche = Fiche(u"Texte " + EnTexte(static_cast<long long>(i)), u"100", {u"4", u"8"});
+        const auto fiche = Fiche(u"Texte " + EnTexte(i), u"100", {u"4", u"8"});
         champs.insert(champs.end(), fiche.begin(), fiche.end());
     }
     Connexion choix{banc, champs};
@@ -552,7 +552,7 @@ TEST(Exercices, SansVitesseLeQuestionnaireUnPasseEnPremier)
         EXPECT_EQ(banc.plateforme.boîtesMontrées.back().Titre, u"Avertissement");
         EXPECT_FALSE(choix->lblExo(i).Bordure);
         EXPECT_EQ(choix->lblExo(i).MousePointer, Pointeur::Normal);
-        EXPECT_EQ(choix->lblIndex.Caption, EnTexte(static_cast<long long>(i)));
+        EXPECT_EQ(choix->lblIndex.Caption, EnTexte(i));
     }
 }
 

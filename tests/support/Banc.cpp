@@ -412,7 +412,7 @@ void Banc::Vocabulaire(std::initializer_list<Texte> mots)
 
 void Banc::Index(int exercice)
 {
-    Choix().lblIndex.Caption = EnTexte(static_cast<long long>(exercice));
+    Choix().lblIndex.Caption = EnTexte(exercice);
 }
 
 void Banc::Montrer(std::unique_ptr<Ecran> écran)

@@ -1,4 +1,5 @@
 // The test platform notices what a test would otherwise overlook.
+#include "core/Tirage.h"
 #include "tests/support/Banc.h"
 #include "tests/support/EcranTexte.h"
 

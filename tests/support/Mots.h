@@ -13,7 +13,7 @@ inline std::vector<Texte> Mots(int nombre)
     std::vector<Texte> mots;
     mots.reserve(static_cast<std::size_t>(nombre));
     for (int i = 0; i < nombre; ++i)
-        mots.push_back(u"mot" + EnTexte(static_cast<long long>(i / Base)) + EnTexte(static_cast<long long>(i % Base)));
+        mots.push_back(u"mot" + EnTexte(i / Base) + EnTexte(i % Base));
     return mots;
 }
 

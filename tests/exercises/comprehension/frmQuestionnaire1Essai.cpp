@@ -32,7 +32,7 @@ void Questionnaire(Banc& banc, int nombre)
 {
     std::vector<std::vector<Texte>> questions;
     for (int i = 1; i <= nombre; ++i)
-        questions.push_back(Question(u"Question " + EnTexte(static_cast<long long>(i))));
+        questions.push_back(Question(u"Question " + EnTexte(i)));
     Questionnaire(banc, questions);
 }
 
@@ -262,8 +262,8 @@ TEST(Questionnaire, DouzeQuestionsJusquAuBout)
     Questionnaire(banc, 12);
     auto& écran = Lu(banc);
     for (int i = 1; i <= 12; ++i) {
-        EXPECT_EQ(écran.lblNuméro.Caption, EnTexte(static_cast<long long>(i)));
-        EXPECT_EQ(écran.txtQuestion.Text, u"Question " + EnTexte(static_cast<long long>(i)));
+        EXPECT_EQ(écran.lblNuméro.Caption, EnTexte(i));
+        EXPECT_EQ(écran.txtQuestion.Text, u"Question " + EnTexte(i));
         EXPECT_FALSE(écran.lblOuiNon.Visible);
         Répondre(écran, {0});
         EXPECT_FALSE(écran.chkRéponse(0).Enabled);

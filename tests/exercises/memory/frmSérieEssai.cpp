@@ -333,7 +333,7 @@ TEST(Série, AvecCinqMotsLeScoreMonteDeDeuxEnDeux)
             JouerSérie(écran, longueur);
             écran.cmdContinuer.Cliquer();
         }
-        EXPECT_EQ(banc.Note(IndexSérie), EnTexte(static_cast<long long>(2 * longueur)));
+        EXPECT_EQ(banc.Note(IndexSérie), EnTexte(2 * longueur));
     }
 }
 

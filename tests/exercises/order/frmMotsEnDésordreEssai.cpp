@@ -90,7 +90,7 @@ Texte Phrase(int mots, VueTexte fin = u".")
 {
     Texte phrase;
     for (int i = 0; i < mots; ++i)
-        phrase.append(i == 0 ? u"" : u" ").append(u"mot").append(EnTexte(static_cast<long long>(i)));
+        phrase.append(i == 0 ? u"" : u" ").append(u"mot").append(EnTexte(i));
     return phrase.append(fin);
 }
 
