@@ -2,6 +2,7 @@
 
 #include "core/Ecran.h"
 #include "followup/EnregistrerNotes.h"
+#include "followup/Notes.h"
 
 namespace tirelune {
 
@@ -10,6 +11,11 @@ void Conclure(Ecran& exercice, frmExercices& choix, float note)
     EnregistrerNote(choix, note);
     SauverBilan(choix);
     exercice.Décharger();
+}
+
+void ConclureSurPoints(Ecran& exercice, frmExercices& choix, const Tableau<Label>& lblPoints)
+{
+    Conclure(exercice, choix, NoteSurDix(lblPoints(0), lblPoints(1)));
 }
 
 } // namespace tirelune

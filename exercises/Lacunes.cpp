@@ -1,6 +1,8 @@
 #include "exercises/Lacunes.h"
 
+#include "core/Passages.h"
 #include "exercises/BandeDePoints.h"
+#include "exercises/ListeDeMots.h"
 
 #include <algorithm>
 #include <cassert>
@@ -71,26 +73,32 @@ std::vector<Texte> MotsEnlevés(VueTexte texte, const std::vector<Lacune>& lacun
     return mots;
 }
 
-void RemplirListe(ComboBox& liste, std::vector<Texte> mots)
+namespace {
+
+// The gap that all these characters belong to; the end, where there is none.
+std::vector<Lacune>::const_iterator LacuneAutour(const std::vector<Lacune>& lacunes, std::size_t début,
+                                                 std::size_t longueur)
 {
-    liste.AddItems(std::move(mots));
-    if (liste.ListCount() > 0)
-        liste.Montrer(0);
+    return std::find_if(lacunes.begin(), lacunes.end(), [&](const Lacune& une) {
+        return début >= une.Début && début + longueur <= une.Début + une.Longueur;
+    });
 }
 
-void SélectionnerTrait(RichTextBox& boîte)
+} // namespace
+
+void SélectionnerTrait(RichTextBox& boîte, const std::vector<Lacune>& ouvertes)
 {
     const VueTexte texte = boîte.Text();
-    auto place = boîte.SelStart();
-    if (place >= texte.size() || texte[place] != Trait) {
+    const auto place = boîte.SelStart();
+    const auto lacune = LacuneAutour(ouvertes, place, 1);
+    if (lacune == ouvertes.end() || texte[place] != Trait) {
         boîte.SelLength(0);
         return;
     }
-    while (place > 0 && texte[place] == Trait)
-        --place;
-    const auto début = place + 1;
-    const auto fin = std::min(texte.find_first_not_of(Trait, début), texte.size());
-    boîte.Sélectionner(début, fin - début);
+    const auto traits =
+        MotAutour(texte.substr(lacune->Début, lacune->Longueur), place - lacune->Début, VueTexte{&Trait, 1});
+    const auto début = std::max<std::size_t>(1, lacune->Début + traits.Début);
+    boîte.Sélectionner(début, std::max(début, lacune->Début + traits.Fin) - début);
 }
 
 void RefuserDoubleClic(RichTextBox& boîte)
@@ -113,16 +121,25 @@ void EffacerSélectionRefusée(RichTextBox& boîte)
 namespace {
 
 // The word takes the place of the gap and leaves the list.
-void PlacerMot(const JeuDeLacunes& jeu)
+void PlacerMot(const JeuDeLacunes& jeu, std::vector<Lacune>::const_iterator lacune)
 {
     jeu.Boîte.SelColor = VertFoncé;
     jeu.Boîte.SelUnderline = true;
     jeu.Boîte.SelText(jeu.Liste.Text);
-    if (const int index = jeu.Liste.Chercher(jeu.Liste.Text); index >= 0)
-        jeu.Liste.RemoveItem(index);
-    if (jeu.Liste.ListCount() > 0)
-        jeu.Liste.Montrer(0);
-    Incrémenter(jeu.lblPoints(0));
+    const auto [début, longueur] = *lacune;
+    if (VueTexte{jeu.Boîte.Text()}.substr(début, longueur) == VueTexte{jeu.Clé.rtfTexte.Text()}.substr(début, longueur))
+        jeu.Ouvertes.erase(lacune);
+    RetirerDeListe(jeu.Liste, jeu.Liste.Text);
+    Incrémenter(jeu.Points(0));
+}
+
+// True: the word of the list is what the key has where the selection is.
+bool MotJuste(const JeuDeLacunes& jeu)
+{
+    auto& clé = jeu.Clé.rtfTexte;
+    clé.Sélectionner(jeu.Boîte.SelStart(), jeu.Boîte.SelLength());
+    jeu.Boîte.SelLength(clé.SelLength());
+    return clé.SelText() == jeu.Liste.Text();
 }
 
 } // namespace
@@ -132,27 +149,23 @@ void EssayerMot(const JeuDeLacunes& jeu)
     const auto choisi = jeu.Boîte.SelText();
     if (choisi.find_first_not_of(Trait) != Texte::npos)
         return;
-    if (!choisi.empty()) {
-        auto& clé = jeu.Clé.rtfTexte;
-        clé.Sélectionner(jeu.Boîte.SelStart(), jeu.Boîte.SelLength());
-        jeu.Boîte.SelLength(clé.SelLength());
-        if (clé.SelText() == jeu.Liste.Text()) {
-            PlacerMot(jeu);
+    const auto lacune = LacuneAutour(jeu.Ouvertes, jeu.Boîte.SelStart(), choisi.size());
+    if (!choisi.empty() && lacune != jeu.Ouvertes.end()) {
+        if (MotJuste(jeu)) {
+            PlacerMot(jeu, lacune);
         } else {
             jeu.Boîte.SelColor = Rouge;
             jeu.Boîte.SelLength(0);
         }
-        Incrémenter(jeu.lblPoints(1));
+        Incrémenter(jeu.Points(1));
     }
-    if (!Contient(jeu.Boîte.Text(), Trait)) {
-        jeu.frameFin.Visible = true;
-        jeu.cmdQuitter.SetFocus();
-    }
+    if (jeu.Ouvertes.empty())
+        Montrer(jeu.Fin);
 }
 
 Arrangement BarreDeLacunes(const JeuDeLacunes& jeu, Button& ok, Image& image)
 {
-    return Ligne{AuMoins(720, 480, image), AuMoins(3600, 0, jeu.Liste), ok, Ressort{}, BandeDePoints(jeu.lblPoints)};
+    return Ligne{AuMoins(720, 480, image), AuMoins(3600, 0, jeu.Liste), ok, Ressort{}, BandeDePoints(jeu.Points)};
 }
 
 Dessin DessinCrayon()

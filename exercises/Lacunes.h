@@ -1,7 +1,7 @@
 // Gaps: words of the pupil's text that give way to underscores, and the play of putting them back from a list.
 // A gap is as long as what it hides, so that a position is the same in the text with gaps and in the key.
 #pragma once
-#include "core/Ecran.h"
+#include "exercises/TexteEtBarre.h"
 #include "followup/frmExercices.h"
 
 #include <vector>
@@ -29,23 +29,21 @@ struct JeuDeLacunes {
     frmExercices& Clé; // holds the key
     RichTextBox& Boîte;
     ComboBox& Liste;
-    Tableau<Label>& lblPoints;
-    Frame& frameFin;
-    Button& cmdQuitter;
+    Tableau<Label>& Points;
+    FinDeTexte& Fin;
+    std::vector<Lacune>& Ouvertes; // the gaps that are still to be filled
 };
 
-// Puts the words in the list and shows the first.
-void RemplirListe(ComboBox& liste, std::vector<Texte> mots);
-
-// Makes of the caret a selection of the whole gap under it; of nothing, when there is none. The way back to the
-// start of a gap never looks at the first character of the text: a gap that starts there is taken from its second.
-void SélectionnerTrait(RichTextBox& boîte);
+// Makes of the caret a selection of the whole gap under it; of nothing, when there is none: the text may have
+// underscores of its own. The way back to the start of a gap never looks at the first character of the text: a gap
+// that starts there is taken from its second.
+void SélectionnerTrait(RichTextBox& boîte, const std::vector<Lacune>& ouvertes);
 
 // A double click is refused with a message, and the selection that it makes is wiped when it comes.
 void RefuserDoubleClic(RichTextBox& boîte);
 void EffacerSélectionRefusée(RichTextBox& boîte);
 
-// Tries the word of the list in the selected gap, counts the try, and shows the end frame once no underscore is left.
+// Tries the word of the list in the selected gap, counts the try, and shows the end frame once no gap is left.
 void EssayerMot(const JeuDeLacunes& jeu);
 
 // The bar below the text: picture, list, button, points.

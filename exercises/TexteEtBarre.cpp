@@ -2,12 +2,27 @@
 
 namespace tirelune {
 
-Arrangement TexteEtBarre(RichTextBox& texte, Arrangement barre, Frame& fin, TextBox& message, Button& quitter)
+FinDeTexte::FinDeTexte(Ecran& écran)
+    : Cadre(écran, "frameFin", {.Caption = u"Texte complété", .Visible = false, .BackColor = BleuClair}),
+      Message(écran, "Text1", {.Caption = u"C'est fini !", .FontSize = 24, .Centré = true}),
+      Bouton(écran, "cmdQuitter", {.Caption = u"&Quitter", .FontSize = 16})
+{
+    Message.Locked = true;
+}
+
+void Montrer(FinDeTexte& fin)
+{
+    fin.Cadre.Visible = true;
+    fin.Bouton.SetFocus();
+}
+
+Arrangement TexteEtBarre(RichTextBox& texte, Arrangement barre, FinDeTexte& fin)
 {
     return Pile{
         Colonne{Ressort{}, std::move(barre)},
         Libre{texte},
-        Colonne{Ressort{}, Centré{Cadre{fin, AuMoins(4200, 0, Colonne{message, Centré{quitter}})}}, Ressort{}},
+        Colonne{Ressort{}, Centré{Cadre{fin.Cadre, AuMoins(4200, 0, Colonne{fin.Message, Centré{fin.Bouton}})}},
+                Ressort{}},
     };
 }
 

@@ -5,7 +5,18 @@
 
 namespace tirelune {
 
-// Below the text stands `barre`, in the strip that Ecran::AjusterBoîte leaves; above it `fin`, with what it holds.
-Arrangement TexteEtBarre(RichTextBox& texte, Arrangement barre, Frame& fin, TextBox& message, Button& quitter);
+// The end frame, hidden at the start. The screen binds the button, which records the score.
+struct FinDeTexte {
+    explicit FinDeTexte(Ecran& écran);
+
+    Frame Cadre;
+    TextBox Message;
+    Button Bouton;
+};
+
+void Montrer(FinDeTexte& fin);
+
+// Below the text stands `barre`, in the strip that Ecran::AjusterBoîte leaves; above it the end frame.
+Arrangement TexteEtBarre(RichTextBox& texte, Arrangement barre, FinDeTexte& fin);
 
 } // namespace tirelune

@@ -2,8 +2,7 @@
 
 #include "core/Tirage.h"
 #include "exercises/Conclure.h"
-#include "exercises/TexteEtBarre.h"
-#include "followup/Notes.h"
+#include "exercises/ListeDeMots.h"
 
 #include <cmath>
 
@@ -63,23 +62,19 @@ ChoixDeLacunes ChoisirLacunes(VueTexte texte, std::size_t départ)
 frmClosures::frmClosures(frmExercices& choix) : Ecran(choix.ApplicationDe(), "frmClosures", u"Closures"), choix_(choix)
 {
     rtfClosures.Locked = true;
-    Text1.Locked = true;
     Image1.Picture = DessinCrayon();
-    rtfClosures.Click = [this] { SélectionnerTrait(rtfClosures); };
+    rtfClosures.Click = [this] { SélectionnerTrait(rtfClosures, lacunes_); };
     rtfClosures.KeyPress = [this](Touche& touche) { rtfClosures_KeyPress(touche); };
     rtfClosures.DblClick = [this] { RefuserDoubleClic(rtfClosures); };
     rtfClosures.SelChange = [this] { EffacerSélectionRefusée(rtfClosures); };
-    cmbClosures.KeyPress = [](Touche& touche) {
-        if (touche.Caractère != 0) // nothing can be typed; the arrows go through the list
-            touche.Avaler();
-    };
+    cmbClosures.KeyPress = RefuserFrappe;
     cmdOk.Click = [this] { EssayerMot(jeu_); };
-    cmdQuitter.Click = [this] { cmdQuitter_Click(); };
+    fin.Bouton.Click = [this] { ConclureSurPoints(*this, choix_, lblPoints); };
 }
 
 Arrangement frmClosures::Disposer()
 {
-    return TexteEtBarre(rtfClosures, BarreDeLacunes(jeu_, cmdOk, Image1), frameFin, Text1, cmdQuitter);
+    return TexteEtBarre(rtfClosures, BarreDeLacunes(jeu_, cmdOk, Image1), fin);
 }
 
 void frmClosures::Load()
@@ -92,7 +87,7 @@ void frmClosures::Load()
 void frmClosures::OuvrirTrous()
 {
     const auto& clé = choix_.rtfTexte.Text();
-    const auto trous = ChoisirLacunes(clé, Tirer(application_.plateforme, DépartsPossibles));
+    auto trous = ChoisirLacunes(clé, Tirer(application_.plateforme, DépartsPossibles));
     auto texte = OuvrirLacunes(choix_.rtfTexte.TextRTF(), trous.Lacunes);
     texte.Formater(0, texte.Longueur(), [](Format& format) {
         format.Barré = false;
@@ -103,6 +98,7 @@ void frmClosures::OuvrirTrous()
     auto mots = MotsEnlevés(clé, trous.Lacunes);
     mots.resize(trous.Annoncées);
     RemplirListe(cmbClosures, std::move(mots));
+    lacunes_ = std::move(trous.Lacunes);
 }
 
 void frmClosures::Activate()
@@ -121,12 +117,7 @@ void frmClosures::Resize()
 void frmClosures::rtfClosures_KeyPress(const Touche& touche)
 {
     if (touche.Code == Touche::Entrée)
-        SélectionnerTrait(rtfClosures);
-}
-
-void frmClosures::cmdQuitter_Click()
-{
-    Conclure(*this, choix_, NoteSurDix(lblPoints(0), lblPoints(1)));
+        SélectionnerTrait(rtfClosures, lacunes_);
 }
 
 } // namespace tirelune

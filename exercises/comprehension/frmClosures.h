@@ -14,9 +14,7 @@ public:
         *this, "cmbClosures", {.Caption = u" Liste des mots enlevés ", .FontSize = 16, .Sorted = true}};
     Button cmdOk{*this, "cmdOk", {.Caption = u"&Ok", .FontSize = 16}};
     Tableau<Label> lblPoints{*this, "lblPoints", EtatsDesPoints()};
-    Frame frameFin{*this, "frameFin", {.Caption = u"Texte complété", .Visible = false, .BackColor = BleuClair}};
-    TextBox Text1{*this, "Text1", {.Caption = u"C'est fini !", .FontSize = 24, .Centré = true}};
-    Button cmdQuitter{*this, "cmdQuitter", {.Caption = u"&Quitter", .FontSize = 16}};
+    FinDeTexte fin{*this};
     Image Image1{*this, "Image1"};
 
 private:
@@ -25,12 +23,12 @@ private:
     void Resize() override;
     Arrangement Disposer() override;
 
-    void cmdQuitter_Click();
     void rtfClosures_KeyPress(const Touche& touche);
     void OuvrirTrous();
 
     frmExercices& choix_;
-    const JeuDeLacunes jeu_{choix_, rtfClosures, cmbClosures, lblPoints, frameFin, cmdQuitter};
+    std::vector<Lacune> lacunes_; // still to be filled
+    const JeuDeLacunes jeu_{choix_, rtfClosures, cmbClosures, lblPoints, fin, lacunes_};
 };
 
 // The words that the exercise takes out of a text, from a start on.

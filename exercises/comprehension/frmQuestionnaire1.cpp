@@ -1,10 +1,8 @@
 #include "exercises/comprehension/frmQuestionnaire1.h"
 
-#include "core/FichierChamps.h"
 #include "exercises/Conclure.h"
 #include "followup/EnregistrerNotes.h"
 #include "followup/GrilleRésultats.h"
-#include "followup/Notes.h"
 
 #include <algorithm>
 #include <cmath>
@@ -13,10 +11,6 @@ namespace tirelune {
 
 namespace {
 
-constexpr int ColonneQuestion = 0;
-constexpr int NombreChoix = 5;
-constexpr std::size_t ChampsParQuestion = 11;
-constexpr int QuestionsMaximum = 12;
 constexpr int PlaceDesQuestions = 1000; // twips from the text's left and from the top
 constexpr int LargeurQuestions = 8400;  // twips
 constexpr int HauteurQuestions = 7000;
@@ -24,16 +18,6 @@ constexpr double SecondesParJour = 86400;
 constexpr VueTexte Vérifier = u"&Vérifier";
 constexpr VueTexte Suivante = u"&Suivante";
 constexpr VueTexte Fin = u"Fin du questionnaire";
-
-int ColonneChoix(int i)
-{
-    return 2 * i + 1;
-}
-
-int ColonneDrapeau(int i)
-{
-    return 2 * i + 2;
-}
 
 } // namespace
 
@@ -56,8 +40,8 @@ frmQuestionnaire1::frmQuestionnaire1(frmExercices& choix)
 Arrangement frmQuestionnaire1::Disposer()
 {
     std::vector<Arrangement> choix;
-    choix.reserve(NombreChoix);
-    for (int i = 0; i < NombreChoix; ++i)
+    choix.reserve(ChoixParQuestion);
+    for (int i = 0; i < ChoixParQuestion; ++i)
         choix.emplace_back(Ligne{chkRéponse(i), Extensible(txtChoix(i))});
     return Pile{
         Colonne{Ressort{}, Pile{Ligne{lblConseil, Ressort{}, cmdInitialise}, cmdOk}},
@@ -187,18 +171,14 @@ void frmQuestionnaire1::MontrerQuestionsSansTexte()
 
 void frmQuestionnaire1::ChargerQuestions()
 {
-    const auto champs = LireChamps(EnChemin(état.NomFichierQuestions)).value_or(std::vector<Texte>{});
-    const auto nombre = std::min<std::size_t>(champs.size(), QuestionsMaximum * ChampsParQuestion);
-    for (std::size_t i = 0; i < nombre; ++i)
-        fgQuestions.TextMatrix(static_cast<int>(i / ChampsParQuestion), static_cast<int>(i % ChampsParQuestion),
-                               champs[i]);
+    LireQuestions(EnChemin(état.NomFichierQuestions), fgQuestions);
     AfficherQuestion(0);
 }
 
 void frmQuestionnaire1::AfficherQuestion(int rangée)
 {
     txtQuestion.Text = Rogner(fgQuestions.TextMatrix(rangée, ColonneQuestion));
-    for (int i = 0; i < NombreChoix; ++i) {
+    for (int i = 0; i < ChoixParQuestion; ++i) {
         txtChoix(i).Text = Rogner(fgQuestions.TextMatrix(rangée, ColonneChoix(i)));
         chkRéponse(i).Value = 0;
         txtChoix(i).Visible = !txtChoix(i).Text().empty();
@@ -247,7 +227,7 @@ bool frmQuestionnaire1::EstDernièreQuestion() const
 
 bool frmQuestionnaire1::RéponseJuste(int rangée) const
 {
-    for (int i = 0; i < NombreChoix; ++i) {
+    for (int i = 0; i < ChoixParQuestion; ++i) {
         const double drapeau = Valeur(fgQuestions.TextMatrix(rangée, ColonneDrapeau(i)));
         if (chkRéponse(i).Visible && drapeau != chkRéponse(i).Value)
             return false;
@@ -269,7 +249,7 @@ void frmQuestionnaire1::CorrigerQuestion()
 void frmQuestionnaire1::cmdQuitter_Click()
 {
     if (cmdVérifier.Caption == Fin)
-        Conclure(*this, choix_, NoteSurDix(lblPoints(0), lblPoints(1)));
+        ConclureSurPoints(*this, choix_, lblPoints);
     else
         Décharger();
 }

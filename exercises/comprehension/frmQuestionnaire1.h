@@ -2,6 +2,7 @@
 // view, in a frame that the pupil can drag away.
 #pragma once
 #include "core/Ecran.h"
+#include "core/Questionnaire.h"
 #include "exercises/BandeDePoints.h"
 #include "followup/frmExercices.h"
 
@@ -34,7 +35,7 @@ public:
     Label lblNuméro{*this, "lblNuméro", {.Caption = u"1", .Gras = true}};
     Tableau<Label> lblPoints{*this, "lblPoints", EtatsDesPoints()};
     TextBox txtQuestion{*this, "txtQuestion", {.Gras = true, .MultiLine = true}};
-    Tableau<CheckBox> chkRéponse{*this, "chkRéponse", 5};
+    Tableau<CheckBox> chkRéponse{*this, "chkRéponse", ChoixParQuestion};
     Tableau<TextBox> txtChoix{
         *this,
         "txtChoix",
@@ -44,7 +45,7 @@ public:
     Button cmdVérifier{*this, "cmdVérifier", u"&Vérifier"};
     Button cmdQuitter{*this, "cmdQuitter", u"&Quitter"};
 
-    Grid fgQuestions{*this, "fgQuestions", 12, 11};
+    Grid fgQuestions{*this, "fgQuestions", QuestionsMaximum, ChampsParQuestion};
 
 private:
     void Load() override;

@@ -4,7 +4,6 @@
 #include "exercises/ClassesDeLettres.h"
 #include "exercises/Conclure.h"
 #include "exercises/TexteEtBarre.h"
-#include "followup/Notes.h"
 
 namespace tirelune {
 
@@ -12,11 +11,10 @@ frmTexteMasqué::frmTexteMasqué(frmExercices& choix)
     : Ecran(choix.ApplicationDe(), "frmTexteMasqué", u"Texte Masqué"), choix_(choix)
 {
     rtfMasqué.Locked = true;
-    Text1.Locked = true;
     rtfMasqué.Click = [this] { rtfMasqué_Click(); };
     rtfMasqué.KeyPress = [this](Touche& touche) { rtfMasqué_KeyPress(touche); };
     lblLettre.Click([this](int k) { ProposerLettre(k); });
-    cmdQuitter.Click = [this] { cmdQuitter_Click(); };
+    fin.Bouton.Click = [this] { ConclureSurPoints(*this, choix_, lblPoints); };
 }
 
 Arrangement frmTexteMasqué::Disposer()
@@ -28,7 +26,7 @@ Arrangement frmTexteMasqué::Disposer()
         Ligne{Extensible(Label1), BandeDePoints(lblPoints)},
         Arrangement(Disposition::Ligne, std::move(lettres)),
     };
-    return TexteEtBarre(rtfMasqué, std::move(barre), frameFin, Text1, cmdQuitter);
+    return TexteEtBarre(rtfMasqué, std::move(barre), fin);
 }
 
 void frmTexteMasqué::Load()
@@ -119,15 +117,8 @@ void frmTexteMasqué::DévoilerLettre(int k, VueTexte classe)
     }
     rtfMasqué.Transcrire(std::move(texte));
     rtfMasqué.Refresh();
-    if (rtfMasqué.Text() == clé) {
-        frameFin.Visible = true;
-        cmdQuitter.SetFocus();
-    }
-}
-
-void frmTexteMasqué::cmdQuitter_Click()
-{
-    Conclure(*this, choix_, NoteSurDix(lblPoints(0), lblPoints(1)));
+    if (rtfMasqué.Text() == clé)
+        Montrer(fin);
 }
 
 } // namespace tirelune

@@ -3,6 +3,7 @@
 #pragma once
 #include "core/Ecran.h"
 #include "exercises/BandeDePoints.h"
+#include "exercises/TexteEtBarre.h"
 #include "followup/frmExercices.h"
 
 namespace tirelune {
@@ -20,9 +21,7 @@ public:
         26,
         {.ForeColor = Bleu, .FontSize = 14, .Gras = true, .Police = u"Comic Sans MS", .Centré = true, .Bordure = true}};
     Tableau<Label> lblPoints{*this, "lblPoints", EtatsDesPoints(14)};
-    Frame frameFin{*this, "frameFin", {.Caption = u"Texte complété", .Visible = false, .BackColor = BleuClair}};
-    TextBox Text1{*this, "Text1", {.Caption = u"C'est fini !", .FontSize = 24, .Centré = true}};
-    Button cmdQuitter{*this, "cmdQuitter", {.Caption = u"&Quitter", .FontSize = 16}};
+    FinDeTexte fin{*this};
 
 private:
     void Load() override;
@@ -32,7 +31,6 @@ private:
 
     void rtfMasqué_Click();
     void rtfMasqué_KeyPress(Touche& touche);
-    void cmdQuitter_Click();
 
     void MasquerTexte();
     void ProposerLettre(int k);

@@ -2,8 +2,8 @@
 
 #include "core/Tirage.h"
 #include "exercises/Conclure.h"
+#include "exercises/Propositions.h"
 #include "exercises/TirageVocabulaire.h"
-#include "followup/Notes.h"
 
 #include <algorithm>
 #include <array>
@@ -43,8 +43,7 @@ frmPhotographier::frmPhotographier(frmExercices& choix)
     cmdAfficher.Click = [this] { cmdAfficher_Click(); };
     Chrono.Tick = [this] { Chrono_Tick(); };
     lblRéponse.Click([this](int i) { lblRéponse_Click(i); });
-    cmdQuitter.Click = [this] { cmdQuitter_Click(); };
-    cmdAbandonner.Click = [this] { Décharger(); };
+    cmdQuitter.Click = [this] { ConclureSurPoints(*this, choix_, lblPoints); };
 }
 
 Arrangement frmPhotographier::Disposer()
@@ -60,7 +59,7 @@ Arrangement frmPhotographier::Disposer()
             }),
             Ligne{Ressort{}, cmdQuitter},
         },
-        Couverture{frameQuitter, Colonne{AuMoins(6000, 1200, Label2), Centré{cmdAbandonner}}},
+        EnPlace(notice),
     };
 }
 
@@ -68,8 +67,7 @@ void frmPhotographier::Load()
 {
     AjouterNomElève();
     if (CompterMotsDifférents(choix_.cmbVocabulaire) < MotsDifférentsMinimum) {
-        frameQuitter.Visible = true;
-        cmdAbandonner.SetFocus();
+        Montrer(notice);
         return;
     }
     cmdAfficher.SetFocus();
@@ -104,8 +102,7 @@ int frmPhotographier::ProposerMots()
 {
     int i = 0;
     for (auto& mot : TirerMotsDifférents(choix_.cmbVocabulaire, lblRéponse.Nombre(), application_.plateforme)) {
-        lblRéponse(i).AutoSize = true;
-        lblRéponse(i).Caption = std::move(mot);
+        Proposer(lblRéponse(i), std::move(mot));
         ++i;
     }
     return i;
@@ -124,18 +121,9 @@ void frmPhotographier::Chrono_Tick()
 
 // ---- The answer --------------------------------------------------------------------------------------------------
 
-bool frmPhotographier::EstRépondu() const
-{
-    for (int i = 0; i < lblRéponse.Nombre(); ++i) {
-        if (lblRéponse(i).BackColor != Blanc)
-            return true;
-    }
-    return false;
-}
-
 void frmPhotographier::lblRéponse_Click(int i)
 {
-    if (EstRépondu())
+    if (EstRépondu(lblRéponse))
         return;
     if (lblRéponse(i).Caption == lblMot.Caption) {
         lblRéponse(i).BackColor = Vert;
@@ -184,11 +172,6 @@ void frmPhotographier::RalentirVitesse()
         return;
     lblVitesse.Caption = Texte{Niveaux[niveau - 1]};
     Chrono.Interval = Chrono.Interval * 2;
-}
-
-void frmPhotographier::cmdQuitter_Click()
-{
-    Conclure(*this, choix_, NoteSurDix(lblPoints(0), lblPoints(1)));
 }
 
 } // namespace tirelune

@@ -3,6 +3,7 @@
 #pragma once
 #include "core/Ecran.h"
 #include "exercises/BandeDePoints.h"
+#include "exercises/Notice.h"
 #include "followup/frmExercices.h"
 
 namespace tirelune {
@@ -30,14 +31,7 @@ public:
     Tableau<Label> lblPoints{*this, "lblPoints", EtatsDesPoints()};
     Button cmdQuitter{*this, "cmdQuitter", {.Caption = u"&Quitter", .Visible = false, .FontSize = 16}};
 
-    Frame frameQuitter{*this, "frameQuitter", {.Caption = u"Pas assez de vocabulaire sélectionné", .Visible = false}};
-    Label Label2{*this,
-                 "Label2",
-                 {.Caption =
-                      u"Il doit y avoir au moins 5 mots de vocabulaire sélectionnés (en les barrant) pour lancer "
-                      u"l'exercice.",
-                  .FontSize = 16}};
-    Button cmdAbandonner{*this, "cmdAbandonner", {.Caption = u"&Abandonner", .FontSize = 16}};
+    Notice notice{*this, PasAssezDeVocabulaire};
 
 private:
     void Load() override;
@@ -46,11 +40,9 @@ private:
     void cmdAfficher_Click();
     void Chrono_Tick();
     void lblRéponse_Click(int i);
-    void cmdQuitter_Click();
 
     void EffacerRéponses();
     [[nodiscard]] int ProposerMots();
-    [[nodiscard]] bool EstRépondu() const;
     void AccélérerVitesse();
     void RalentirVitesse();
     void MontrerMotVu();

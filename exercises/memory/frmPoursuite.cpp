@@ -3,7 +3,7 @@
 #include "core/Fonctions.h"
 #include "core/Tirage.h"
 #include "exercises/Conclure.h"
-#include "followup/Notes.h"
+#include "exercises/Propositions.h"
 
 #include <algorithm>
 
@@ -20,7 +20,6 @@ constexpr double MargeDuTirage = 26; // characters of the text that no draw star
 constexpr std::size_t PremièrePlaceTirée = 25;
 constexpr int PoursuitesAvantLaDernière = 4;
 constexpr int TailleMinimum = 1000; // twips
-constexpr VueTexte Quitter = u"&Quitter";
 
 // ms between two letters: 1, 100, 200 or 400.
 std::int16_t PlusVite(std::int16_t vitesse)
@@ -146,18 +145,14 @@ std::optional<Passage> frmPoursuite::TirerArrêt()
 void frmPoursuite::TirerMotFinal(const Passage& arrêt)
 {
     lblCorrigé.Caption = Texte{arrêt.Dans(rtfPoursuite.Text())};
-    auto& place = lblMot(static_cast<int>(Tirer(application_.plateforme, PlacesDuMotFinal)));
-    place.AutoSize = true;
-    place.Caption = lblCorrigé.Caption;
+    Proposer(lblMot(static_cast<int>(Tirer(application_.plateforme, PlacesDuMotFinal))), lblCorrigé.Caption);
 }
 
 void frmPoursuite::RemplirPropositions()
 {
     for (auto& mot : lblMot) {
-        if (mot.Caption().empty() && TirerMotTexte()) {
-            mot.AutoSize = true;
-            mot.Caption = lblPassage.Caption;
-        }
+        if (mot.Caption().empty() && TirerMotTexte())
+            Proposer(mot, lblPassage.Caption);
         mot.Visible = !mot.Caption().empty();
     }
 }
@@ -228,18 +223,9 @@ void frmPoursuite::DemanderMot()
     premier->SetFocus(); // there is one: the right word
 }
 
-bool frmPoursuite::EstRépondu() const
-{
-    for (int i = 0; i < lblMot.Nombre(); ++i) {
-        if (lblMot(i).BackColor != Blanc)
-            return true;
-    }
-    return false;
-}
-
 void frmPoursuite::lblMot_Click(int i)
 {
-    if (EstRépondu())
+    if (EstRépondu(lblMot))
         return;
     if (lblMot(i).Caption == lblCorrigé.Caption) {
         lblMot(i).BackColor = Vert;
@@ -257,7 +243,7 @@ void frmPoursuite::lblMot_Click(int i)
 void frmPoursuite::cmdContinuer_Click()
 {
     if (cmdContinuer.Caption == Quitter) {
-        Conclure(*this, choix_, NoteSurDix(lblPoints(0), lblPoints(1)));
+        ConclureSurPoints(*this, choix_, lblPoints);
         return;
     }
     if (Compte(lblPoints(1)) >= PoursuitesAvantLaDernière)

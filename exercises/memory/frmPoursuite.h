@@ -58,7 +58,6 @@ private:
     // False: the screen was closed meanwhile.
     [[nodiscard]] bool FaireApparaître(std::size_t fin);
     void DemanderMot();
-    [[nodiscard]] bool EstRépondu() const;
 
     frmExercices& choix_;
     std::vector<Passage> mots_; // what stands before each blank of the text: a word, or nothing

@@ -1,10 +1,11 @@
 #include "exercises/memory/frmSérie.h"
 
 #include "exercises/Conclure.h"
+#include "exercises/Propositions.h"
 #include "exercises/TirageVocabulaire.h"
-#include "followup/Notes.h"
 
 #include <algorithm>
+#include <limits>
 
 namespace tirelune {
 
@@ -15,7 +16,6 @@ namespace {
 constexpr auto PauseAvantUnMot = 1000ms;
 constexpr auto PauseAprèsLaSuite = 2000ms;
 constexpr int SériesMaximum = 3;
-constexpr VueTexte Quitter = u"&Quitter";
 constexpr double TailleQuitter = 12; // points
 constexpr int MargeCase = 240;       // twips, left and right of a word together
 constexpr int Ecart = 90;            // twips, between slots
@@ -31,7 +31,6 @@ frmSérie::frmSérie(frmExercices& choix)
     cmdVoir.Click = [this] { cmdVoir_Click(); };
     lblChoix.Click([this](int c) { lblChoix_Click(c); });
     cmdContinuer.Click = [this] { cmdContinuer_Click(); };
-    cmdAbandonner.Click = [this] { Décharger(); };
 }
 
 Arrangement frmSérie::Disposer()
@@ -53,7 +52,7 @@ Arrangement frmSérie::Disposer()
             Extensible(Ligne{Extensible(cases), Extensible(Cadre{frameChoix, deuxColonnes})}),
             lblConsigne,
         },
-        Couverture{frameQuitter, Colonne{AuMoins(6000, 1200, Label2), Centré{cmdAbandonner}}},
+        EnPlace(notice),
     };
 }
 
@@ -61,24 +60,23 @@ void frmSérie::Load()
 {
     AjouterNomElève();
     if (CompterMotsDifférents(choix_.cmbVocabulaire) < MotsDifférentsMinimum) {
-        frameQuitter.Visible = true;
-        cmdAbandonner.SetFocus();
+        Montrer(notice);
         return;
     }
     NouvelleSérie();
     cmdVoir.SetFocus();
 }
 
-// The slots share the height that the bars leave, and no more than half the width: a long phrase gets small letters.
+// The slots share the height that the bars leave. The expected word comes up beside its slot, and before the list.
 void frmSérie::Resize()
 {
     const int pas = Height * 4 / 5 / lblMot.Nombre();
     for (int i = 0; i < lblMot.Nombre(); ++i) {
         lblMot(i).Top = i * pas;
         lblMot(i).Height = std::max(0, pas - Ecart);
-        lblMot(i).Width = std::min(lblMot(i).Width(), Width / 2);
         lblRéponse(i).Top = lblMot(i).Top;
-        lblRéponse(i).Left = lblMot(i).Width + Ecart;
+        lblMot(i).Width = std::min(lblMot(i).Width(), LargeurMaximum());
+        AjusterRéponse(i);
     }
 }
 
@@ -99,8 +97,7 @@ void frmSérie::ChoisirMots()
     int i = 0;
     for (auto& mot : TirerMotsDifférents(choix_.cmbVocabulaire, état.NoteSérie + 1, application_.plateforme)) {
         lblChoix(i).Visible = true;
-        lblChoix(i).AutoSize = true;
-        lblChoix(i).Caption = std::move(mot);
+        Proposer(lblChoix(i), std::move(mot));
         ++i;
     }
 }
@@ -111,23 +108,43 @@ void frmSérie::CacherOrdre()
     for (int i = 0; i <= état.NoteSérie; ++i)
         choix.push_back(lblChoix(i).Caption);
     int i = 0;
-    for (auto& mot : TirerMotsDifférents(choix, état.NoteSérie + 1, application_.plateforme)) {
+    for (const auto& mot : TirerMotsDifférents(choix, état.NoteSérie + 1, application_.plateforme)) {
+        Proposer(lblRéponse(i), mot);
         ElargirCases(mot);
-        lblRéponse(i).AutoSize = true;
-        lblRéponse(i).Caption = std::move(mot);
         ++i;
     }
 }
 
+int frmSérie::LargeurPour(const Texte& mot) const
+{
+    return static_cast<int>(application_.plateforme.LargeurTexte(mot, TailleMots)) + MargeCase;
+}
+
+// A slot and a word beside it share half the screen; a long phrase gets small letters or several lines.
+int frmSérie::LargeurMaximum() const
+{
+    return Width > 0 ? Width / 4 - Ecart : std::numeric_limits<int>::max(); // not shown yet
+}
+
 void frmSérie::ElargirCases(const Texte& mot)
 {
-    auto largeur = static_cast<int>(application_.plateforme.LargeurTexte(mot, TailleMots)) + MargeCase;
-    if (Width > 0) // shown
-        largeur = std::min(largeur, Width / 2);
+    const int largeur = std::min(LargeurPour(mot), LargeurMaximum());
     for (int j = 0; j < lblMot.Nombre(); ++j) {
         lblMot(j).Width = std::max(lblMot(j).Width(), largeur);
-        lblRéponse(j).Left = lblMot(j).Width + Ecart;
+        AjusterRéponse(j);
     }
+}
+
+void frmSérie::AjusterRéponse(int i)
+{
+    auto& réponse = lblRéponse(i);
+    réponse.Left = lblMot(i).Width + Ecart;
+    const int largeur = LargeurPour(réponse.Caption);
+    réponse.AutoSize = largeur <= LargeurMaximum();
+    if (réponse.AutoSize)
+        return;
+    réponse.Width = LargeurMaximum();
+    réponse.Height = lblMot(i).Height;
 }
 
 // ---- The display -------------------------------------------------------------------------------------------------
@@ -252,7 +269,7 @@ void frmSérie::lblChoix_Click(int c)
 void frmSérie::cmdContinuer_Click()
 {
     if (cmdContinuer.Caption == Quitter) {
-        Conclure(*this, choix_, NoteSurDix(lblPoints(0), lblPoints(1)));
+        ConclureSurPoints(*this, choix_, lblPoints);
         return;
     }
     cmdContinuer.Visible = false;

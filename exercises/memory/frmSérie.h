@@ -3,6 +3,7 @@
 #pragma once
 #include "core/Ecran.h"
 #include "exercises/BandeDePoints.h"
+#include "exercises/Notice.h"
 #include "followup/frmExercices.h"
 
 namespace tirelune {
@@ -31,14 +32,7 @@ public:
     Button cmdVoir{*this, "cmdVoir", {.Caption = u"&Voir", .FontSize = 16}};
     Button cmdContinuer{*this, "cmdContinuer", {.Caption = u"Série suivante", .Visible = false, .FontSize = 16}};
 
-    Frame frameQuitter{*this, "frameQuitter", {.Caption = u"Pas assez de vocabulaire sélectionné", .Visible = false}};
-    Label Label2{*this,
-                 "Label2",
-                 {.Caption =
-                      u"Il doit y avoir au moins 5 mots de vocabulaire sélectionnés (en les barrant) pour lancer "
-                      u"l'exercice.",
-                  .FontSize = 16}};
-    Button cmdAbandonner{*this, "cmdAbandonner", {.Caption = u"&Abandonner", .FontSize = 16}};
+    Notice notice{*this, PasAssezDeVocabulaire};
 
 private:
     static constexpr double TailleMots = 18; // points
@@ -54,7 +48,11 @@ private:
     void NouvelleSérie();
     void ChoisirMots();
     void CacherOrdre();
+    // Width in twips that a word wants, and that it may have.
+    [[nodiscard]] int LargeurPour(const Texte& mot) const;
+    [[nodiscard]] int LargeurMaximum() const;
     void ElargirCases(const Texte& mot);
+    void AjusterRéponse(int i);
     void AllongerSuite();
     // False: the screen was closed while the words came up.
     [[nodiscard]] bool MontrerSuite();

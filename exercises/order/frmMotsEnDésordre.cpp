@@ -1,10 +1,8 @@
 #include "exercises/order/frmMotsEnDésordre.h"
 
-#include "core/Fonctions.h"
 #include "core/Passages.h"
 #include "exercises/Conclure.h"
-#include "exercises/order/TirerPhrase.h"
-#include "followup/Notes.h"
+#include "exercises/Phrases.h"
 
 #include <algorithm>
 
@@ -13,8 +11,7 @@ namespace tirelune {
 namespace {
 
 constexpr int ColonnesDeMots = 5;
-constexpr VueTexte SignesDesMots = u"'-(),\"«»";
-constexpr VueTexte Quitter = u"&Quitter";
+constexpr std::size_t MotsMinimum = 6;
 
 Texte EntreGuillemets(VueTexte mot)
 {
@@ -34,7 +31,7 @@ frmMotsEnDésordre::frmMotsEnDésordre(frmExercices& choix)
     txtPhrase.KeyPress = [this](Touche& touche) { txtPhrase_KeyPress(touche); };
     cmdTerminé.Click = [this] { cmdTerminé_Click(); };
     cmdSuivant.Click = [this] { cmdSuivant_Click(); };
-    cmdAbandonner.Click = [this] { cmdAbandonner_Click(); };
+    notice.Bouton.Click = [this] { cmdAbandonner_Click(); };
 }
 
 Arrangement frmMotsEnDésordre::Disposer()
@@ -50,7 +47,7 @@ Arrangement frmMotsEnDésordre::Disposer()
             Cadre{frameAide, AuMoins(0, 1200, txtAide)},
             Ligne{Ressort{}, cmdTerminé, cmdSuivant},
         },
-        Couverture{frameQuitter, Colonne{Ressort{}, Centré{Label2}, Centré{cmdAbandonner}, Ressort{}}},
+        EnPlace(notice),
     };
 }
 
@@ -76,13 +73,11 @@ void frmMotsEnDésordre::TirerPhrase()
         mot.Visible = false;
         mot.AutoSize = true;
     }
-    EcrireAlphabet(état);
-    état.LettresEtSignes += SignesDesMots;
-    auto mots =
-        tirelune::TirerPhrase(application_.plateforme, choix_.rtfTexte.Text(), état.LettresEtSignes, lblBanque.Caption);
+    EcrireAlphabetDesPhrases(état);
+    auto mots = tirelune::TirerPhrase(application_.plateforme, choix_.rtfTexte.Text(), état.LettresEtSignes,
+                                      {MotsMinimum, MotsMaximum}, lblBanque.Caption);
     if (!mots) {
-        frameQuitter.Visible = true;
-        cmdAbandonner.SetFocus();
+        Montrer(notice);
         return;
     }
     cmbOrdre.AddItems(std::move(*mots));
@@ -278,7 +273,7 @@ void frmMotsEnDésordre::cmdSuivant_Click()
     }
     cmdSuivant.Visible = false;
     TirerPhrase();
-    if (!frameQuitter.Visible)
+    if (!notice.Cadre.Visible)
         txtPhrase.SetFocus();
 }
 
@@ -287,7 +282,7 @@ void frmMotsEnDésordre::cmdAbandonner_Click()
     if (lblPoints(1).Caption == u"0")
         Décharger();
     else
-        Conclure(*this, choix_, NoteSurDix(lblPoints(0), lblPoints(1)));
+        ConclureSurPoints(*this, choix_, lblPoints);
 }
 
 } // namespace tirelune

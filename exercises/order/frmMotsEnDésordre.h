@@ -3,6 +3,7 @@
 #pragma once
 #include "core/Ecran.h"
 #include "exercises/BandeDePoints.h"
+#include "exercises/Notice.h"
 #include "followup/frmExercices.h"
 
 namespace tirelune {
@@ -11,7 +12,7 @@ class frmMotsEnDésordre final : public Ecran {
 public:
     explicit frmMotsEnDésordre(frmExercices& choix);
 
-    static constexpr int MotsMaximum = 20;
+    static constexpr int MotsMaximum = 20; // a label for each
 
     Label Label1{*this, "Label1", {.Caption = u"Phrases à reconstituer :", .FontSize = 14}};
     Label lblCoups{*this, "lblCoups", {.Caption = u"5", .ForeColor = Rouge, .FontSize = 14, .Gras = true}};
@@ -43,9 +44,7 @@ public:
     Button cmdTerminé{*this, "cmdTerminé", {.Caption = u"J'ai &fini", .FontSize = 16}};
     Button cmdSuivant{*this, "cmdSuivant", {.Caption = u"&Suivant", .Visible = false, .FontSize = 16}};
 
-    Frame frameQuitter{*this, "frameQuitter", {.Caption = u"Phrases trop courtes ou trop longues", .Visible = false}};
-    Label Label2{*this, "Label2", {.Caption = u"L'exercice est terminé.", .FontSize = 20}};
-    Button cmdAbandonner{*this, "cmdAbandonner", {.Caption = u"&Quitter", .FontSize = 16}};
+    Notice notice{*this, PhrasesMalTaillées};
 
     // Out of sight: what the exercise remembers.
     ComboBox cmbOrdre{*this, "cmbOrdre", {.Visible = false}};               // the words in the sentence's order

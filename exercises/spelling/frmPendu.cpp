@@ -3,7 +3,6 @@
 #include "exercises/ClassesDeLettres.h"
 #include "exercises/Conclure.h"
 #include "exercises/TirageVocabulaire.h"
-#include "followup/Notes.h"
 
 #include <algorithm>
 #include <array>
@@ -15,7 +14,6 @@ namespace {
 constexpr int MotsMaximum = 5;
 constexpr int DernierTrait = 9;
 constexpr VueTexte Voyelles = u"aeiouy";
-constexpr VueTexte Quitter = u"&Quitter";
 
 // The drawing, in units of its own; the man first, the gallows around him afterwards. He faces the pupil: his left is
 // on the right.
@@ -76,7 +74,6 @@ frmPendu::frmPendu(frmExercices& choix) : Ecran(choix.ApplicationDe(), "frmPendu
     imgVisage.Height = CôtéVisage;
     lblLettre.Click([this](int i) { lblLettre_Click(i); });
     cmdSuivant.Click = [this] { cmdSuivant_Click(); };
-    cmdAbandonner.Click = [this] { Décharger(); };
 }
 
 Arrangement frmPendu::Disposer()
@@ -94,7 +91,7 @@ Arrangement frmPendu::Disposer()
             }),
             Grille{LettresParRangée, lblLettre},
         },
-        Couverture{frameQuitter, Colonne{Centré{Label2}, Centré{cmdAbandonner}}},
+        EnPlace(notice),
     };
 }
 
@@ -128,8 +125,7 @@ void frmPendu::PréparerMot()
         ligne.Visible = false;
     imgVisage.Picture = imgRéf(0).Picture;
     if (cmbMots.ListCount() == 0) {
-        frameQuitter.Visible = true;
-        cmdAbandonner.SetFocus();
+        Montrer(notice);
         return;
     }
     TirerMot();
@@ -220,7 +216,7 @@ void frmPendu::KeyPress(Touche& touche)
     if (touche.Caractère == 0 || touche.Caractère == Tabulation)
         return;
     const bool presse = touche.Caractère == u' ' || touche.Code == Touche::Entrée;
-    if (presse && (cmdSuivant.Visible || frameQuitter.Visible))
+    if (presse && (cmdSuivant.Visible || notice.Cadre.Visible))
         return;
     const Texte lettre{LettreTapée(touche.Caractère)};
     for (int i = 0; i < lblLettre.Nombre(); ++i) {
@@ -235,7 +231,7 @@ void frmPendu::KeyPress(Touche& touche)
 void frmPendu::cmdSuivant_Click()
 {
     if (cmdSuivant.Caption == Quitter) {
-        Conclure(*this, choix_, NoteSurDix(lblPoints(0), lblPoints(1)));
+        ConclureSurPoints(*this, choix_, lblPoints);
         return;
     }
     cmdSuivant.Visible = false;

@@ -2,6 +2,7 @@
 #pragma once
 #include "core/Ecran.h"
 #include "exercises/BandeDePoints.h"
+#include "exercises/Notice.h"
 #include "exercises/spelling/Visages.h"
 #include "followup/frmExercices.h"
 
@@ -32,9 +33,7 @@ public:
     ComboBox cmbMots{*this, "cmbMots", {.Visible = false}}; // words still to come
     Label lblRéf{*this, "lblRéf", {.Visible = false}};      // the word in play
 
-    Frame frameQuitter{*this, "frameQuitter", {.Caption = u"Pas de vocabulaire sélectionné", .Visible = false}};
-    Label Label2{*this, "Label2", {.Caption = u"L'exercice est terminé.", .FontSize = 16}};
-    Button cmdAbandonner{*this, "cmdAbandonner", {.Caption = u"&Abandonner", .FontSize = 16}};
+    Notice notice{*this, {u"Pas de vocabulaire sélectionné", u"L'exercice est terminé.", u"&Abandonner"}};
 
 private:
     void Load() override;

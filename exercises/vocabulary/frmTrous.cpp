@@ -1,8 +1,7 @@
 #include "exercises/vocabulary/frmTrous.h"
 
 #include "exercises/Conclure.h"
-#include "exercises/TexteEtBarre.h"
-#include "followup/Notes.h"
+#include "exercises/ListeDeMots.h"
 
 namespace tirelune {
 
@@ -22,9 +21,8 @@ std::vector<Lacune> LacunesMarquées(const TexteRiche& texte)
 frmTrous::frmTrous(frmExercices& choix) : Ecran(choix.ApplicationDe(), "frmTrous", u"Texte à trous"), choix_(choix)
 {
     rtfTrous.Locked = true;
-    Text1.Locked = true;
     Image1.Picture = DessinCrayon();
-    rtfTrous.Click = [this] { SélectionnerTrait(rtfTrous); };
+    rtfTrous.Click = [this] { SélectionnerTrait(rtfTrous, lacunes_); };
     rtfTrous.KeyPress = [this](Touche& touche) { rtfTrous_KeyPress(touche); };
     rtfTrous.DblClick = [this] { RefuserDoubleClic(rtfTrous); };
     rtfTrous.SelChange = [this] { EffacerSélectionRefusée(rtfTrous); };
@@ -32,14 +30,13 @@ frmTrous::frmTrous(frmExercices& choix) : Ecran(choix.ApplicationDe(), "frmTrous
         touche.Avaler(); // the arrows as well: here the words are picked with the mouse alone
     };
     cmdOk.Click = [this] { EssayerMot(jeu_); };
-    cmdQuitter.Click = [this] { cmdQuitter_Click(); };
-    cmdAbandonner.Click = [this] { Décharger(); };
+    fin.Bouton.Click = [this] { ConclureSurPoints(*this, choix_, lblPoints); };
 }
 
 Arrangement frmTrous::Disposer()
 {
-    auto place = TexteEtBarre(rtfTrous, BarreDeLacunes(jeu_, cmdOk, Image1), frameFin, Text1, cmdQuitter);
-    place.Enfants.emplace_back(Couverture{frameQuitter, Colonne{Ressort{}, Label2, Centré{cmdAbandonner}, Ressort{}}});
+    auto place = TexteEtBarre(rtfTrous, BarreDeLacunes(jeu_, cmdOk, Image1), fin);
+    place.Enfants.emplace_back(EnPlace(notice));
     return place;
 }
 
@@ -47,22 +44,21 @@ void frmTrous::Load()
 {
     AjouterNomElève();
     état.CorrectionEnCours = false;
-    const auto trous = LacunesMarquées(choix_.rtfTexte.TextRTF());
-    if (trous.empty()) {
-        frameQuitter.Visible = true;
-        cmdAbandonner.SetFocus();
+    lacunes_ = LacunesMarquées(choix_.rtfTexte.TextRTF());
+    if (lacunes_.empty()) {
+        Montrer(notice);
         return;
     }
-    OuvrirTrous(trous);
+    OuvrirTrous();
     rtfTrous.Visible = true;
 }
 
-void frmTrous::OuvrirTrous(const std::vector<Lacune>& trous)
+void frmTrous::OuvrirTrous()
 {
-    auto texte = OuvrirLacunes(choix_.rtfTexte.TextRTF(), trous);
+    auto texte = OuvrirLacunes(choix_.rtfTexte.TextRTF(), lacunes_);
     texte.Formater(0, texte.Longueur(), [](Format& format) { format.Souligné = false; });
     rtfTrous.TextRTF(std::move(texte));
-    RemplirListe(cmbTrous, MotsEnlevés(choix_.rtfTexte.Text(), trous));
+    RemplirListe(cmbTrous, MotsEnlevés(choix_.rtfTexte.Text(), lacunes_));
 }
 
 void frmTrous::Resize()
@@ -74,11 +70,6 @@ void frmTrous::rtfTrous_KeyPress(Touche& touche)
 {
     if (touche.Code == Touche::Entrée)
         touche.Avaler(); // would be a click at the caret
-}
-
-void frmTrous::cmdQuitter_Click()
-{
-    Conclure(*this, choix_, NoteSurDix(lblPoints(0), lblPoints(1)));
 }
 
 } // namespace tirelune

@@ -57,6 +57,20 @@ std::vector<Texte> TextesPossibles(std::size_t longueur)
     return textes;
 }
 
+// The gaps of a text that has no other underscores.
+std::vector<Lacune> Lacunes(VueTexte texte)
+{
+    std::vector<Lacune> lacunes;
+    for (std::size_t i = 0; i < texte.size(); ++i) {
+        if (texte[i] != u'_')
+            continue;
+        if (lacunes.empty() || lacunes.back().Début + lacunes.back().Longueur != i)
+            lacunes.push_back({i, 0});
+        ++lacunes.back().Longueur;
+    }
+    return lacunes;
+}
+
 Format Marqué()
 {
     Format format;
@@ -79,7 +93,7 @@ TEST(SélectionnerTrait, DonneCeQueDonnentLesPas)
                 const auto début = écran.rtf.SelStart();
                 const auto attendue = écran.rtf.SelLength();
                 écran.rtf.Sélectionner(place, 0);
-                SélectionnerTrait(écran.rtf);
+                SélectionnerTrait(écran.rtf, Lacunes(écran.rtf.Text()));
                 ASSERT_EQ(écran.rtf.SelStart(), début) << EnUtf8(texte) << " en " << place;
                 ASSERT_EQ(écran.rtf.SelLength(), attendue) << EnUtf8(texte) << " en " << place;
             }
@@ -96,11 +110,31 @@ TEST(SélectionnerTrait, UneSeuleSélectionPourUneLacuneDeMilleTraits)
     écran.rtf.Sélectionner(900, 0);
     écran.rtf.SelChange = [&] { ++changements; };
 
-    SélectionnerTrait(écran.rtf);
+    SélectionnerTrait(écran.rtf, {{1, 1000}});
 
     EXPECT_EQ(changements, 1);
     EXPECT_EQ(écran.rtf.SelStart(), 1U);
     EXPECT_EQ(écran.rtf.SelLength(), 1000U);
+}
+
+TEST(SélectionnerTrait, LesTraitsDuTexteNEnSontPas)
+{
+    Banc banc;
+    auto& écran = banc.Ouvrir<EcranDEssai>();
+    écran.rtf.Text(u"__a____b_");
+    const std::vector<Lacune> ouvertes{{4, 2}}; // between two underscores of the text
+    for (const std::size_t place : {0U, 1U, 3U, 6U, 8U}) {
+        écran.rtf.Sélectionner(place, 0);
+        SélectionnerTrait(écran.rtf, ouvertes);
+        EXPECT_EQ(écran.rtf.SelStart(), place);
+        EXPECT_EQ(écran.rtf.SelLength(), 0U);
+    }
+    for (const std::size_t place : {4U, 5U}) {
+        écran.rtf.Sélectionner(place, 0);
+        SélectionnerTrait(écran.rtf, ouvertes);
+        EXPECT_EQ(écran.rtf.SelStart(), 4U);
+        EXPECT_EQ(écran.rtf.SelLength(), 2U);
+    }
 }
 
 TEST(OuvrirLacunes, GardeLeResteDuFormatEtNoircit)

@@ -21,14 +21,14 @@ inline void VérifierPointsDeDépart(const Tableau<Label>& points, VueTexte maxi
 template <class E>
 void VérifierNoticeDeVocabulaire(E& écran)
 {
-    EXPECT_TRUE(écran.frameQuitter.Visible);
-    EXPECT_EQ(écran.frameQuitter.Caption, u"Pas assez de vocabulaire sélectionné");
-    EXPECT_EQ(écran.frameQuitter.Width, écran.Width());
-    EXPECT_EQ(écran.frameQuitter.Height, écran.Height());
-    EXPECT_EQ(écran.Label2.Caption,
+    EXPECT_TRUE(écran.notice.Cadre.Visible);
+    EXPECT_EQ(écran.notice.Cadre.Caption, u"Pas assez de vocabulaire sélectionné");
+    EXPECT_EQ(écran.notice.Cadre.Width, écran.Width());
+    EXPECT_EQ(écran.notice.Cadre.Height, écran.Height());
+    EXPECT_EQ(écran.notice.Phrase.Caption,
               u"Il doit y avoir au moins 5 mots de vocabulaire sélectionnés (en les barrant) pour "
               u"lancer l'exercice.");
-    EXPECT_EQ(écran.cmdAbandonner.Caption, u"&Abandonner");
+    EXPECT_EQ(écran.notice.Bouton.Caption, u"&Abandonner");
 }
 
 } // namespace tirelune

@@ -209,7 +209,7 @@ TEST(Closures, OuvertureTroueLeTexteEtRemplitLaListe)
     EXPECT_EQ(écran.rtfClosures.Longueur(), Texte{Nombres}.size());
     EXPECT_EQ(écran.rtfClosures.SelStart(), 0U);
     EXPECT_EQ(écran.rtfClosures.SelLength(), 0U);
-    EXPECT_FALSE(écran.frameFin.Visible);
+    EXPECT_FALSE(écran.fin.Cadre.Visible);
 }
 
 TEST(Closures, LesPointsOntLeursCouleursEtLesBoutonsLeurLégende)
@@ -218,7 +218,7 @@ TEST(Closures, LesPointsOntLeursCouleursEtLesBoutonsLeurLégende)
     auto& écran = Ouvrir(banc, Nombres);
     VérifierPointsDeDépart(écran.lblPoints);
     EXPECT_EQ(écran.cmdOk.Caption, u"&Ok");
-    EXPECT_EQ(écran.cmdQuitter.Caption, u"&Quitter");
+    EXPECT_EQ(écran.fin.Bouton.Caption, u"&Quitter");
     EXPECT_FALSE(écran.Image1.Picture().Formes.empty());
     EXPECT_TRUE(écran.cmbClosures.Sorted);
 }
@@ -314,7 +314,7 @@ TEST(Closures, DernierMotEnlevéEmpêcheLaFin)
     EXPECT_EQ(écran.rtfClosures.SelLength(), 6U);
     écran.cmdOk.Cliquer();
     EXPECT_EQ(écran.lblPoints(1).Caption, u"2");
-    EXPECT_FALSE(écran.frameFin.Visible);
+    EXPECT_FALSE(écran.fin.Cadre.Visible);
 
     écran.FermerParCroix();
     EXPECT_FALSE(écran.EstChargé());
@@ -390,7 +390,7 @@ TEST(Closures, ClicHorsDesTraitsPuisOkNeCompteRien)
     EXPECT_EQ(écran.rtfClosures.SelLength(), 0U);
     écran.cmdOk.Cliquer();
     EXPECT_EQ(écran.lblPoints(1).Caption, u"0");
-    EXPECT_FALSE(écran.frameFin.Visible);
+    EXPECT_FALSE(écran.fin.Cadre.Visible);
 }
 
 TEST(Closures, DoubleClicEstRefusé)
@@ -445,17 +445,31 @@ TEST(Closures, QuitterEnregistreLaNote)
     Placer(écran, u"quinze", u"huit");
     Placer(écran, u"huit", u"huit");
     Placer(écran, u"quinze", u"quinze");
-    EXPECT_FALSE(écran.frameFin.Visible);
+    EXPECT_FALSE(écran.fin.Cadre.Visible);
     Placer(écran, u"vingt-deux", u"vingt-deux");
-    EXPECT_TRUE(écran.frameFin.Visible);
-    EXPECT_EQ(écran.frameFin.Caption, u"Texte complété");
-    EXPECT_EQ(écran.frameFin.BackColor, Couleur{0xFFC0C0});
-    EXPECT_EQ(écran.Text1.Text, u"C'est fini !");
+    EXPECT_TRUE(écran.fin.Cadre.Visible);
+    EXPECT_EQ(écran.fin.Cadre.Caption, u"Texte complété");
+    EXPECT_EQ(écran.fin.Cadre.BackColor, Couleur{0xFFC0C0});
+    EXPECT_EQ(écran.fin.Message.Text, u"C'est fini !");
     EXPECT_EQ(écran.rtfClosures.Text(), Nombres);
 
-    écran.cmdQuitter.Cliquer();
+    écran.fin.Bouton.Cliquer();
     EXPECT_FALSE(écran.EstChargé());
     EXPECT_EQ(banc.Note(IndexClosures), u"7,5");
+}
+
+TEST(Closures, FinitAvecSaDernièreLacuneMalgréLesTraitsDuTexte)
+{
+    Banc banc;
+    const Texte texte = u"Nom : ____ deux trois quatre cinq six sept huit neuf dix onze douze treize";
+    auto& écran = Ouvrir(banc, texte);
+    ASSERT_EQ(écran.cmbClosures.Eléments(), (std::vector<Texte>{u"sept"}));
+    écran.rtfClosures.Cliquer(texte.find(u"____"));
+    EXPECT_EQ(écran.rtfClosures.SelLength(), 0U);
+    écran.rtfClosures.Cliquer(texte.find(u"sept"));
+    écran.cmdOk.Cliquer();
+    EXPECT_EQ(écran.rtfClosures.Text(), texte);
+    EXPECT_TRUE(écran.fin.Cadre.Visible);
 }
 
 TEST(Closures, FermerNEnregistreRien)

@@ -63,7 +63,7 @@ TEST(TexteMasqué, OuvertureMasqueLesLettresEtRienDAutre)
     EXPECT_EQ(écran.rtfMasqué.SelStart(), 0U);
     EXPECT_EQ(écran.rtfMasqué.SelLength(), 0U);
     EXPECT_EQ(Points(écran), u"0 / 0");
-    EXPECT_FALSE(écran.frameFin.Visible);
+    EXPECT_FALSE(écran.fin.Cadre.Visible);
     EXPECT_TRUE(écran.rtfMasqué.Locked);
 }
 
@@ -87,7 +87,7 @@ TEST(TexteMasqué, LaConsigneEtLeBoutonDeFin)
     auto& écran = Ouvrir(banc, u"abc");
     EXPECT_EQ(écran.Label1.Caption,
               u"Choisis le caractère à remplacer dans le texte, puis clique sur la lettre ou utilise le clavier.");
-    EXPECT_EQ(écran.cmdQuitter.Caption, u"&Quitter");
+    EXPECT_EQ(écran.fin.Bouton.Caption, u"&Quitter");
 }
 
 TEST(TexteMasqué, LeMasqueGardeLesFormatsSaufLaBarre)
@@ -125,7 +125,7 @@ TEST(TexteMasqué, LettreJusteDévoileToutesSesFormes)
     EXPECT_EQ(Points(écran), u"1 / 1");
     EXPECT_EQ(écran.rtfMasqué.SelStart(), 2U);
     EXPECT_EQ(écran.rtfMasqué.SelLength(), 0U);
-    EXPECT_FALSE(écran.frameFin.Visible);
+    EXPECT_FALSE(écran.fin.Cadre.Visible);
     EXPECT_EQ(banc.plateforme.repeints, 1);
 
     Proposer(écran, 18, u'A'); // "Â"
@@ -232,7 +232,7 @@ TEST(TexteMasqué, FrappesAccentuéesSuiventLeurTable)
         écran.rtfMasqué.Cliquer(0);
         EXPECT_FALSE(Frapper(écran, frappe));
         EXPECT_EQ(écran.rtfMasqué.Text(), texte);
-        EXPECT_TRUE(écran.frameFin.Visible);
+        EXPECT_TRUE(écran.fin.Cadre.Visible);
     }
 }
 
@@ -293,13 +293,13 @@ TEST(TexteMasqué, TexteCompletMontreLaFinEtLaNoteSEnregistre)
     Proposer(écran, 4, u'A');
     Proposer(écran, 5, u'U');
     Proposer(écran, 7, u'L');
-    EXPECT_FALSE(écran.frameFin.Visible);
+    EXPECT_FALSE(écran.fin.Cadre.Visible);
     Proposer(écran, 9, u'C');
 
-    EXPECT_TRUE(écran.frameFin.Visible);
-    EXPECT_EQ(écran.frameFin.Caption, u"Texte complété");
-    EXPECT_EQ(écran.frameFin.BackColor, Couleur{0xFFC0C0});
-    EXPECT_EQ(écran.Text1.Text, u"C'est fini !");
+    EXPECT_TRUE(écran.fin.Cadre.Visible);
+    EXPECT_EQ(écran.fin.Cadre.Caption, u"Texte complété");
+    EXPECT_EQ(écran.fin.Cadre.BackColor, Couleur{0xFFC0C0});
+    EXPECT_EQ(écran.fin.Message.Text, u"C'est fini !");
     EXPECT_EQ(écran.rtfMasqué.Text(), u"Été au lac");
     EXPECT_EQ(Points(écran), u"5 / 7");
 
@@ -307,7 +307,7 @@ TEST(TexteMasqué, TexteCompletMontreLaFinEtLaNoteSEnregistre)
     Proposer(écran, 0, u'Z');
     EXPECT_EQ(Points(écran), u"5 / 7");
 
-    écran.cmdQuitter.Cliquer();
+    écran.fin.Bouton.Cliquer();
     EXPECT_FALSE(écran.EstChargé());
     EXPECT_EQ(banc.Note(IndexTexteMasqué), u"7,142857");
 }
@@ -323,7 +323,7 @@ TEST(TexteMasqué, VingtLettresEtCinqErreursFontSix)
         Proposer(écran, lettres.size() - 1, u'Z');
     Proposer(écran, lettres.size() - 1, u'T');
     EXPECT_EQ(Points(écran), u"15 / 25");
-    écran.cmdQuitter.Cliquer();
+    écran.fin.Bouton.Cliquer();
     EXPECT_EQ(banc.Note(IndexTexteMasqué), u"6");
 }
 
@@ -331,12 +331,12 @@ TEST(TexteMasqué, LaFinNeSeVoitQuAprèsUneLettreJuste)
 {
     Banc banc;
     auto& écran = Ouvrir(banc, u"1, 2, 3...");
-    EXPECT_FALSE(écran.frameFin.Visible);
+    EXPECT_FALSE(écran.fin.Cadre.Visible);
     écran.rtfMasqué.Sélectionner(0, 1); // a digit, in clear
     Lettre(écran, u'A').Cliquer();
     EXPECT_EQ(Points(écran), u"0 / 1");
-    EXPECT_FALSE(écran.frameFin.Visible);
-    EXPECT_FALSE(écran.cmdQuitter.EstAtteignable());
+    EXPECT_FALSE(écran.fin.Cadre.Visible);
+    EXPECT_FALSE(écran.fin.Bouton.EstAtteignable());
 
     écran.FermerParCroix();
     EXPECT_FALSE(écran.EstChargé());
@@ -350,7 +350,7 @@ TEST(TexteMasqué, TexteVideEtUnSeulMot)
     auto& écran = Ouvrir(banc, u"oh");
     Proposer(écran, 0, u'O');
     Proposer(écran, 1, u'H');
-    EXPECT_TRUE(écran.frameFin.Visible);
+    EXPECT_TRUE(écran.fin.Cadre.Visible);
 }
 
 TEST(TexteMasqué, FermerNEnregistreRienEtVideLettresEtSignes)

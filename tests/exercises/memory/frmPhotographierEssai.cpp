@@ -71,7 +71,7 @@ TEST(Photographier, QuatreMotsMontrentLeCadreDeSortie)
     auto& écran = Ouvrir(banc, Mots(4));
     VérifierNoticeDeVocabulaire(écran);
     EXPECT_FALSE(écran.cmdAfficher.EstAtteignable());
-    écran.cmdAbandonner.Cliquer();
+    écran.notice.Bouton.Cliquer();
     EXPECT_FALSE(écran.EstChargé());
     EXPECT_EQ(banc.Note(IndexPhotographier), u"");
 }
@@ -79,20 +79,20 @@ TEST(Photographier, QuatreMotsMontrentLeCadreDeSortie)
 TEST(Photographier, SansVocabulaireLeCadreDeSortieParaît)
 {
     Banc banc;
-    EXPECT_TRUE(Ouvrir(banc, {}).frameQuitter.Visible);
+    EXPECT_TRUE(Ouvrir(banc, {}).notice.Cadre.Visible);
 }
 
 TEST(Photographier, CinqMotsDontTroisDifférentsMontrentLeCadreDeSortie)
 {
     Banc banc;
-    EXPECT_TRUE(Ouvrir(banc, {u"âne", u"âne", u"bal", u"bal", u"cri"}).frameQuitter.Visible);
+    EXPECT_TRUE(Ouvrir(banc, {u"âne", u"âne", u"bal", u"bal", u"cri"}).notice.Cadre.Visible);
 }
 
 TEST(Photographier, CinqMotsDonnentCinqPropositionsEtLaDernièreNEstJamaisMontrée)
 {
     Banc banc;
     auto& écran = Ouvrir(banc, Mots(5));
-    EXPECT_FALSE(écran.frameQuitter.Visible);
+    EXPECT_FALSE(écran.notice.Cadre.Visible);
     banc.Hasards({0.8, 0.6, 0.4, 0.2, 0.0, 0.9999});
     écran.cmdAfficher.Cliquer();
     EXPECT_EQ(Propositions(écran), 5);
@@ -307,7 +307,7 @@ TEST(Photographier, ClicsSauvagesPendantLeFlashNeFontRien)
     banc.plateforme.Prévoir(50ms, [&] {
         écran.cmdAfficher.Cliquer();
         écran.cmdQuitter.Cliquer();
-        écran.cmdAbandonner.Cliquer();
+        écran.notice.Bouton.Cliquer();
         for (auto& réponse : écran.lblRéponse)
             réponse.Cliquer();
     });

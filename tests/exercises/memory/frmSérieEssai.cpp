@@ -85,7 +85,7 @@ TEST(Série, QuatreMotsMontrentLeCadreDeSortie)
     auto& écran = Ouvrir(banc, Mots(4)); // and nothing is drawn
     VérifierNoticeDeVocabulaire(écran);
     EXPECT_FALSE(écran.cmdVoir.EstAtteignable());
-    écran.cmdAbandonner.Cliquer();
+    écran.notice.Bouton.Cliquer();
     EXPECT_FALSE(écran.EstChargé());
     EXPECT_EQ(banc.Note(IndexSérie), u"");
 }
@@ -93,7 +93,7 @@ TEST(Série, QuatreMotsMontrentLeCadreDeSortie)
 TEST(Série, SixMotsDontQuatreDifférentsMontrentLeCadreDeSortie)
 {
     Banc banc;
-    EXPECT_TRUE(Ouvrir(banc, {u"âne", u"âne", u"bal", u"cri", u"cri", u"dos"}).frameQuitter.Visible);
+    EXPECT_TRUE(Ouvrir(banc, {u"âne", u"âne", u"bal", u"cri", u"cri", u"dos"}).notice.Cadre.Visible);
 }
 
 TEST(Série, CinqMotsFontUneSérieDeCinq)
@@ -161,12 +161,22 @@ TEST(Série, CasesSontToutesAussiLargesQueLeMotLePlusLong)
     EXPECT_GT(écran.lblMot(1).Top, écran.lblMot(0).Top + écran.lblMot(0).Height);
 }
 
-TEST(Série, LonguePhraseTientDansLaMoitiéDeLEcran)
+TEST(Série, LonguePhraseEtSaCaseTiennentDansLaMoitiéDeLEcran)
 {
     Banc banc;
     TirerVarié(banc);
     auto& écran = Ouvrir(banc, {u"âne", u"bal", u"cri", u"dos", Texte(300, u'e')});
-    EXPECT_EQ(écran.lblMot(0).Width, écran.Width / 2);
+    écran.Dimensionner(16000, 9000);
+    écran.Dimensionner(12000, 9000);
+    for (int i = 0; i < 5; ++i) {
+        EXPECT_EQ(écran.lblMot(i).Width, écran.lblMot(0).Width);
+        EXPECT_GT(écran.lblRéponse(i).Left, écran.lblMot(i).Width);
+        EXPECT_EQ(écran.lblRéponse(i).AutoSize, écran.lblRéponse(i).Caption().size() < 300);
+        if (!écran.lblRéponse(i).AutoSize) {
+            EXPECT_LE(écran.lblRéponse(i).Left + écran.lblRéponse(i).Width, écran.Width / 2);
+            EXPECT_EQ(écran.lblRéponse(i).Height, écran.lblMot(i).Height);
+        }
+    }
 }
 
 TEST(Série, MotsParaissentUnParUnAprèsUneSecondeEtLesCasesSeVident)

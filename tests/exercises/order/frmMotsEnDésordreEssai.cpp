@@ -1,6 +1,6 @@
 #include "exercises/order/frmMotsEnDésordre.h"
 
-#include "exercises/order/TirerPhrase.h"
+#include "exercises/Phrases.h"
 #include "tests/support/Banc.h"
 
 namespace tirelune {
@@ -115,7 +115,7 @@ TEST_F(MotsEnDésordreEssai, AuDébutLesMotsSontDansLOrdreAlphabétique)
     EXPECT_EQ(écran.lblPoints(2).Caption, u" / ");
     EXPECT_FALSE(écran.cmdSuivant.Visible);
     EXPECT_FALSE(écran.frameAide.Visible);
-    EXPECT_FALSE(écran.frameQuitter.Visible);
+    EXPECT_FALSE(écran.notice.Cadre.Visible);
     EXPECT_EQ(écran.lblMot(0).ToolTipText, u" Clique sur les étiquettes pour reconstituer la phrase. ");
     EXPECT_EQ(écran.lblMot(0).BackColor, Blanc);
     EXPECT_EQ(écran.lblMot(0).ForeColor, Bleu);
@@ -211,11 +211,11 @@ TEST_F(MotsEnDésordreEssai, SansPhraseQuiConvienneQuatreVingtDixNeufTiragesMèn
     };
     auto& écran = Ouvrir({});
     EXPECT_EQ(tirages, 99);
-    EXPECT_TRUE(écran.frameQuitter.Visible);
-    EXPECT_EQ(écran.frameQuitter.Caption, u"Phrases trop courtes ou trop longues");
-    EXPECT_EQ(écran.Label2.Caption, u"L'exercice est terminé.");
-    EXPECT_EQ(écran.Focus(), &écran.cmdAbandonner);
-    écran.cmdAbandonner.Cliquer();
+    EXPECT_TRUE(écran.notice.Cadre.Visible);
+    EXPECT_EQ(écran.notice.Cadre.Caption, u"Phrases trop courtes ou trop longues");
+    EXPECT_EQ(écran.notice.Phrase.Caption, u"L'exercice est terminé.");
+    EXPECT_EQ(écran.Focus(), &écran.notice.Bouton);
+    écran.notice.Bouton.Cliquer();
     EXPECT_FALSE(écran.EstChargé());
     EXPECT_EQ(banc.Note(MotsEnDésordre), u"");
 }
@@ -224,14 +224,14 @@ TEST_F(MotsEnDésordreEssai, UnTexteVideMèneALaSortie)
 {
     texte = u"";
     banc.plateforme.toujours = [] { return 0.5; };
-    EXPECT_TRUE(Ouvrir({}).frameQuitter.Visible);
+    EXPECT_TRUE(Ouvrir({}).notice.Cadre.Visible);
 }
 
 TEST_F(MotsEnDésordreEssai, UnTexteSansBlancNiSigneMèneALaSortie)
 {
     texte = Texte(100000, u'a');
     banc.plateforme.toujours = [] { return 0.5; };
-    EXPECT_TRUE(Ouvrir({}).frameQuitter.Visible);
+    EXPECT_TRUE(Ouvrir({}).notice.Cadre.Visible);
 }
 
 // ---- Its construction --------------------------------------------------------------------------------------------
@@ -516,8 +516,8 @@ TEST_F(MotsEnDésordreEssai, TroisPhrasesJustesPuisLaSortieValentDix)
     Reconstituer(écran);
     banc.plateforme.toujours = [] { return 0.0; };
     écran.cmdSuivant.Cliquer();
-    EXPECT_TRUE(écran.frameQuitter.Visible);
-    écran.cmdAbandonner.Cliquer();
+    EXPECT_TRUE(écran.notice.Cadre.Visible);
+    écran.notice.Bouton.Cliquer();
     EXPECT_FALSE(écran.EstChargé());
     EXPECT_EQ(banc.Note(MotsEnDésordre), u"10");
 }

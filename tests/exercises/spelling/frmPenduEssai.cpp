@@ -60,7 +60,7 @@ TEST(Pendu, OuverturePréparePremierMot)
     EXPECT_EQ(Traits(écran), 0);
     EXPECT_TRUE(écran.imgVisage.Visible);
     EXPECT_EQ(écran.imgVisage.Picture(), Visage(0));
-    EXPECT_FALSE(écran.frameQuitter.Visible);
+    EXPECT_FALSE(écran.notice.Cadre.Visible);
     EXPECT_FALSE(écran.cmdSuivant.Visible);
     EXPECT_EQ(écran.cmbMots.ListCount(), 0);
 }
@@ -97,20 +97,20 @@ TEST(Pendu, SansVocabulaireLeCadreDeSortieCouvreTout)
 {
     Banc banc;
     auto& écran = Ouvrir(banc, {});
-    EXPECT_TRUE(écran.frameQuitter.Visible);
-    EXPECT_EQ(écran.frameQuitter.Caption, u"Pas de vocabulaire sélectionné");
-    EXPECT_EQ(écran.Label2.Caption, u"L'exercice est terminé.");
-    EXPECT_EQ(écran.cmdAbandonner.Caption, u"&Abandonner");
-    EXPECT_EQ(écran.frameQuitter.Width, écran.Width());
-    EXPECT_EQ(écran.frameQuitter.Height, écran.Height());
+    EXPECT_TRUE(écran.notice.Cadre.Visible);
+    EXPECT_EQ(écran.notice.Cadre.Caption, u"Pas de vocabulaire sélectionné");
+    EXPECT_EQ(écran.notice.Phrase.Caption, u"L'exercice est terminé.");
+    EXPECT_EQ(écran.notice.Bouton.Caption, u"&Abandonner");
+    EXPECT_EQ(écran.notice.Cadre.Width, écran.Width());
+    EXPECT_EQ(écran.notice.Cadre.Height, écran.Height());
     Cliquer(écran, u"abcdefghijk");
     for (const char16_t lettre : Texte{u"abcdefghijk"})
         Taper(écran, lettre);
     EXPECT_EQ(Traits(écran), 0);
     EXPECT_FALSE(écran.cmdSuivant.Visible);
-    EXPECT_EQ(écran.Focus(), &écran.cmdAbandonner);
+    EXPECT_EQ(écran.Focus(), &écran.notice.Bouton);
     EXPECT_FALSE(Taper(écran, u' ')); // goes on to the button
-    écran.cmdAbandonner.Cliquer();
+    écran.notice.Bouton.Cliquer();
     EXPECT_FALSE(écran.EstChargé());
     EXPECT_EQ(banc.Note(IndexPendu), u"");
 }

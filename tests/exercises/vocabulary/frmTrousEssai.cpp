@@ -51,8 +51,8 @@ TEST(Trous, ChaqueMarqueDevientUneLacuneEtUnMotDeLaListe)
     EXPECT_EQ(écran.cmbTrous.Eléments(), (std::vector<Texte>{u"belle", u"chat"}));
     EXPECT_EQ(écran.cmbTrous.Text, u"belle");
     EXPECT_TRUE(écran.rtfTrous.Visible);
-    EXPECT_FALSE(écran.frameQuitter.Visible);
-    EXPECT_FALSE(écran.frameFin.Visible);
+    EXPECT_FALSE(écran.notice.Cadre.Visible);
+    EXPECT_FALSE(écran.fin.Cadre.Visible);
     EXPECT_EQ(écran.rtfTrous.SelStart(), 0U);
     EXPECT_EQ(écran.rtfTrous.SelLength(), 0U);
 }
@@ -63,7 +63,7 @@ TEST(Trous, LesPointsOntLeursCouleursEtLesBoutonsLeurLégende)
     auto& écran = Ouvrir(banc, u"Le [chat] dort.");
     VérifierPointsDeDépart(écran.lblPoints);
     EXPECT_EQ(écran.cmdOk.Caption, u"&Ok");
-    EXPECT_EQ(écran.cmdQuitter.Caption, u"&Quitter");
+    EXPECT_EQ(écran.fin.Bouton.Caption, u"&Quitter");
     EXPECT_FALSE(écran.Image1.Picture().Formes.empty());
     EXPECT_TRUE(écran.cmbTrous.Sorted);
 }
@@ -105,7 +105,7 @@ TEST(Trous, UneMarqueAvecUneEspaceEstUneSeuleLacune)
     EXPECT_EQ(écran.rtfTrous.SelLength(), 12U);
     écran.cmdOk.Cliquer();
     EXPECT_EQ(écran.rtfTrous.Text(), u"Il dort tout le jour ici.");
-    EXPECT_TRUE(écran.frameFin.Visible);
+    EXPECT_TRUE(écran.fin.Cadre.Visible);
 }
 
 TEST(Trous, UneMarqueSurDeuxLignesRendSesLignes)
@@ -116,7 +116,7 @@ TEST(Trous, UneMarqueSurDeuxLignesRendSesLignes)
 
     Placer(écran, 6, u"mot\r\net");
     EXPECT_EQ(écran.rtfTrous.Text(), banc.Choix().rtfTexte.Text());
-    EXPECT_TRUE(écran.frameFin.Visible);
+    EXPECT_TRUE(écran.fin.Cadre.Visible);
 }
 
 TEST(Trous, MarquesQuiSeTouchentNeFontQuUne)
@@ -152,7 +152,7 @@ TEST(Trous, MotJusteEnVertSoulignéQuitteLaListe)
     EXPECT_EQ(écran.cmbTrous.Text, u"œuf") << "après un mot juste, le premier qui reste";
     EXPECT_EQ(écran.lblPoints(0).Caption, u"1");
     EXPECT_EQ(écran.lblPoints(1).Caption, u"1");
-    EXPECT_FALSE(écran.frameFin.Visible);
+    EXPECT_FALSE(écran.fin.Cadre.Visible);
 }
 
 TEST(Trous, MotFauxRougitEtPeutÊtreRefait)
@@ -207,18 +207,18 @@ TEST(Trous, SansMarqueLaNoticeCouvreToutEtNEnregistreRien)
     Banc banc;
     auto& écran = Ouvrir(banc, u"Le chat dort.");
 
-    EXPECT_TRUE(écran.frameQuitter.Visible);
-    EXPECT_EQ(écran.frameQuitter.Caption, u"Pas de vocabulaire sélectionné");
-    EXPECT_EQ(écran.Label2.Caption, u"L'exercice est terminé.");
-    EXPECT_EQ(écran.frameQuitter.Width, écran.Width());
-    EXPECT_EQ(écran.frameQuitter.Height, écran.Height());
+    EXPECT_TRUE(écran.notice.Cadre.Visible);
+    EXPECT_EQ(écran.notice.Cadre.Caption, u"Pas de vocabulaire sélectionné");
+    EXPECT_EQ(écran.notice.Phrase.Caption, u"L'exercice est terminé.");
+    EXPECT_EQ(écran.notice.Cadre.Width, écran.Width());
+    EXPECT_EQ(écran.notice.Cadre.Height, écran.Height());
     EXPECT_FALSE(écran.rtfTrous.Visible);
     EXPECT_FALSE(écran.cmdOk.EstAtteignable());
     EXPECT_EQ(écran.cmbTrous.Text, u" Liste des mots enlevés ");
-    EXPECT_EQ(écran.cmdAbandonner.Caption, u"&Quitter");
-    EXPECT_EQ(écran.Focus(), &écran.cmdAbandonner);
+    EXPECT_EQ(écran.notice.Bouton.Caption, u"&Quitter");
+    EXPECT_EQ(écran.Focus(), &écran.notice.Bouton);
 
-    écran.cmdAbandonner.Cliquer();
+    écran.notice.Bouton.Cliquer();
     EXPECT_FALSE(écran.EstChargé());
     EXPECT_EQ(banc.Note(IndexTrous), u"");
 }
@@ -227,7 +227,7 @@ TEST(Trous, TexteVideDonneLaNotice)
 {
     Banc banc;
     auto& écran = Ouvrir(banc, u"");
-    EXPECT_TRUE(écran.frameQuitter.Visible);
+    EXPECT_TRUE(écran.notice.Cadre.Visible);
 }
 
 TEST(Trous, MarqueAuPremierCaractèreNePeutÊtreRemplie)
@@ -243,7 +243,7 @@ TEST(Trous, MarqueAuPremierCaractèreNePeutÊtreRemplie)
     EXPECT_EQ(écran.lblPoints(1).Caption, u"1");
     Placer(écran, 8, u"chien");
     EXPECT_EQ(écran.rtfTrous.Text(), u"____ et chien.");
-    EXPECT_FALSE(écran.frameFin.Visible);
+    EXPECT_FALSE(écran.fin.Cadre.Visible);
 
     écran.FermerParCroix(); // the one way out
     EXPECT_FALSE(écran.EstChargé());
@@ -270,7 +270,7 @@ TEST(Trous, LacuneEnFinDeTexteVaJusquAuBout)
     EXPECT_EQ(écran.rtfTrous.SelLength(), 3U);
     écran.cmdOk.Cliquer();
     EXPECT_EQ(écran.rtfTrous.Text(), u"Voici la fin");
-    EXPECT_TRUE(écran.frameFin.Visible);
+    EXPECT_TRUE(écran.fin.Cadre.Visible);
 }
 
 TEST(Trous, ToutMarqué)
@@ -279,6 +279,69 @@ TEST(Trous, ToutMarqué)
     auto& écran = Ouvrir(banc, u"[Tout est marqué.]");
     EXPECT_EQ(écran.rtfTrous.Text(), Texte(16, u'_'));
     EXPECT_EQ(écran.cmbTrous.Eléments(), (std::vector<Texte>{u"Tout est marqué."}));
+}
+
+TEST(Trous, FinitAvecSaDernièreLacuneMalgréLesTraitsDuTexte)
+{
+    Banc banc;
+    auto& écran = Ouvrir(banc, u"Nom : ____ Le [chat] dort.");
+    Placer(écran, 16, u"chat");
+    EXPECT_EQ(écran.rtfTrous.Text(), u"Nom : ____ Le chat dort.");
+    EXPECT_TRUE(écran.fin.Cadre.Visible);
+    EXPECT_EQ(écran.Focus(), &écran.fin.Bouton);
+}
+
+TEST(Trous, TraitDuTexteContreUneLacuneNEnEstPas)
+{
+    Banc banc;
+    auto& écran = Ouvrir(banc, u"Le _[chat]_ dort.");
+    EXPECT_EQ(écran.rtfTrous.Text(), u"Le ______ dort.");
+    for (const std::size_t place : {3U, 8U}) {
+        écran.rtfTrous.Cliquer(place);
+        EXPECT_EQ(écran.rtfTrous.SelLength(), 0U);
+    }
+    Placer(écran, 5, u"chat");
+    EXPECT_EQ(écran.rtfTrous.Text(), u"Le _chat_ dort.");
+    EXPECT_TRUE(écran.fin.Cadre.Visible);
+}
+
+TEST(Trous, TraitDuTexteSélectionnéNEstPasUnEssai)
+{
+    Banc banc;
+    auto& écran = Ouvrir(banc, u"Nom : ____ Le [chat] dort.");
+    écran.rtfTrous.Sélectionner(6, 4);
+    écran.cmdOk.Cliquer();
+    EXPECT_EQ(écran.lblPoints(1).Caption, u"0");
+    EXPECT_NE(écran.rtfTrous.TextRTF().FormatEn(7).Teinte, Rouge);
+}
+
+TEST(Trous, TraitsMarquésSontUneLacuneARemplir)
+{
+    Banc banc;
+    auto& écran = Ouvrir(banc, u"Un [a_b] et [__] ici.");
+    Placer(écran, 4, u"a_b");
+    EXPECT_FALSE(écran.fin.Cadre.Visible) << "l'autre reste à remplir";
+    Placer(écran, 10, u"__");
+    EXPECT_EQ(écran.lblPoints(0).Caption, u"2");
+    EXPECT_TRUE(écran.fin.Cadre.Visible);
+    écran.rtfTrous.Cliquer(10);
+    EXPECT_EQ(écran.rtfTrous.SelLength(), 0U) << "remplie une fois pour toutes";
+}
+
+TEST(Trous, UnePartieDeLacuneRemplieLaLaisseOuverte)
+{
+    Banc banc;
+    auto& écran = Ouvrir(banc, u"Le [petit] a un [petit-fils].");
+    écran.rtfTrous.Sélectionner(14, 5); // a drag over the beginning of the gap
+    écran.cmbTrous.Choisir(écran.cmbTrous.Chercher(u"petit"));
+    écran.cmdOk.Cliquer();
+    EXPECT_EQ(écran.rtfTrous.Text(), u"Le _____ a un petit_____.");
+    écran.rtfTrous.Cliquer(22);
+    EXPECT_EQ(écran.rtfTrous.SelStart(), 19U);
+    EXPECT_EQ(écran.rtfTrous.SelLength(), 5U);
+    Placer(écran, 22, u"petit-fils");
+    EXPECT_EQ(écran.lblPoints(0).Caption, u"1");
+    EXPECT_EQ(écran.lblPoints(1).Caption, u"2");
 }
 
 TEST(Trous, ClicHorsDesTraitsEffaceLaSélection)
@@ -291,7 +354,7 @@ TEST(Trous, ClicHorsDesTraitsEffaceLaSélection)
     EXPECT_EQ(écran.rtfTrous.SelLength(), 0U);
     écran.cmdOk.Cliquer();
     EXPECT_EQ(écran.lblPoints(1).Caption, u"0") << "sans sélection, pas d'essai";
-    EXPECT_FALSE(écran.frameFin.Visible);
+    EXPECT_FALSE(écran.fin.Cadre.Visible);
 }
 
 TEST(Trous, SélectionQuiDébordeEstSansEffet)
@@ -299,15 +362,15 @@ TEST(Trous, SélectionQuiDébordeEstSansEffet)
     Banc banc;
     auto& écran = Ouvrir(banc, u"Le [chat] dort.");
     Placer(écran, 4, u"chat");
-    écran.frameFin.Visible = false;
+    écran.fin.Cadre.Visible = false;
     écran.rtfTrous.Sélectionner(2, 5);
     écran.cmdOk.Cliquer();
     EXPECT_EQ(écran.lblPoints(1).Caption, u"1");
-    EXPECT_FALSE(écran.frameFin.Visible) << "pas même l'examen de fin";
+    EXPECT_FALSE(écran.fin.Cadre.Visible) << "pas même l'examen de fin";
 
     écran.rtfTrous.Sélectionner(0, 0);
     écran.cmdOk.Cliquer();
-    EXPECT_TRUE(écran.frameFin.Visible);
+    EXPECT_TRUE(écran.fin.Cadre.Visible);
 }
 
 TEST(Trous, DoubleClicEstRefusé)
@@ -372,17 +435,17 @@ TEST(Trous, QuitterEnregistreLaNote)
 {
     Banc banc;
     auto& écran = Ouvrir(banc, u"Le [chat] voit la [souris].");
-    EXPECT_FALSE(écran.cmdQuitter.EstAtteignable());
+    EXPECT_FALSE(écran.fin.Bouton.EstAtteignable());
     Placer(écran, 3, u"souris");
     Placer(écran, 3, u"chat");
     Placer(écran, 17, u"souris");
-    EXPECT_TRUE(écran.frameFin.Visible);
-    EXPECT_EQ(écran.frameFin.Caption, u"Texte complété");
-    EXPECT_EQ(écran.frameFin.BackColor, Couleur{0xFFC0C0});
-    EXPECT_EQ(écran.Text1.Text, u"C'est fini !");
+    EXPECT_TRUE(écran.fin.Cadre.Visible);
+    EXPECT_EQ(écran.fin.Cadre.Caption, u"Texte complété");
+    EXPECT_EQ(écran.fin.Cadre.BackColor, Couleur{0xFFC0C0});
+    EXPECT_EQ(écran.fin.Message.Text, u"C'est fini !");
     EXPECT_EQ(écran.cmbTrous.Text, u"souris") << "la liste vide garde son dernier texte";
 
-    écran.cmdQuitter.Cliquer();
+    écran.fin.Bouton.Cliquer();
     EXPECT_FALSE(écran.EstChargé());
     EXPECT_EQ(banc.Note(IndexTrous), u"6,666667");
     EXPECT_NE(banc.Lire("Léa.bil").value_or("").find("6,666667"), std::string::npos);

@@ -1,0 +1,20 @@
+#include "core/Questionnaire.h"
+
+#include "core/FichierChamps.h"
+
+#include <algorithm>
+
+namespace tirelune {
+
+bool LireQuestions(const Chemin& fichier, Grid& grille)
+{
+    const auto champs = LireChamps(fichier);
+    if (!champs)
+        return false;
+    const int nombre = std::min(static_cast<int>(champs->size()), QuestionsMaximum * ChampsParQuestion);
+    for (int i = 0; i < nombre; ++i)
+        grille.TextMatrix(i / ChampsParQuestion, i % ChampsParQuestion, (*champs)[static_cast<std::size_t>(i)]);
+    return true;
+}
+
+} // namespace tirelune
