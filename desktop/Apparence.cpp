@@ -91,20 +91,46 @@ QFont PolicePour(VueTexte famille, double points, bool gras, double échelle)
     return police;
 }
 
-QFont AjusterPolice(const QFont& police, const QString& texte, QSize place, int drapeaux)
+namespace {
+
+constexpr int PlusPetitePolice = 6; // pixels
+
+// The first of a few sizes, each smaller than the one before, in which the text fits; the last one when it fits in
+// none.
+TexteEnPlace Réduire(const QFont& police, const QString& texte, QSize place, int drapeaux, int essais)
 {
     static constexpr double Pas = 0.93;
-    static constexpr int Essais = 10; // down to half the size
-    QFont essai = police;
+    TexteEnPlace réduit{police, drapeaux, false};
     const QRect cadre{QPoint{0, 0}, place};
     double part = 1;
-    for (int i = 0; i < Essais; ++i, part *= Pas) {
-        essai.setPixelSize(std::max(6, static_cast<int>(police.pixelSize() * part)));
-        const auto boîte = QFontMetrics{essai}.boundingRect(cadre, drapeaux, texte);
-        if (boîte.width() <= place.width() && boîte.height() <= place.height())
-            break;
+    for (int i = 0; i < essais && !réduit.Entier; ++i, part *= Pas) {
+        réduit.Police.setPixelSize(std::max(PlusPetitePolice, static_cast<int>(police.pixelSize() * part)));
+        const auto boîte = QFontMetrics{réduit.Police}.boundingRect(cadre, drapeaux, texte);
+        réduit.Entier = boîte.width() <= place.width() && boîte.height() <= place.height();
     }
-    return essai;
+    return réduit;
+}
+
+constexpr int EssaisJusquALaMoitié = 10;
+constexpr int EssaisEntreLesMots = 12; // a little less, before a word is broken
+constexpr int EssaisJusquAuBout = 40;  // from any size to the smallest
+
+} // namespace
+
+QFont AjusterPolice(const QFont& police, const QString& texte, QSize place, int drapeaux)
+{
+    return Réduire(police, texte, place, drapeaux, EssaisJusquALaMoitié).Police;
+}
+
+TexteEnPlace FaireTenir(const QFont& police, const QString& texte, QSize place, int drapeaux)
+{
+    const auto tenu = Réduire(police, texte, place, drapeaux, EssaisJusquALaMoitié);
+    if (tenu.Entier)
+        return tenu;
+    const auto enLignes = Réduire(police, texte, place, drapeaux | Qt::TextWordWrap, EssaisEntreLesMots);
+    if (enLignes.Entier)
+        return enLignes;
+    return Réduire(police, texte, place, (drapeaux & ~Qt::TextWordWrap) | Qt::TextWrapAnywhere, EssaisJusquAuBout);
 }
 
 QSize TailleTexte(const QFont& police, const QString& texte, int drapeaux, int largeurMaximale)

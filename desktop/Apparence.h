@@ -39,6 +39,16 @@ QFont PolicePour(VueTexte famille, double points, bool gras, double échelle);
 
 // The text in its place, in smaller letters when it doesn't fit.
 QFont AjusterPolice(const QFont& police, const QString& texte, QSize place, int drapeaux);
+
+// How a text is painted in a place.
+struct TexteEnPlace {
+    QFont Police;
+    int Drapeaux = 0;
+    bool Entier = true; // nothing of it is cut
+};
+// The whole text in its place: in smaller letters, then on more lines than it was meant to have, then broken inside
+// its words.
+TexteEnPlace FaireTenir(const QFont& police, const QString& texte, QSize place, int drapeaux);
 // As wide as it is when short; long texts are broken into lines.
 QSize TailleTexte(const QFont& police, const QString& texte, int drapeaux, int largeurMaximale);
 

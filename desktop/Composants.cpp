@@ -33,15 +33,15 @@ int Interligne(const QFont& police)
 
 } // namespace
 
-const QFont& TexteAjusté::Police(const QFont& base, const QString& texte, QSize place, int drapeaux)
+const TexteEnPlace& TexteAjusté::Mesurer(const QFont& base, const QString& texte, QSize place, int drapeaux)
 {
     if (base != base_ || texte != texte_ || place != place_) {
         base_ = base;
         texte_ = texte;
         place_ = place;
-        police_ = AjusterPolice(base, texte, place, drapeaux);
+        ajusté_ = FaireTenir(base, texte, place, drapeaux);
     }
-    return police_;
+    return ajusté_;
 }
 
 // ---- Captions ------------------------------------------------------------------------------------------------
@@ -115,6 +115,17 @@ int Etiquette::heightForWidth(int largeur) const
     return TailleTexte(font(), Montré(), Drapeaux(), std::max(1, largeur - marge)).height() + marge;
 }
 
+QRect Etiquette::PlaceDuContenu() const
+{
+    const int marge = Marge();
+    return rect().adjusted(marge, marge / 2, -marge, -(marge / 2));
+}
+
+bool Etiquette::MontreTout()
+{
+    return text().isEmpty() || ajusté_.Mesurer(font(), Montré(), PlaceDuContenu().size(), Drapeaux()).Entier;
+}
+
 void Etiquette::paintEvent(QPaintEvent* /*événement*/)
 {
     QPainter peintre{this};
@@ -132,8 +143,7 @@ void Etiquette::paintEvent(QPaintEvent* /*événement*/)
         peintre.setBrush(Qt::NoBrush);
         peintre.drawRoundedRect(place.adjusted(0.5, 0.5, -0.5, -0.5), coin, coin);
     }
-    const int marge = Marge();
-    PeindreContenu(peintre, rect().adjusted(marge, marge / 2, -marge, -(marge / 2)));
+    PeindreContenu(peintre, PlaceDuContenu());
     if (survolée_ && cliquable_ && isEnabled()) {
         peintre.setPen(QPen{Teinte::BordBouton, 2});
         peintre.setBrush(Qt::NoBrush);
@@ -155,10 +165,11 @@ void Etiquette::PeindreContenu(QPainter& peintre, const QRect& place)
     if (text().isEmpty())
         return;
     const auto montré = Montré();
-    peintre.setFont(ajusté_.Police(font(), montré, place.size(), Drapeaux()));
+    const auto& ajusté = ajusté_.Mesurer(font(), montré, place.size(), Drapeaux());
+    peintre.setFont(ajusté.Police);
     const auto automatique = fond.isValid() ? Teinte::Encre : palette().color(QPalette::WindowText);
     peintre.setPen(!isEnabled() ? Teinte::EncreEteinte : encre.isValid() ? encre : automatique);
-    peintre.drawText(place, Drapeaux(), montré);
+    peintre.drawText(place, ajusté.Drapeaux, montré);
 }
 
 void Etiquette::mousePressEvent(QMouseEvent* événement)
@@ -266,9 +277,10 @@ void Bouton::paintEvent(QPaintEvent* /*événement*/)
     peintre.setPen(QPen{isEnabled() ? Teinte::BordBouton : Teinte::EncreEteinte, 1.5});
     peintre.drawRoundedRect(QRectF{rect()}.adjusted(1, 1, -1, -1), Coin, Coin);
     const auto place = rect().adjusted(6, 3, -6, -3);
-    peintre.setFont(ajusté_.Police(font(), text(), place.size(), DrapeauxBouton));
+    const auto& ajusté = ajusté_.Mesurer(font(), text(), place.size(), DrapeauxBouton);
+    peintre.setFont(ajusté.Police);
     peintre.setPen(!isEnabled() ? Teinte::EncreEteinte : encre.isValid() ? encre : Teinte::Encre);
-    peintre.drawText(place, DrapeauxBouton, text());
+    peintre.drawText(place, ajusté.Drapeaux, text());
     if (hasFocus())
         PeindreAnneau(peintre, rect());
 }

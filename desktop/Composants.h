@@ -1,6 +1,7 @@
 // The widgets that the toolkit lacks, or paints too plainly.
 #pragma once
 #include "core/Dessin.h"
+#include "desktop/Apparence.h"
 
 #include <QAbstractButton>
 #include <QColor>
@@ -12,16 +13,16 @@
 
 namespace tirelune {
 
-// A text in its font, made smaller when the place is too small; measured once for each place.
+// A text as it is painted in its place; measured once for each place.
 class TexteAjusté {
 public:
-    const QFont& Police(const QFont& base, const QString& texte, QSize place, int drapeaux);
+    const TexteEnPlace& Mesurer(const QFont& base, const QString& texte, QSize place, int drapeaux);
 
 private:
     QFont base_;
     QString texte_;
     QSize place_;
-    QFont police_;
+    TexteEnPlace ajusté_;
 };
 
 // A caption; a button without its looks when it can be clicked. Else the mouse goes through to what holds it.
@@ -42,6 +43,8 @@ public:
     [[nodiscard]] QSize minimumSizeHint() const override;
     [[nodiscard]] bool hasHeightForWidth() const override;
     [[nodiscard]] int heightForWidth(int largeur) const override;
+    // Nothing of the caption is cut where it stands now.
+    [[nodiscard]] bool MontreTout();
 
 protected:
     void paintEvent(QPaintEvent* événement) override;
@@ -59,6 +62,7 @@ private:
     [[nodiscard]] QString Montré() const;
     [[nodiscard]] int Drapeaux() const;
     [[nodiscard]] int Marge() const;
+    [[nodiscard]] QRect PlaceDuContenu() const;
 
     bool cliquable_ = false;
     bool pressée_ = false;
