@@ -1,6 +1,7 @@
 #include "core/OrdreAlphabetique.h"
 
 #include <algorithm>
+#include <array>
 #include <compare>
 #include <utility>
 
@@ -13,6 +14,27 @@ struct Lettres {
     char16_t Première = 0;
     char16_t Seconde = 0;
 };
+
+// Letters of the neighbours' languages: each run of codes is one letter under its ornaments.
+char16_t LettreVoisine(char16_t c)
+{
+    struct Suite {
+        char16_t Début;
+        char16_t Lettre; // 0: no plain letter
+    };
+    static constexpr std::array<Suite, 23> Suites{
+        {{0x100, u'a'}, {0x106, u'c'}, {0x10E, u'd'}, {0x112, u'e'}, {0x11C, u'g'}, {0x124, u'h'},
+         {0x128, u'i'}, {0x132, 0},    {0x134, u'j'}, {0x136, u'k'}, {0x139, u'l'}, {0x143, u'n'},
+         {0x14C, u'o'}, {0x152, 0},    {0x154, u'r'}, {0x15A, u's'}, {0x162, u't'}, {0x168, u'u'},
+         {0x174, u'w'}, {0x176, u'y'}, {0x179, u'z'}, {0x17F, u's'}, {0x180, 0}}};
+    if (c == 0x219) // s and t with a comma below stand apart
+        return u's';
+    if (c == 0x21B)
+        return u't';
+    const auto* suite =
+        std::upper_bound(Suites.begin(), Suites.end(), c, [](char16_t code, const Suite& s) { return code < s.Début; });
+    return suite == Suites.begin() ? u'\0' : std::prev(suite)->Lettre;
+}
 
 Lettres SansOrnement(char16_t caractère)
 {
@@ -41,13 +63,13 @@ Lettres SansOrnement(char16_t caractère)
         return {u'a', u'e'};
     case u'œ':
         return {u'o', u'e'};
-    case u'š':
-        return {u's'};
-    case u'ž':
-        return {u'z'};
     default:
-        return c > 0xFF ? Lettres{c} : Lettres{};
+        break;
     }
+    if (c <= 0xFF || (c >= 0x300 && c <= 0x36F)) // a sign, or an accent apart from its letter
+        return {};
+    const char16_t lettre = LettreVoisine(c);
+    return {lettre != 0 ? lettre : c};
 }
 
 // Walks the plain letters of a text without building them.

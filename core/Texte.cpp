@@ -72,18 +72,30 @@ Texte Rogner(VueTexte texte)
     return Texte{texte.substr(début, texte.find_last_not_of(u' ') - début + 1)};
 }
 
+namespace {
+
+// Beyond Latin-1 letters go by pairs, capital first: on an even code, or in two runs on an odd one.
+bool PaireCapitalePaire(char16_t c)
+{
+    return (c >= 0x100 && c <= 0x137) || (c >= 0x14A && c <= 0x177) || (c >= 0x200 && c <= 0x21F);
+}
+
+bool PaireCapitaleImpaire(char16_t c)
+{
+    return (c >= 0x139 && c <= 0x148) || (c >= 0x179 && c <= 0x17E);
+}
+
+} // namespace
+
 char16_t Minuscule(char16_t c)
 {
     if ((c >= u'A' && c <= u'Z') || (c >= 0xC0 && c <= 0xDE && c != 0xD7))
         return static_cast<char16_t>(c + 0x20);
     if (c == 0x178) // Ÿ
         return 0xFF;
-    // Latin Extended-A goes by pairs, capital first; the parity changes twice.
-    const bool paire = (c >= 0x100 && c <= 0x137) || (c >= 0x14A && c <= 0x177);
-    const bool impaire = (c >= 0x139 && c <= 0x148) || (c >= 0x179 && c <= 0x17E);
     if (c == 0x130) // dotted capital I has no single small letter here
         return c;
-    if ((paire && c % 2 == 0) || (impaire && c % 2 == 1))
+    if ((PaireCapitalePaire(c) && c % 2 == 0) || (PaireCapitaleImpaire(c) && c % 2 == 1))
         return static_cast<char16_t>(c + 1);
     return c;
 }
@@ -94,11 +106,9 @@ char16_t Majuscule(char16_t c)
         return static_cast<char16_t>(c - 0x20);
     if (c == 0xFF)
         return 0x178;
-    const bool paire = (c >= 0x100 && c <= 0x137) || (c >= 0x14A && c <= 0x177);
-    const bool impaire = (c >= 0x139 && c <= 0x148) || (c >= 0x179 && c <= 0x17E);
     if (c == 0x131) // dotless small i
         return c;
-    if ((paire && c % 2 == 1) || (impaire && c % 2 == 0))
+    if ((PaireCapitalePaire(c) && c % 2 == 1) || (PaireCapitaleImpaire(c) && c % 2 == 0))
         return static_cast<char16_t>(c - 1);
     return c;
 }

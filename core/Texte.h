@@ -18,7 +18,8 @@ inline constexpr char16_t Masque = 31; // stands for a letter that is still hidd
 Texte Rogner(VueTexte texte);
 Texte RognerAGauche(VueTexte texte);
 
-// One character for one: ligatures and capitals outside Latin-1, Latin Extended-A stay as they are.
+// One character for one, in Latin-1, Latin Extended-A and the letters of Romanian; ligatures and others stay as they
+// are.
 char16_t Minuscule(char16_t caractère);
 char16_t Majuscule(char16_t caractère);
 Texte Minuscules(VueTexte texte);

@@ -10,6 +10,10 @@ namespace {
 constexpr std::size_t LongueurCode = 6;
 constexpr int LignesBlanches = 7; // the editor shows its fonts seven at a time
 
+// The school's own two lines: to be filled in here and nowhere else.
+constexpr VueTexte SiteDeLEcole = u"[adresse du site : à compléter par l'école]";
+constexpr VueTexte ContactDeLEcole = u"[adresse : à compléter par l'école]";
+
 } // namespace
 
 EtatInitial frmTirelune::CodeCaché(bool visible)
@@ -28,7 +32,7 @@ frmTirelune::frmTirelune(Application& application)
               u"meilleur confort.                    Pour gagner de la place, faites disparaître la barre des tâches "
               u"du système : clic droit sur la barre, Propriétés, option Masquer automatiquement.",
               u"Une banque de textes régulièrement mise à jour est disponible sur le site suivant :",
-              u"tirelune.example/textes", u"Pour nous écrire : bonjour@tirelune.example"})
+              Texte{SiteDeLEcole}, u"Pour nous écrire : " + Texte{ContactDeLEcole}, Texte{}})
 {
     mnuElève.Click = [this] { Ouvrir("frmExercices"); };
     mnuEnseignant.Click = [this] { mnuEnseignant_Click(); };
@@ -79,6 +83,7 @@ void frmTirelune::ListerPolices(std::vector<Texte> polices)
 void frmTirelune::Activate()
 {
     état.CheminAppli = DepuisChemin(application_.plateforme.DossierProgramme());
+    Label2(4).Caption = u"Les textes livrés avec Tirelune sont dans le dossier du programme : " + état.CheminAppli;
     Fond = Dégradé();
     const auto champs = LireChamps(EnChemin(Joindre(état.CheminAppli, u"Chemin.txt")));
     if (!champs || champs->empty())

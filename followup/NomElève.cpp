@@ -1,7 +1,5 @@
 #include "followup/NomElève.h"
 
-#include "core/Windows1252.h"
-
 #include <algorithm>
 #include <array>
 
@@ -12,11 +10,16 @@ namespace {
 constexpr VueTexte Extension = u".bil";
 constexpr std::size_t OctetsMaximum = 255; // of a file name, on the usual file systems
 constexpr VueTexte Interdits = u"/\\<>:\"|?*";
-constexpr char16_t BlancInsécable = 0xA0;
 
-bool EstInvisible(char16_t c)
+bool EstDeCommande(char16_t c)
 {
-    return c < 0x20 || (c >= 0x7F && c < 0xA0);
+    return c < 0x20;
+}
+
+// Half of a pair has no place in a file's name.
+bool EstIncomplet(VueTexte nom)
+{
+    return DepuisUtf8(EnUtf8(nom)) != nom;
 }
 
 // Names of devices: no file may bear them, whatever its extension.
@@ -40,18 +43,15 @@ std::optional<Texte> RefusDuNom(VueTexte nom)
         return u"il est vide.";
     if (const auto place = nom.find_first_of(Interdits); place != VueTexte::npos)
         return u"il contient le signe " + Texte(1, nom[place]) + u" qu'un nom de fichier ne peut pas contenir.";
-    if (std::any_of(nom.begin(), nom.end(), EstInvisible))
-        return u"il contient un caractère invisible.";
-    if (!TientEnWindows1252(nom))
-        return u"il contient un caractère que les fichiers du programme ne peuvent pas garder.";
-    if (nom.front() == u'.' || nom.back() == u'.')
-        return u"il commence ou finit par un point.";
-    if (nom.front() == u' ' || nom.back() == u' ' || nom.front() == BlancInsécable || nom.back() == BlancInsécable)
-        return u"il commence ou finit par un blanc.";
+    if (std::any_of(nom.begin(), nom.end(), EstDeCommande))
+        return u"il contient un caractère de commande (tabulation, fin de ligne…) qu'un nom de fichier ne peut pas "
+               u"contenir.";
+    if (EstIncomplet(nom))
+        return u"il contient une moitié de caractère, qu'un nom de fichier ne peut pas contenir.";
     if (EstRéservé(nom))
-        return u"ce nom est réservé par le système.";
+        return u"les dossiers partagés le réservent à un appareil.";
     if (EnUtf8(Texte{nom}.append(Extension)).size() > OctetsMaximum)
-        return u"il est trop long.";
+        return u"il est trop long pour un nom de fichier.";
     return std::nullopt;
 }
 

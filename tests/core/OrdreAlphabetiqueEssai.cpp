@@ -31,6 +31,18 @@ TEST(OrdreAlphabétique, LigaturesComptentPourDeuxLettres)
     EXPECT_EQ(Triés({u"af", u"æther", u"ad"}), (std::vector<Texte>{u"ad", u"æther", u"af"}));
 }
 
+TEST(OrdreAlphabétique, LettresDesVoisinsParmiLesAutres)
+{
+    EXPECT_EQ(Triés({u"Zoé", u"Ștefan", u"Łukasz", u"E\u0301ric", u"Adam", u"Tom", u"Lucie", u"Žofie", u"Ω", u"Đuro"}),
+              (std::vector<Texte>{u"Adam", u"Đuro", u"E\u0301ric", u"Lucie", u"Łukasz", u"Ștefan", u"Tom", u"Žofie",
+                                  u"Zoé", u"Ω"}));
+    for (char16_t c = 0x100; c < 0x180; ++c) {
+        if (c != u'Œ' && c != u'œ' && c != u'Ĳ' && c != u'ĳ') {
+            EXPECT_TRUE(AvantDansLOrdre(Texte(1, c), u"zz")) << static_cast<int>(c);
+        }
+    }
+}
+
 TEST(OrdreAlphabétique, SignesNeComptentPas)
 {
     EXPECT_EQ(Triés({u"aujourd'hui", u"au-dessus", u"audace", u"aulx"}),

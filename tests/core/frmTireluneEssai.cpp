@@ -60,6 +60,10 @@ TEST(Tirelune, LégendesAvecLeursBlancs)
         u"confort.  "));
     EXPECT_EQ(écran.Label2(1).Caption,
               u"Une banque de textes régulièrement mise à jour est disponible sur le site suivant :");
+    EXPECT_EQ(écran.Label2(2).Caption, u"[adresse du site : à compléter par l'école]");
+    EXPECT_EQ(écran.Label2(3).Caption, u"Pour nous écrire : [adresse : à compléter par l'école]");
+    EXPECT_EQ(écran.Label2(4).Caption,
+              u"Les textes livrés avec Tirelune sont dans le dossier du programme : " + DepuisChemin(banc.dossier));
     EXPECT_EQ(écran.frameCodeEnseignant.Caption, u"Code d'accès requis pour le module Enseignant");
     EXPECT_EQ(écran.lblCodeEnseignant.Caption, u"Saisissez votre code :");
     EXPECT_EQ(écran.Label1.Caption, u"(6 caratères maximum)");

@@ -1,6 +1,7 @@
 #include "followup/frmGestionEleves.h"
 
 #include "core/FichierChamps.h"
+#include "followup/EnregistrerNotes.h"
 #include "followup/frmExercices.h"
 #include "tests/support/Banc.h"
 
@@ -234,14 +235,56 @@ TEST(GestionEleves, NomImpossibleEstRefuséSansRienFaire)
     std::filesystem::create_directory(banc.dossier / "élèves");
     banc.état.CheminBilans = banc.état.CheminAppli + u"/élèves";
     auto& écran = banc.Ouvrir<frmGestionEleves>();
-    for (const auto* nom :
-         {u"../Paul", u"..", u"a/b", u"a\\b", u"Paul?", u"CON", u"lpt1.x", u"Paul.", u".Paul", u"Ω"}) {
+    for (const auto* nom : {u"../Paul", u"..\\Paul", u"a/b", u"a\\b", u"Paul?", u"CON", u"lpt1.x", u"Pa\tul"}) {
         banc.AnnoncerBoîte(u"Le nom\n" + Texte{nom} + u"\nest refusé : …");
         Valider(écran, nom);
     }
     EXPECT_EQ(NombreDeFichiers(banc.dossier), 1U);
     EXPECT_EQ(NombreDeFichiers(banc.dossier / "élèves"), 0U);
     EXPECT_EQ(écran.cmbNoms.ListCount(), 0);
+}
+
+TEST(GestionEleves, NomsOrdinairesViventDeLaCréationALaSuppression)
+{
+    for (const auto* nom :
+         {u"Paul D.", u"J.-C.", u"Łukasz", u"Ștefan", u"Иван", u"..", u".Zoé", u"e\u0301ric", u"\U0001F600"}) {
+        Banc banc;
+        banc.EcrireChamps("Code.txt", {u"123456"});
+        auto& écran = banc.Ouvrir<frmGestionEleves>();
+        Valider(écran, nom);
+        const auto fichier = EnUtf8(nom) + ".bil";
+        EXPECT_EQ(banc.Lire(fichier), "");
+        EXPECT_EQ(écran.cmbNoms.Eléments(), (std::vector<Texte>{nom}));
+
+        auto& choix = banc.Ouvrir<frmExercices>();
+        choix.cmdOk.Cliquer();
+        EXPECT_EQ(choix.Caption, u"Choix des exercices / " + Texte{nom});
+        choix.lblTexte.Caption = u"Le chat";
+        choix.lblIndex.Caption = u"0";
+        EnregistrerNote(choix, 5);
+        EXPECT_TRUE(SauverBilan(choix));
+        EXPECT_NE(banc.Lire(fichier)->find("\"5\""), std::string::npos);
+        choix.Décharger();
+
+        auto& relu = banc.Ouvrir<frmExercices>();
+        relu.cmdOk.Cliquer();
+        EXPECT_EQ(relu.lblExo(0).ToolTipText, u"5");
+
+        écran.cmdSupprimer.Cliquer();
+        banc.AnnoncerBoîte(Texte{QuestionDestruction}, Réponse::Oui);
+        Frapper(écran.txtCode, u"123456");
+        EXPECT_FALSE(banc.Existe(fichier));
+        EXPECT_EQ(écran.cmbNoms.ListCount(), 0);
+    }
+}
+
+TEST(GestionEleves, NomPrisSousUneAutreCasseHorsDuFrançais)
+{
+    Banc banc;
+    banc.Ecrire("Ștefan.bil", "");
+    auto& écran = banc.Ouvrir<frmGestionEleves>();
+    banc.AnnoncerBoîte(u"Le fichier \nșTEFAN.bil. existe déjà !\n");
+    Valider(écran, u"șTEFAN");
 }
 
 TEST(GestionEleves, CréationImpossibleEstDite)
