@@ -12,6 +12,7 @@ public:
     Chemin DossierProgramme() override { return {}; }
     std::vector<Texte> Lecteurs() override { return {}; }
     std::optional<EchecFichier> Réécrire(const Chemin&, std::string_view) override { return std::nullopt; }
+    std::optional<std::chrono::seconds> AgeFichier(const Chemin&) override { return std::chrono::hours{1}; }
     char16_t SéparateurDécimal() override { return u','; }
     Réponse AfficherBoîte(const Boîte&) override { return Réponse::Ok; }
     std::optional<Texte> DemanderFichierAOuvrir(const DialogueFichier&) override { return std::nullopt; }

@@ -352,6 +352,20 @@ void DriveListBox::Refresh()
     Changer();
 }
 
+void DriveListBox::Montrer(VueTexte dossier)
+{
+    const auto contient = [dossier](const Texte& racine) {
+        return dossier.starts_with(racine) &&
+               (dossier.size() == racine.size() || racine.ends_with(u'/') || dossier[racine.size()] == u'/');
+    };
+    Texte trouvé;
+    for (const auto& racine : lecteurs_) {
+        if (contient(racine) && racine.size() > trouvé.size())
+            trouvé = racine;
+    }
+    Drive = std::move(trouvé);
+}
+
 void DriveListBox::Choisir(int index)
 {
     if (!Enabled || !EstAtteignable() || index < 0 || index >= static_cast<int>(lecteurs_.size()))
@@ -372,8 +386,21 @@ bool DirListBox::Path(const Texte& dossier)
         return false;
     dossier_ = dossier;
     noms_ = std::move(*noms);
+    ListIndex.Noter(-1);
     Changer();
     return true;
+}
+
+Texte DirListBox::Choisi() const
+{
+    const int index = ListIndex;
+    return index < 0 ? dossier_ : Joindre(dossier_, noms_.at(static_cast<std::size_t>(index)));
+}
+
+void DirListBox::Surligner(int index)
+{
+    if (Enabled && EstAtteignable() && index >= -1 && index < static_cast<int>(noms_.size()))
+        ListIndex = index;
 }
 
 void DirListBox::Ouvrir(int index)

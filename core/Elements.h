@@ -293,6 +293,8 @@ public:
 
     [[nodiscard]] const std::vector<Texte>& Lecteurs() const { return lecteurs_; }
     void Refresh();
+    // Shows the root that a folder lies under.
+    void Montrer(VueTexte dossier);
     void Choisir(int index); // by the user
 
 private:
@@ -304,13 +306,17 @@ class DirListBox final : public Elément {
 public:
     DirListBox(Ecran& écran, std::string_view nom, const EtatInitial& initial = {});
 
+    Propriété<int> ListIndex{*this, -1}; // the folder in it that is highlighted; -1: none
     std::function<void()> Change;
 
     [[nodiscard]] const Texte& Path() const { return dossier_; }
+    // The highlighted folder, or else the one whose folders are listed.
+    [[nodiscard]] Texte Choisi() const;
     // False when the folder can't be read; nothing changes then.
     [[nodiscard]] bool Path(const Texte& dossier);
     [[nodiscard]] const std::vector<Texte>& SousDossiers() const { return noms_; }
-    void Ouvrir(int index); // by the user; -1: the folder above
+    void Ouvrir(int index);    // by the user; -1: the folder above
+    void Surligner(int index); // by the user
 
 private:
     Texte dossier_;

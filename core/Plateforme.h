@@ -58,6 +58,9 @@ public:
     virtual std::vector<Texte> Lecteurs() = 0; // where the list of drives may lead
     virtual std::optional<EchecFichier> Réécrire(const Chemin& fichier, std::string_view contenu) = 0;
     virtual char16_t SéparateurDécimal() = 0;
+    // How long ago a file was written, by this machine's clock: below zero where the file's own machine is ahead.
+    // Nothing when there is no such file.
+    virtual std::optional<std::chrono::seconds> AgeFichier(const Chemin& fichier) = 0;
 
     // Boxes and dialogs. A dialog that is cancelled gives nothing.
     virtual Réponse AfficherBoîte(const Boîte& boîte) = 0;

@@ -104,6 +104,15 @@ std::optional<EchecFichier> PlateformeQt::Réécrire(const Chemin& fichier, std:
     return RéécrireFichier(fichier, contenu);
 }
 
+std::optional<std::chrono::seconds> PlateformeQt::AgeFichier(const Chemin& fichier)
+{
+    std::error_code erreur;
+    const auto écrit = std::filesystem::last_write_time(fichier, erreur);
+    if (erreur)
+        return std::nullopt;
+    return std::chrono::floor<std::chrono::seconds>(std::filesystem::file_time_type::clock::now() - écrit);
+}
+
 char16_t PlateformeQt::SéparateurDécimal()
 {
     const auto séparateur = QLocale::system().decimalPoint();

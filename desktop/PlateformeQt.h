@@ -30,6 +30,7 @@ public:
     Chemin DossierProgramme() override;
     std::vector<Texte> Lecteurs() override;
     std::optional<EchecFichier> Réécrire(const Chemin& fichier, std::string_view contenu) override;
+    std::optional<std::chrono::seconds> AgeFichier(const Chemin& fichier) override;
     char16_t SéparateurDécimal() override;
 
     Réponse AfficherBoîte(const Boîte& boîte) override;

@@ -193,22 +193,31 @@ public:
             if (Agissante())
                 source_.Ouvrir(liste_.currentRow() - 1); // the first row goes up
         });
+        QObject::connect(&liste_, &QListWidget::currentRowChanged, [this](int rangée) {
+            if (Agissante())
+                source_.Surligner(rangée - 1);
+        });
     }
 
     void Synchroniser() override
     {
         const QSignalBlocker silence{liste_};
-        liste_.clear();
-        liste_.addItem(QStringLiteral("..  (%1)").arg(EnQString(source_.Path())));
+        QStringList textes{QStringLiteral("..  (%1)").arg(EnQString(source_.Path()))};
         for (const auto& nom : source_.SousDossiers())
-            liste_.addItem(EnQString(nom));
-        liste_.setCurrentRow(0);
+            textes.push_back(EnQString(nom));
+        if (textes != montrés_) { // rows made anew would take a double click its first half away
+            montrés_ = textes;
+            liste_.clear();
+            liste_.addItems(textes);
+        }
+        liste_.setCurrentRow(source_.ListIndex + 1);
         Vue::Synchroniser();
     }
 
 private:
     DirListBox& source_;
     QListWidget& liste_;
+    QStringList montrés_;
 };
 
 } // namespace

@@ -71,6 +71,7 @@ frmExercices::frmExercices(Application& application)
     for (int i = 0; i < NombreExercices; ++i)
         lblExo(i).Caption = Texte{Exercices[static_cast<std::size_t>(i)].Libellé};
     cmdOk.Click = [this] { cmdOk_Click(); };
+    cmbNoms.Enter = [this] { cmdOk_Click(); };
     cmdCharger.Click = [this] { cmdCharger_Click(); };
     cmbTextes.Click = [this] { cmbTextes_Click(); };
     lblExo.Click([this](int i) { lblExo_Click(i); });

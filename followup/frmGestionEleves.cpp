@@ -44,6 +44,7 @@ frmGestionEleves::frmGestionEleves(Application& application)
     cmdValiderCheminRéseau.Click = [this] { cmdValiderCheminRéseau_Click(); };
     cmdQuitter.Click = [this] { Décharger(); };
     drvLecteurs.Change = [this] { drvLecteurs_Change(); };
+    dirLecteurs.Change = [this] { dirLecteurs_Change(); };
     txtNom.Enter = [this] { txtNom_Enter(); };
     txtCode.KeyPress = ChiffresSeuls;
     txtVérif.KeyPress = ChiffresSeuls;
@@ -84,6 +85,7 @@ void frmGestionEleves::Load()
     état.CodeValide = false;
     AtteindreDossierElèves(application_, listeBil);
     static_cast<void>(dirLecteurs.Path(état.CheminBilans)); // out of reach: no folder is shown
+    dirLecteurs_Change();
     ListerNoms(listeBil, cmbNoms);
     MontrerRéseau();
 }
@@ -112,6 +114,13 @@ void frmGestionEleves::CacherCode()
     lblCode.Visible = false;
 }
 
+// Its boxes go, and the keyboard would go with them.
+void frmGestionEleves::QuitterLeCode()
+{
+    CacherCode();
+    cmbNoms.SetFocus();
+}
+
 void frmGestionEleves::cmbNoms_Click()
 {
     txtNom.Text = cmbNoms.Text;
@@ -138,6 +147,7 @@ void frmGestionEleves::cmdAnnuler_Click()
     cmbNoms.Visible = true;
     cmdSupprimer.Visible = true;
     cmbNoms_Click();
+    cmbNoms.SetFocus();
 }
 
 void frmGestionEleves::txtNom_Enter()
@@ -181,6 +191,8 @@ void frmGestionEleves::CréerElève(const Texte& nom)
     cmbNoms.ListIndex = cmbNoms.Chercher(nom); // some disks spell a name otherwise: then no item stands for it
     cmbNoms.Text = txtNom.Text;
     cmbNoms.Visible = true;
+    txtNom.SelStart = 0; // the next name replaces this one
+    txtNom.SelLength = txtNom.Text->size();
 }
 
 // ---- Deleting, behind the code -----------------------------------------------------------------------------------
@@ -259,13 +271,13 @@ void frmGestionEleves::txtVérif_Change()
         return;
     if (txtVérif.Text != txtCode.Text) {
         ViderCode();
-        CacherCode();
+        QuitterLeCode();
         return;
     }
     const auto fichier = Joindre(état.CheminAppli, u"Code.txt");
     if (const auto échec = application_.plateforme.Réécrire(EnChemin(fichier), *ComposerChamps({txtCode.Text}))) {
         ViderCode();
-        CacherCode();
+        QuitterLeCode();
         Avertir(MessageEchec(*échec, fichier));
         return;
     }
@@ -275,7 +287,7 @@ void frmGestionEleves::txtVérif_Change()
 void frmGestionEleves::AccepterCode()
 {
     état.CodeValide = true;
-    CacherCode();
+    QuitterLeCode();
     cmdSupprimer_Click();
 }
 
@@ -297,12 +309,19 @@ void frmGestionEleves::cmdCheminRéseau_Click()
 void frmGestionEleves::drvLecteurs_Change()
 {
     static_cast<void>(dirLecteurs.Path(drvLecteurs.Drive)); // an empty drive changes nothing
+    dirLecteurs_Change();
+}
+
+// The list of drives shows where one is.
+void frmGestionEleves::dirLecteurs_Change()
+{
+    drvLecteurs.Montrer(dirLecteurs.Path());
 }
 
 void frmGestionEleves::cmdValiderCheminRéseau_Click()
 {
     MontrerChoixDuChemin(false);
-    const auto& dossier = dirLecteurs.Path();
+    const auto dossier = dirLecteurs.Choisi();
     if (!TientDansUnChamp(dossier)) {
         Avertir(u"Le dossier\n" + dossier + u"\nne peut pas servir : son nom contient un caractère que le fichier " +
                 u"Chemin.txt ne peut pas garder.");

@@ -66,11 +66,13 @@ private:
     void cmdCheminRéseau_Click();
     void cmdValiderCheminRéseau_Click();
     void drvLecteurs_Change();
+    void dirLecteurs_Change();
     void txtNom_Enter();
     void txtCode_Change();
     void txtVérif_Change();
 
     void CacherCode();
+    void QuitterLeCode();
     void DemanderCode();
     void ViderCode();
     void AccepterCode();

@@ -98,6 +98,16 @@ TEST(Exercices, ListeLesElèvesSousLeCadre)
     EXPECT_TRUE(banc.plateforme.dialogues.empty());
 }
 
+TEST(Exercices, EntréeSurLaListeDesNomsConfirme)
+{
+    Banc banc;
+    banc.Ecrire("Zoé.bil", "");
+    auto& choix = banc.Ouvrir<frmExercices>();
+    EXPECT_FALSE(choix.cmbNoms.Taper({u'\r', Touche::Entrée}));
+    EXPECT_EQ(choix.Caption, u"Choix des exercices / Zoé");
+    EXPECT_FALSE(choix.frameElève.Visible);
+}
+
 TEST(Exercices, LégendesEtBulles)
 {
     Banc banc;

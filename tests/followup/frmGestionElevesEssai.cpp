@@ -5,6 +5,8 @@
 #include "followup/frmExercices.h"
 #include "tests/support/Banc.h"
 
+#include <cstdlib>
+
 namespace tirelune {
 
 namespace {
@@ -29,6 +31,23 @@ std::size_t NombreDeFichiers(const Chemin& dossier)
 {
     return static_cast<std::size_t>(std::distance(std::filesystem::directory_iterator{dossier}, {}));
 }
+
+// A home folder of the test's own.
+class Maison {
+public:
+    explicit Maison(const Chemin& dossier)
+    {
+        if (const char* avant = std::getenv("HOME"); avant != nullptr)
+            avant_ = avant;
+        ::setenv("HOME", dossier.c_str(), 1);
+    }
+    Maison(const Maison&) = delete;
+    Maison& operator=(const Maison&) = delete;
+    ~Maison() { avant_ ? ::setenv("HOME", avant_->c_str(), 1) : ::unsetenv("HOME"); }
+
+private:
+    std::optional<std::string> avant_;
+};
 
 constexpr VueTexte QuestionDestruction = u"Destruction irréversible. Souhaitez-vous continuer ?";
 constexpr VueTexte DossierInaccessible = u"Le répertoire des fichiers \"Elèves\" n'est pas accessible.\n\n"
@@ -312,6 +331,19 @@ TEST(GestionEleves, FichierAMoitiéFaitNeRestePas)
     EXPECT_FALSE(banc.Existe("Paul.bil"));
 }
 
+TEST(GestionEleves, AprèsUnAjoutLeNomSuivantRemplaceLePrécédent)
+{
+    Banc banc;
+    auto& écran = banc.Ouvrir<frmGestionEleves>();
+    Valider(écran, u" Zoé");
+    EXPECT_EQ(écran.txtNom.SelText(), u" Zoé");
+    EXPECT_TRUE(écran.txtNom.Visible);
+    EXPECT_EQ(écran.Focus(), &écran.txtNom);
+    écran.txtNom.SelText(u"Tom");
+    écran.txtNom.Taper({u'\r', Touche::Entrée});
+    EXPECT_EQ(écran.cmbNoms.Eléments(), (std::vector<Texte>{u"Tom", u"Zoé"}));
+}
+
 TEST(GestionEleves, AnnulerRevientALaListe)
 {
     Banc banc;
@@ -323,6 +355,7 @@ TEST(GestionEleves, AnnulerRevientALaListe)
     EXPECT_FALSE(écran.txtNom.Visible || écran.lblConsigne.Visible || écran.cmdAnnuler.Visible);
     EXPECT_TRUE(écran.cmbNoms.Visible && écran.cmdSupprimer.Visible);
     EXPECT_EQ(écran.txtNom.Text, u"Paul");
+    EXPECT_EQ(écran.Focus(), &écran.cmbNoms);
 }
 
 TEST(GestionEleves, ChoisirUnNomCacheLeCode)
@@ -361,6 +394,7 @@ TEST(GestionEleves, PremièreSuppressionCréeLeCodeEtPoseLaQuestion)
     EXPECT_FALSE(banc.Existe("Paul.bil"));
     EXPECT_FALSE(écran.txtCode.Visible || écran.txtVérif.Visible || écran.lblCode.Visible);
     EXPECT_TRUE(banc.état.CodeValide);
+    EXPECT_EQ(écran.Focus(), &écran.cmbNoms);
 }
 
 TEST(GestionEleves, LeCodeVautPourTouteLaVisite)
@@ -490,6 +524,7 @@ TEST(GestionEleves, ConfirmationDifférenteRecommenceSansMessage)
     EXPECT_EQ(écran.txtCode.Text, u"");
     EXPECT_EQ(écran.txtVérif.Text, u"");
     EXPECT_FALSE(écran.txtCode.Visible || écran.txtVérif.Visible || écran.lblCode.Visible);
+    EXPECT_EQ(écran.Focus(), &écran.cmbNoms);
     EXPECT_FALSE(banc.état.CodeValide);
     EXPECT_FALSE(banc.Existe("Code.txt") && !banc.Lire("Code.txt")->empty());
 }
@@ -579,6 +614,45 @@ TEST(GestionEleves, ChoisirUnDossierLEcritEtLeListe)
     EXPECT_TRUE(banc.Existe("Paul.bil")); // not moved
 }
 
+TEST(GestionEleves, ValiderPrendLeDossierSurligné)
+{
+    Banc banc;
+    banc.Ecrire("partagé/a/Zoé.bil", "");
+    banc.Ecrire("partagé/b/Tom.bil", "");
+    auto& écran = banc.Ouvrir<frmGestionEleves>();
+    écran.cmdCheminRéseau.Cliquer();
+    écran.dirLecteurs.Ouvrir(0);
+    écran.dirLecteurs.Surligner(1);
+    EXPECT_EQ(écran.dirLecteurs.Path(), DepuisChemin(banc.dossier / "partagé"));
+    écran.cmdValiderCheminRéseau.Cliquer();
+    EXPECT_EQ(banc.état.CheminRéseau, DepuisChemin(banc.dossier / "partagé" / "b"));
+    EXPECT_EQ(écran.cmbNoms.Text, u"Tom");
+}
+
+TEST(GestionEleves, LaListeDesLecteursMontreOùLOnEst)
+{
+    Banc banc;
+    const Maison maison{banc.dossier};
+    auto& écran = banc.Ouvrir<frmGestionEleves>();
+    EXPECT_EQ(écran.drvLecteurs.Drive, DepuisChemin(banc.dossier));
+    écran.cmdCheminRéseau.Cliquer();
+    écran.dirLecteurs.Ouvrir(-1); // out of it
+    EXPECT_EQ(écran.drvLecteurs.Drive, u"/");
+    écran.drvLecteurs.Choisir(1);
+    EXPECT_EQ(écran.drvLecteurs.Drive, DepuisChemin(banc.dossier));
+    EXPECT_EQ(écran.dirLecteurs.Path(), DepuisChemin(banc.dossier));
+}
+
+TEST(GestionEleves, UnVoisinDontLeNomCommencePareilNEstPasLeLecteur)
+{
+    Banc banc;
+    std::filesystem::create_directory(banc.dossier / "maison");
+    std::filesystem::create_directory(banc.dossier / "maisonnette");
+    const Maison maison{banc.dossier / "maison"};
+    banc.état.CheminBilans = DepuisChemin(banc.dossier / "maisonnette");
+    EXPECT_EQ(banc.Ouvrir<frmGestionEleves>().drvLecteurs.Drive, u"/");
+}
+
 TEST(GestionEleves, LecteurChoisiMontreSesDossiers)
 {
     Banc banc;
@@ -595,9 +669,11 @@ TEST(GestionEleves, LecteurVideEstIgnoré)
     Banc banc;
     auto& écran = banc.Ouvrir<frmGestionEleves>();
     écran.cmdCheminRéseau.Cliquer();
+    const Texte lecteur = écran.drvLecteurs.Drive;
     écran.drvLecteurs.Drive = u"/n'existe pas";
     écran.drvLecteurs.Change();
     EXPECT_EQ(écran.dirLecteurs.Path(), DepuisChemin(banc.dossier));
+    EXPECT_EQ(écran.drvLecteurs.Drive, lecteur); // and the list says so
 }
 
 TEST(GestionEleves, CheminQuiNeSEcritPasEstDitEtLAncienReste)

@@ -82,6 +82,12 @@ Réponse Refus(const Boîte& boîte)
 
 } // namespace
 
+std::optional<std::chrono::seconds> PlateformeEssai::AgeFichier(const Chemin& fichier)
+{
+    std::error_code erreur;
+    return std::filesystem::exists(fichier, erreur) ? std::optional{âge} : std::nullopt;
+}
+
 Réponse PlateformeEssai::AfficherBoîte(const Boîte& boîte)
 {
     if (terminé)

@@ -42,6 +42,7 @@ public:
     std::vector<Texte> Lecteurs() override { return lecteurs; }
     std::optional<EchecFichier> Réécrire(const Chemin& fichier, std::string_view contenu) override;
     char16_t SéparateurDécimal() override { return séparateur; }
+    std::optional<std::chrono::seconds> AgeFichier(const Chemin& fichier) override;
     Réponse AfficherBoîte(const Boîte& boîte) override;
     std::optional<Texte> DemanderFichierAOuvrir(const DialogueFichier& dialogue) override;
     std::optional<Texte> DemanderFichierAEnregistrer(const DialogueFichier& dialogue) override;
@@ -70,6 +71,7 @@ public:
     // The script.
     Chemin dossier;
     char16_t séparateur = u',';
+    std::chrono::seconds âge = 1h; // of every file
     std::vector<Texte> polices{u"Comic Sans MS"};
     std::vector<Texte> lecteurs; // the bench's folder alone
     std::deque<double> hasards;
