@@ -2,6 +2,7 @@
 
 #include "core/Dégradé.h"
 #include "core/FichierChamps.h"
+#include "core/Remplacement.h"
 
 namespace tirelune {
 
@@ -122,9 +123,7 @@ void frmTirelune::DéfinirCode(const Texte& fichier)
     if (txtVérificationCode.Text != txtCodeEnseignant.Text)
         return;
     const auto contenu = ComposerChamps({txtCodeEnseignant.Text});
-    if (const auto échec = application_.plateforme.Réécrire(EnChemin(fichier), *contenu)) {
-        std::error_code ignorée; // half a file would be a code that nobody has typed
-        std::filesystem::remove(EnChemin(fichier), ignorée);
+    if (const auto échec = RemplacerFichier(application_.plateforme, EnChemin(fichier), *contenu)) {
         Avertir(MessageEchec(*échec, fichier));
         return;
     }

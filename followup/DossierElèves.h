@@ -1,5 +1,8 @@
 // The pupils' folder: its files are the list of pupils.
 #pragma once
+#include "core/Texte.h"
+
+#include <vector>
 
 namespace tirelune {
 
@@ -13,5 +16,12 @@ void AtteindreDossierElèves(Application& application, FileListBox& liste);
 
 // Fills the names from the files, extension cut off, and shows the first.
 void ListerNoms(const FileListBox& liste, ComboBox& noms);
+
+// Path of the file of the name that is shown: the one that it was listed from, in a list of that folder.
+Texte FichierMontré(const FileListBox& liste, const ComboBox& noms, VueTexte dossier);
+
+// What a teacher should know of a folder: the files that were set aside in it, and those that bear one name. Empty when
+// there are none.
+Texte NoteSurLeDossier(VueTexte dossier);
 
 } // namespace tirelune

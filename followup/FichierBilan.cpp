@@ -1,19 +1,99 @@
 #include "followup/FichierBilan.h"
 
+#include "core/FichierChamps.h"
+#include "core/Plateforme.h"
+#include "followup/GrilleRésultats.h"
+
+#include <algorithm>
+
 namespace tirelune {
+
+namespace {
+
+constexpr VueTexte Extension = u".bil";
+
+// A save takes less. Clocks of two machines may differ: a file from a little later is as young.
+constexpr std::chrono::seconds AgeDUnEnregistrement{10};
+
+// The last line is whole: it has an end, and its quotes are a pair.
+bool FinitUneLigne(std::string_view octets)
+{
+    const auto fin = octets.find_last_not_of("\r\n");
+    if (fin == std::string_view::npos || fin + 1 == octets.size())
+        return false;
+    const auto ligne = octets.substr(0, fin + 1);
+    const auto début = std::min(ligne.find_last_of("\r\n"), ligne.size()) + 1;
+    const auto dernière = ligne.substr(début < ligne.size() ? début : 0);
+    return dernière.front() != '"' || (dernière.size() > 1 && dernière.back() == '"');
+}
+
+bool FinitUneFiche(const std::vector<Texte>& champs)
+{
+    const auto marqueur =
+        std::find_if(champs.rbegin(), champs.rend(), [](const Texte& champ) { return Rogner(champ) == Marqueur; });
+    return marqueur - champs.rbegin() >= NombreColonnes;
+}
+
+} // namespace
 
 Texte FichierBilan(VueTexte dossier, VueTexte nomElève)
 {
-    return Joindre(dossier, Texte{nomElève} + u".bil");
+    return Joindre(dossier, NomRéel(dossier, Texte{nomElève}.append(Extension)));
 }
 
-std::optional<Texte> CopierBilan(const Texte& fichier, VueTexte suffixe)
+bool EstFichierBilan(VueTexte nom)
 {
-    Texte copie;
-    std::error_code erreur;
-    for (int numéro = 1; copie.empty() || std::filesystem::exists(EnChemin(copie), erreur); ++numéro)
-        copie = Texte{fichier}.append(suffixe) + EnTexte(static_cast<long long>(numéro));
-    return std::filesystem::copy_file(EnChemin(fichier), EnChemin(copie), erreur) ? std::optional{copie} : std::nullopt;
+    return nom.size() > Extension.size() && Minuscules(nom).ends_with(Extension);
+}
+
+VueTexte RacineBilan(VueTexte nom)
+{
+    return nom.substr(0, nom.size() - Extension.size());
+}
+
+LectureBilan LireBilan(Plateforme& plateforme, const Texte& fichier)
+{
+    LectureBilan lecture;
+    const auto âge = plateforme.AgeFichier(EnChemin(fichier));
+    lecture.Octets = LireFichier(EnChemin(fichier));
+    lecture.Mouvant = !lecture.Octets || !âge || std::chrono::abs(*âge) < AgeDUnEnregistrement;
+    if (!lecture.Octets)
+        return lecture;
+    lecture.Champs = DécouperChamps(*lecture.Octets, Valeurs::SurUneLigne);
+    lecture.Entier = !lecture.Champs.empty() && FinitUneLigne(*lecture.Octets) && FinitUneFiche(lecture.Champs);
+    return lecture;
+}
+
+std::optional<Copie> MettreDeCôté(Plateforme& plateforme, const Texte& fichier, const std::string& octets,
+                                  VueTexte suffixe)
+{
+    for (long long numéro = 1;; ++numéro) {
+        auto copie = Texte{fichier}.append(suffixe) + EnTexte(numéro);
+        const auto chemin = EnChemin(copie);
+        if (std::error_code erreur; std::filesystem::exists(chemin, erreur)) {
+            if (LireFichier(chemin) == octets)
+                return Copie{std::move(copie), false};
+            continue;
+        }
+        if (!plateforme.Réécrire(chemin, octets))
+            return Copie{std::move(copie), true};
+        std::error_code ignorée; // half a copy would look like a whole one
+        std::filesystem::remove(chemin, ignorée);
+        return std::nullopt;
+    }
+}
+
+bool EstMisDeCôté(VueTexte nom)
+{
+    const auto numéro = nom.find_last_not_of(u"0123456789") + 1;
+    const auto sansNuméro = nom.substr(0, numéro);
+    if (numéro == nom.size())
+        return false;
+    for (const auto suffixe : {SuffixeAbîmé, SuffixeAutre}) {
+        if (sansNuméro.ends_with(suffixe))
+            return EstFichierBilan(sansNuméro.substr(0, sansNuméro.size() - suffixe.size()));
+    }
+    return false;
 }
 
 } // namespace tirelune

@@ -1,16 +1,51 @@
-// The pupil's file: where it lies, and the copies that are set aside.
+// The pupil's file: where it lies, what it holds, and the copies that are set aside.
 #pragma once
-#include "core/Texte.h"
+#include "core/Fichiers.h"
 
 #include <optional>
+#include <string>
+#include <vector>
 
 namespace tirelune {
 
-// Path of the pupil's file in a folder.
+class Plateforme;
+
+// Path of the pupil's file in a folder, with the case that its extension has there.
 Texte FichierBilan(VueTexte dossier, VueTexte nomElève);
 
-// Copies a pupil's file beside itself, under its name, `suffixe` and the first number that is free: the copy's name.
-// Nothing when it can't be copied.
-std::optional<Texte> CopierBilan(const Texte& fichier, VueTexte suffixe);
+// The extension in any case, and a name before it.
+bool EstFichierBilan(VueTexte nom);
+// The pupil's name in that of such a file.
+VueTexte RacineBilan(VueTexte nom);
+
+struct LectureBilan {
+    std::optional<std::string> Octets; // nothing: it isn't there, or can't be read
+    std::vector<Texte> Champs;
+    bool Entier = false;  // it holds records, and ends where one ends
+    bool Mouvant = false; // written a moment ago, or gone: another machine may be saving it
+
+    // It ends in the middle of a value or of a record.
+    [[nodiscard]] bool Coupé() const { return Octets && !Octets->empty() && !Entier; }
+};
+
+LectureBilan LireBilan(Plateforme& plateforme, const Texte& fichier);
+
+// What the names of copies end in, before their number: of a damaged file, and of other results than the pupil's
+// present ones.
+inline constexpr VueTexte SuffixeAbîmé = u".abîmé";
+inline constexpr VueTexte SuffixeAutre = u".autre";
+
+struct Copie {
+    Texte Fichier;
+    bool Nouvelle; // false: the same bytes had been set aside before
+};
+
+// Sets these bytes of a pupil's file aside, on the disk for good, beside it: under its name, the suffix and the first
+// number that is free. Nothing when that fails.
+std::optional<Copie> MettreDeCôté(Plateforme& plateforme, const Texte& fichier, const std::string& octets,
+                                  VueTexte suffixe);
+
+// True for the name of such a copy.
+bool EstMisDeCôté(VueTexte nom);
 
 } // namespace tirelune

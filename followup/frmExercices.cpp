@@ -127,10 +127,11 @@ void frmExercices::Load()
 
 void frmExercices::QueryUnload()
 {
-    // The grid goes with the screen: after a save that failed, this is the last one.
+    // The grid goes with the screen: after a save that failed, this is the last one, and the file may be gone.
     if (BilanEnregistré || SauverBilan(*this) ||
-        application_.Demander(u"Les derniers résultats ne sont pas enregistrés et seront perdus.\n"
-                              u"Souhaitez-vous quitter quand même ?"))
+        application_.Demander(u"Les résultats de " + état.NomElève +
+                              u" ne sont pas enregistrés. Si tu quittes maintenant, ils peuvent être tous perdus, "
+                              u"même ceux des autres jours.\n\nVeux-tu quitter quand même ?"))
         Décharger();
 }
 
@@ -144,44 +145,72 @@ void frmExercices::ListerElèves()
 void frmExercices::cmdOk_Click()
 {
     état.NomElève = cmbNoms.Text;
-    auto champs = LireBilan();
-    if (!champs)
+    LectureBilan lecture;
+    lecture.Octets.emplace();
+    const auto fichier = FichierMontré(listeBil, cmbNoms, état.CheminBilans);
+    if (cmbNoms.ListCount() > 0) {
+        auto lue = LireBilanPosé(fichier);
+        if (!lue)
+            return; // closed meanwhile
+        lecture = std::move(*lue);
+    }
+    if (!lecture.Octets) {
+        DireIllisible(fichier);
         return; // the first save would replace what can't be read now
+    }
+    BilansConnus[état.CheminBilans] = {fichier};
     AjouterNomElève();
-    ChargerBilan(std::move(*champs));
+    const bool toutRangé = ChargerBilan(std::move(lecture.Champs));
+    if (!toutRangé || lecture.Coupé())
+        GarderBilanAbîmé(fichier, *lecture.Octets);
     frameElève.Visible = false;
 }
 
 // ---- The pupil's results ---------------------------------------------------------------------------------------
 
-// No fields where the pupil has no file. Nothing, which the pupil is told, when it is there and can't be read.
-std::optional<std::vector<Texte>> frmExercices::LireBilan()
+// While another machine saves the file, it is gone, empty or unfinished for a moment: it is looked at again, an old one
+// once (the clocks may differ), a young one until it stays as it is. Nothing when the screen was closed meanwhile.
+std::optional<LectureBilan> frmExercices::LireBilanPosé(const Texte& fichier)
 {
-    const auto fichier = FichierBilan(état.CheminBilans, état.NomElève);
-    if (auto champs = LireChamps(EnChemin(fichier), Valeurs::SurUneLigne)) {
-        BilansConnus.insert(fichier);
-        return champs;
+    static constexpr std::chrono::milliseconds Pas{100};
+    static constexpr std::chrono::milliseconds Limite{2000};
+    std::optional<LectureBilan> retenue; // the last whole one, if there was any
+    for (std::chrono::milliseconds attendu{0};; attendu += Pas) {
+        auto lecture = LireBilan(application_.plateforme, fichier);
+        const bool posée = lecture.Entier && (!lecture.Mouvant || (retenue && retenue->Octets == lecture.Octets));
+        const bool assez = attendu >= (lecture.Mouvant ? Limite : Pas);
+        if (lecture.Entier || (assez && !retenue))
+            retenue = std::move(lecture);
+        if (posée || assez)
+            return retenue;
+        if (!Attendre(Pas))
+            return std::nullopt;
     }
-    std::error_code erreur;
-    const bool absent = !std::filesystem::exists(EnChemin(fichier), erreur) && !erreur;
-    if (absent && std::filesystem::is_directory(EnChemin(état.CheminBilans), erreur))
-        return std::vector<Texte>{};
-    Avertir(u"Impossible de lire le fichier\n" + fichier);
-    return std::nullopt;
 }
 
-void frmExercices::ChargerBilan(std::vector<Texte> champs)
+void frmExercices::DireIllisible(const Texte& fichier)
 {
-    RangerChamps(std::move(champs));
+    std::error_code erreur;
+    const bool absent = !std::filesystem::exists(EnChemin(fichier), erreur) && !erreur &&
+                        std::filesystem::is_directory(EnChemin(état.CheminBilans), erreur);
+    Avertir((absent ? u"Ton fichier de résultats n'est plus là :\n" : u"Impossible de lire le fichier\n") + fichier +
+            u"\n\nPréviens ton enseignant.");
+}
+
+// False: some of it has no place in the grid.
+bool frmExercices::ChargerBilan(std::vector<Texte> champs)
+{
+    const bool toutRangé = RangerChamps(std::move(champs));
     CalculerMoyennes();
     PeindreMoyennes();
-    if (cmbTextes.ListCount() == 0)
-        return;
-    cmbTextes.Montrer(cmbTextes.ListCount() - 1);
-    PeindreTexte(fgRésultats.Rows() - 1);
+    if (cmbTextes.ListCount() > 0) {
+        cmbTextes.Montrer(cmbTextes.ListCount() - 1);
+        PeindreTexte(fgRésultats.Rows() - 1);
+    }
+    return toutRangé;
 }
 
-void frmExercices::RangerChamps(std::vector<Texte> champs)
+bool frmExercices::RangerChamps(std::vector<Texte> champs)
 {
     // A cell is written trimmed: what would then open a record opens one now.
     std::transform(champs.begin(), champs.end(), champs.begin(), [](const Texte& champ) { return Rogner(champ); });
@@ -196,8 +225,7 @@ void frmExercices::RangerChamps(std::vector<Texte> champs)
             PrendreSéparateur(rangée, colonne);
     }
     cmbTextes.AddItems(std::move(titres));
-    if (perdus)
-        GarderBilanAbîmé();
+    return !perdus;
 }
 
 // A score may come from a machine with another decimal separator; this machine's own is what gets written.
@@ -212,14 +240,20 @@ void frmExercices::PrendreSéparateur(int rangée, int colonne)
     fgRésultats.TextMatrix(rangée, colonne, std::move(note));
 }
 
-// Some of the file has no place in the grid: the next save would lose it, so the file stays under another name.
-void frmExercices::GarderBilanAbîmé()
+// The next save would lose what has no place in the grid, so the file stays under another name: told once, and as
+// long as it fails.
+void frmExercices::GarderBilanAbîmé(const Texte& fichier, const std::string& octets)
 {
-    const auto fichier = FichierBilan(état.CheminBilans, état.NomElève);
-    const auto copie = CopierBilan(fichier, u".abîmé");
-    Avertir(u"Le fichier des résultats\n" + fichier + u"\nest abîmé. Ce qui est lisible a été lu.\n\n" +
-            (copie ? u"Le fichier tel qu'il était est gardé sous le nom\n" + *copie
-                   : Texte{u"Il n'a pas pu être copié : prévenez votre enseignant avant de continuer."}));
+    const auto copie = MettreDeCôté(application_.plateforme, fichier, octets, SuffixeAbîmé);
+    BilansConnus[état.CheminBilans].Remplaçable = copie.has_value();
+    if (!copie)
+        Avertir(u"Ton fichier de résultats est abîmé, et il n'a pas pu être mis de côté :\n" + fichier +
+                u"\n\nTant que c'est ainsi, rien de nouveau ne sera enregistré. Préviens ton enseignant avant de "
+                u"commencer.");
+    else if (copie->Nouvelle)
+        Avertir(u"Ton fichier de résultats est abîmé. Ce qui se lit encore est là.\n\nLe fichier tel qu'il était est "
+                u"gardé sous le nom\n" +
+                copie->Fichier + u"\n\nPréviens ton enseignant.");
 }
 
 void frmExercices::CalculerMoyennes()

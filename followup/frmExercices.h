@@ -3,8 +3,9 @@
 #pragma once
 #include "core/Ecran.h"
 #include "followup/Exercices.h"
+#include "followup/FichierBilan.h"
 
-#include <set>
+#include <map>
 
 namespace tirelune {
 
@@ -42,8 +43,13 @@ public:
     ComboBox cmbVocabulaire{*this, "cmbVocabulaire", {.Visible = false, .Sorted = true}};
     Label lblIndex{*this, "lblIndex", {.Visible = false}};
 
-    bool BilanEnregistré = true;  // the grid is on the disk
-    std::set<Texte> BilansConnus; // the files that it was read from or written to
+    // The pupil's file in a folder, as this screen has read or written it there.
+    struct Bilan {
+        Texte Fichier;
+        bool Remplaçable = true; // false: it is damaged, and could not be set aside yet
+    };
+    std::map<Texte, Bilan> BilansConnus; // by folder
+    bool BilanEnregistré = true;         // the grid is on the disk
 
     // Shows in lblExo how the text of a grid row has been worked on.
     void PeindreTexte(int rangée);
@@ -62,11 +68,12 @@ private:
     void Progression_Click(int groupe);
 
     void ListerElèves();
-    [[nodiscard]] std::optional<std::vector<Texte>> LireBilan();
-    void ChargerBilan(std::vector<Texte> champs);
-    void RangerChamps(std::vector<Texte> champs);
+    [[nodiscard]] std::optional<LectureBilan> LireBilanPosé(const Texte& fichier);
+    void DireIllisible(const Texte& fichier);
+    [[nodiscard]] bool ChargerBilan(std::vector<Texte> champs);
+    [[nodiscard]] bool RangerChamps(std::vector<Texte> champs);
     void PrendreSéparateur(int rangée, int colonne);
-    void GarderBilanAbîmé();
+    void GarderBilanAbîmé(const Texte& fichier, const std::string& octets);
     void CalculerMoyennes();
     void PeindreMoyennes();
     void MontrerRésultats(const Texte& titre);

@@ -1,6 +1,7 @@
 #include "followup/frmGestionEleves.h"
 
 #include "core/FichierChamps.h"
+#include "core/Remplacement.h"
 #include "followup/DossierElèves.h"
 #include "followup/FichierBilan.h"
 #include "followup/NomElève.h"
@@ -76,6 +77,7 @@ Arrangement frmGestionEleves::Disposer()
                 Ressort{},
             }),
         }),
+        lblMisDeCôté,
         Ligne{Ressort{}, cmdQuitter},
     };
 }
@@ -88,6 +90,7 @@ void frmGestionEleves::Load()
     dirLecteurs_Change();
     ListerNoms(listeBil, cmbNoms);
     MontrerRéseau();
+    MontrerNote();
 }
 
 void frmGestionEleves::Unload()
@@ -101,10 +104,23 @@ void frmGestionEleves::MontrerRéseau()
     lblRéseau.ToolTipText = état.CheminRéseau;
 }
 
-void frmGestionEleves::Relister()
+// What fell back on the program's own folder lies there.
+void frmGestionEleves::MontrerNote()
+{
+    auto note = NoteSurLeDossier(état.CheminBilans);
+    if (état.CheminAppli != état.CheminBilans)
+        note += NoteSurLeDossier(état.CheminAppli);
+    lblMisDeCôté.Caption = note.substr(0, note.find_last_not_of(u'\n') + 1);
+    lblMisDeCôté.Visible = !note.empty();
+}
+
+// Shows that name if it is still there.
+void frmGestionEleves::Relister(VueTexte nom)
 {
     listeBil.Refresh();
     ListerNoms(listeBil, cmbNoms);
+    if (const int place = cmbNoms.Chercher(nom); place >= 0)
+        cmbNoms.Montrer(place);
 }
 
 void frmGestionEleves::CacherCode()
@@ -168,7 +184,7 @@ void frmGestionEleves::txtNom_Enter()
 
 bool frmGestionEleves::ExisteDéjà(const Texte& nom)
 {
-    listeBil.Refresh(); // another machine may have made files meanwhile
+    Relister(cmbNoms.ListIndex >= 0 ? cmbNoms.List(cmbNoms.ListIndex) : Texte{}); // others may have made files
     const auto cherché = Minuscules(nom + u".bil");
     for (int i = 0; i < listeBil.ListCount(); ++i) {
         if (Minuscules(listeBil.List(i)) == cherché)
@@ -181,13 +197,11 @@ bool frmGestionEleves::ExisteDéjà(const Texte& nom)
 void frmGestionEleves::CréerElève(const Texte& nom)
 {
     const auto fichier = FichierBilan(état.CheminBilans, nom);
-    if (const auto échec = application_.plateforme.Réécrire(EnChemin(fichier), {})) {
-        std::error_code ignorée; // nothing half made stays behind
-        std::filesystem::remove(EnChemin(fichier), ignorée);
+    if (const auto échec = RemplacerFichier(application_.plateforme, EnChemin(fichier), {})) {
         Avertir(MessageEchec(*échec, fichier));
         return;
     }
-    Relister();
+    Relister(nom);
     cmbNoms.ListIndex = cmbNoms.Chercher(nom); // some disks spell a name otherwise: then no item stands for it
     cmbNoms.Text = txtNom.Text;
     cmbNoms.Visible = true;
@@ -212,15 +226,16 @@ void frmGestionEleves::cmdSupprimer_Click()
 
 void frmGestionEleves::SupprimerElève()
 {
-    // The field may show a new name as it was typed; the item is the file's stem.
-    const auto nom = cmbNoms.ListIndex >= 0 ? cmbNoms.List(cmbNoms.ListIndex) : Rogner(cmbNoms.Text);
-    const auto fichier = FichierBilan(état.CheminBilans, nom);
+    const auto fichier = FichierMontré(listeBil, cmbNoms, état.CheminBilans);
     std::error_code erreur;
-    std::filesystem::remove(EnChemin(fichier), erreur);
+    const bool supprimé = std::filesystem::remove(EnChemin(fichier), erreur);
     if (erreur)
         Avertir(u"Impossible de supprimer le fichier\n" + fichier +
                 u"\n\nVérifiez que son dossier est accessible et que vous avez le droit d'y écrire.");
-    Relister();
+    else if (!supprimé)
+        Avertir(u"Le fichier\n" + fichier + u"\nn'est plus là : rien n'a été supprimé.");
+    Relister({});
+    MontrerNote();
 }
 
 void frmGestionEleves::DemanderCode()
@@ -275,7 +290,8 @@ void frmGestionEleves::txtVérif_Change()
         return;
     }
     const auto fichier = Joindre(état.CheminAppli, u"Code.txt");
-    if (const auto échec = application_.plateforme.Réécrire(EnChemin(fichier), *ComposerChamps({txtCode.Text}))) {
+    if (const auto échec =
+            RemplacerFichier(application_.plateforme, EnChemin(fichier), *ComposerChamps({txtCode.Text}))) {
         ViderCode();
         QuitterLeCode();
         Avertir(MessageEchec(*échec, fichier));
@@ -328,7 +344,7 @@ void frmGestionEleves::cmdValiderCheminRéseau_Click()
         return;
     }
     const auto fichier = Joindre(état.CheminAppli, u"Chemin.txt");
-    if (const auto échec = application_.plateforme.Réécrire(EnChemin(fichier), *ComposerChamps({dossier}))) {
+    if (const auto échec = RemplacerFichier(application_.plateforme, EnChemin(fichier), *ComposerChamps({dossier}))) {
         Avertir(MessageEchec(*échec, fichier)); // the choice would be gone at the next start: the old one holds
         return;
     }
@@ -337,6 +353,7 @@ void frmGestionEleves::cmdValiderCheminRéseau_Click()
     AtteindreDossierElèves(application_, listeBil);
     MontrerRéseau();
     ListerNoms(listeBil, cmbNoms);
+    MontrerNote();
 }
 
 } // namespace tirelune

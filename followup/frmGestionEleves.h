@@ -49,6 +49,8 @@ public:
          .Visible = false,
          .ToolTipText = u" C'est le chemin qui sera désormais utilisé pour l'enregistrement des bilans. "}};
 
+    Label lblMisDeCôté{*this, "lblMisDeCôté", {.Visible = false, .Bordure = true}};
+
     Button cmdQuitter{*this, "cmdQuitter", u"&Modifications terminées"};
     FileListBox listeBil{*this, "listeBil", u"*.bil"};
 
@@ -81,7 +83,8 @@ private:
     [[nodiscard]] bool ExisteDéjà(const Texte& nom);
     void MontrerChoixDuChemin(bool visible);
     void MontrerRéseau();
-    void Relister();
+    void MontrerNote();
+    void Relister(VueTexte nom);
 };
 
 } // namespace tirelune

@@ -88,7 +88,7 @@ TEST(Fichiers, DisquePleinPendantUnBilanSeDitEtSeRattrape)
     EnregistrerNote(banc.Choix(), 5);
     {
         const DisquePlein disque{1000};
-        banc.AnnoncerBoîte(MessageEchec(EchecFichier::Ecriture, DepuisChemin(banc.dossier / "Léa.bil")));
+        banc.AnnoncerBoîte(u"Tes résultats n'ont pas pu être enregistrés :…");
         EXPECT_FALSE(SauverBilan(banc.Choix()));
     }
     EXPECT_TRUE(SauverBilan(banc.Choix()));

@@ -1,6 +1,7 @@
 #include "core/frmTirelune.h"
 
 #include "core/FichierChamps.h"
+#include "core/Remplacement.h"
 #include "followup/frmExercices.h"
 #include "tests/support/Banc.h"
 
@@ -221,7 +222,7 @@ TEST(Tirelune, CodeQuiNeSEcritPasEstDit)
         banc.Ecrire("CodeEnseignant.txt", "\"ab"); // the disk is full
         return EchecFichier::Ecriture;
     };
-    banc.AnnoncerBoîte(MessageEchec(EchecFichier::Ecriture, DepuisChemin(banc.dossier / "CodeEnseignant.txt")));
+    banc.AnnoncerBoîte(MessageEchec({EchecFichier::Ecriture, true}, DepuisChemin(banc.dossier / "CodeEnseignant.txt")));
     Valider(écran.txtVérificationCode, u"abc");
     EXPECT_TRUE(écran.frameCodeEnseignant.Visible);
     EXPECT_TRUE(banc.plateforme.écransMontrés.empty());

@@ -5,6 +5,7 @@
 
 #include <QAbstractItemView>
 #include <QComboBox>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QTemporaryDir>
@@ -28,7 +29,15 @@ protected:
         std::filesystem::last_write_time(Fichier(nom), vieux);
     }
     // The keys go where the keyboard is.
-    static void Taper(const QString& texte) { QTest::keyClicks(QApplication::focusWidget(), texte); }
+    static void Taper(const QString& texte)
+    {
+        for (const QChar c : texte) { // letters that no key of the toolkit's tests stands for
+            for (const auto genre : {QEvent::KeyPress, QEvent::KeyRelease}) {
+                QKeyEvent touche{genre, Qt::Key_unknown, Qt::NoModifier, c};
+                QCoreApplication::sendEvent(QApplication::focusWidget(), &touche);
+            }
+        }
+    }
     static void Touche(Qt::Key touche) { QTest::keyClick(QApplication::focusWidget(), touche); }
 
     const QTemporaryDir dossier;

@@ -176,8 +176,8 @@ TEST(SauverBilan, CeQuUnAutreDossierContenaitEstGardéUneFois)
     banc.Ecrire("réseau/Léa.bil", "des années de résultats"); // read here while the network was out of reach
     banc.état.CheminRéseau = banc.état.CheminAppli + u"/réseau";
     const auto fichier = banc.état.CheminRéseau + u"/Léa.bil";
-    banc.AnnoncerBoîte(u"Le fichier des résultats\n" + fichier +
-                       u"\ncontient d'autres résultats.\n\nIls sont gardés sous le nom\n" + fichier + u".autre1");
+    banc.AnnoncerBoîte(u"Il y avait déjà d'autres résultats à ton nom :\n" + fichier +
+                       u"\n\nIls sont gardés sous le nom\n" + fichier + u".autre1\n\nPréviens ton enseignant.");
     EXPECT_TRUE(SauverBilan(banc.Choix()));
     EXPECT_EQ(banc.Lire("réseau/Léa.bil.autre1"), "des années de résultats");
     EXPECT_NE(banc.Lire("réseau/Léa.bil")->find("\"5\""), std::string::npos);
@@ -190,13 +190,17 @@ TEST(SauverBilan, CeQuiNeSeCopiePasNEstPasRemplacé)
     Banc banc;
     banc.ChargerTexte(u"Un texte.");
     Noter(banc, 0, 5);
-    banc.état.NomElève = Texte(251, u'a'); // no room left in the name for a copy's
-    const auto nom = std::string(251, 'a') + ".bil";
-    banc.Ecrire(nom, "des années de résultats");
-    banc.AnnoncerBoîte(u"Le fichier des résultats…");
+    banc.Ecrire("réseau/Léa.bil", "des années de résultats");
+    banc.état.CheminRéseau = banc.état.CheminAppli + u"/réseau";
+    banc.plateforme.échecEcriture = [&](const Chemin& visé) {
+        return visé.filename() == "Léa.bil" ? std::nullopt : std::optional{EchecFichier::Ouverture};
+    };
+    banc.AnnoncerBoîte(
+        u"Il y a déjà d'autres résultats à ton nom :\n" + banc.état.CheminRéseau +
+        u"/Léa.bil\n\nCe fichier n'a pas pu être mis de côté : rien n'a été enregistré. Préviens ton enseignant.");
     EXPECT_FALSE(SauverBilan(banc.Choix()));
     EXPECT_FALSE(banc.Choix().BilanEnregistré);
-    EXPECT_EQ(banc.Lire(nom), "des années de résultats");
+    EXPECT_EQ(banc.Lire("réseau/Léa.bil"), "des années de résultats");
 }
 
 TEST(SauverBilan, AucunDossierNAccepteLeDitEtGardeTout)
@@ -207,7 +211,8 @@ TEST(SauverBilan, AucunDossierNAccepteLeDitEtGardeTout)
     banc.plateforme.échecEcriture = [](const Chemin&) { return EchecFichier::Ouverture; };
     banc.AnnoncerBoîte(Texte{DossierInaccessible}, Réponse::Annuler);
     const auto fichier = DepuisChemin(banc.dossier / "Léa.bil");
-    banc.AnnoncerBoîte(MessageEchec(EchecFichier::Ouverture, fichier));
+    banc.AnnoncerBoîte(u"Tes résultats n'ont pas pu être enregistrés :\n" + fichier +
+                       u"\n\nSon dossier n'est pas accessible.…");
     EXPECT_FALSE(SauverBilan(banc.Choix()));
     EXPECT_FALSE(banc.Choix().BilanEnregistré);
 
@@ -224,12 +229,43 @@ TEST(SauverBilan, EcritureQuiEchoueAprèsOuvertureNommeLeFichier)
     banc.ChargerTexte(u"Un texte.");
     Noter(banc, 0, 5);
     banc.plateforme.échecEcriture = [](const Chemin&) { return EchecFichier::Ecriture; };
-    banc.AnnoncerBoîte(MessageEchec(EchecFichier::Ecriture, DepuisChemin(banc.dossier / "Léa.bil")));
+    banc.AnnoncerBoîte(u"Tes résultats n'ont pas pu être enregistrés :\n" + DepuisChemin(banc.dossier / "Léa.bil") +
+                       u"\n\nLe disque est peut-être plein…");
     EXPECT_FALSE(SauverBilan(banc.Choix()));
     EXPECT_EQ(banc.Note(0), u"5");
     banc.plateforme.échecEcriture = nullptr;
     EXPECT_TRUE(SauverBilan(banc.Choix()));
     EXPECT_NE(banc.Lire("Léa.bil")->find("\"5\""), std::string::npos);
+}
+
+TEST(SauverBilan, CeQuUnFichierNePeutPasGarderLaisseLAncienEnPlace)
+{
+    Banc banc;
+    banc.plateforme.séparateur = u'٫'; // no place in the file
+    banc.ChargerTexte(u"Un texte.");
+    banc.Ecrire("Léa.bil", "ancien");
+    Noter(banc, 0, 6.5F);
+    banc.AnnoncerBoîte(u"Tes résultats contiennent un caractère que leur fichier ne peut pas garder…");
+    EXPECT_FALSE(SauverBilan(banc.Choix()));
+    EXPECT_FALSE(banc.Choix().BilanEnregistré);
+    EXPECT_EQ(banc.Lire("Léa.bil"), "ancien");
+}
+
+TEST(SauverBilan, UnAutreFichierVideOuDéjàGardéNeSeDitPas)
+{
+    Banc banc;
+    banc.ChargerTexte(u"Un texte.");
+    Noter(banc, 0, 5);
+    banc.Ecrire("réseau/Léa.bil", "");
+    banc.état.CheminRéseau = banc.état.CheminAppli + u"/réseau";
+    EXPECT_TRUE(SauverBilan(banc.Choix()));
+    EXPECT_FALSE(banc.Existe("réseau/Léa.bil.autre1"));
+    banc.Ecrire("autre/Léa.BIL", "des résultats");
+    banc.Ecrire("autre/Léa.BIL.autre1", "des résultats");
+    banc.état.CheminRéseau = banc.état.CheminAppli + u"/autre";
+    EXPECT_TRUE(SauverBilan(banc.Choix()));
+    EXPECT_NE(banc.Lire("autre/Léa.BIL")->find("\"5\""), std::string::npos);
+    EXPECT_FALSE(banc.Existe("autre/Léa.BIL.autre2") || banc.Existe("autre/Léa.bil"));
 }
 
 TEST(SauverBilan, FermerLeChoixRéessaieCeQuiNAPasPuSEcrire)
@@ -238,7 +274,7 @@ TEST(SauverBilan, FermerLeChoixRéessaieCeQuiNAPasPuSEcrire)
     banc.ChargerTexte(u"Un texte.");
     Noter(banc, 0, 5);
     banc.plateforme.échecEcriture = [](const Chemin&) { return EchecFichier::Ecriture; };
-    banc.AnnoncerBoîte(u"Impossible d'enregistrer…");
+    banc.AnnoncerBoîte(u"Tes résultats n'ont pas pu être enregistrés…");
     EXPECT_FALSE(SauverBilan(banc.Choix()));
     banc.plateforme.échecEcriture = nullptr;
     banc.Choix().cmdQuitter.Cliquer();
@@ -251,11 +287,14 @@ TEST(SauverBilan, QuitterSansPouvoirEnregistrerSeDemande)
     banc.ChargerTexte(u"Un texte.");
     Noter(banc, 0, 5);
     banc.plateforme.échecEcriture = [](const Chemin&) { return EchecFichier::Ecriture; };
-    banc.AnnoncerBoîte(u"Impossible d'enregistrer…");
+    banc.AnnoncerBoîte(u"Tes résultats n'ont pas pu être enregistrés…");
     EXPECT_FALSE(SauverBilan(banc.Choix()));
     for (const auto réponse : {Réponse::Non, Réponse::Oui}) {
-        banc.AnnoncerBoîte(u"Impossible d'enregistrer…");
-        banc.AnnoncerBoîte(u"Les derniers résultats ne sont pas enregistrés et seront perdus.…", réponse);
+        banc.AnnoncerBoîte(u"Tes résultats n'ont pas pu être enregistrés…");
+        banc.AnnoncerBoîte(u"Les résultats de Léa ne sont pas enregistrés. Si tu quittes maintenant, ils peuvent être "
+                           u"tous perdus, même ceux des "
+                           u"autres jours.…",
+                           réponse);
         banc.Choix().FermerParCroix();
         EXPECT_EQ(banc.Choix().EstChargé(), réponse == Réponse::Non);
         EXPECT_EQ(banc.Note(0), u"5");

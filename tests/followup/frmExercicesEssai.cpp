@@ -230,7 +230,7 @@ TEST(Bilan, VirguleEtPointSeLisentTousDeux)
 TEST(Bilan, FicheTropCourteLaisseDesCellulesVides)
 {
     Banc banc;
-    Connexion choix{banc, std::vector<Texte>{u"*", u"A", u"100", u"5", u"*", u"B"}};
+    Connexion choix{banc, Fiches({{u"*", u"A", u"100", u"5"}, Fiche(u"B", u"")})};
     ASSERT_EQ(choix->fgRésultats.Rows(), 3);
     EXPECT_EQ(choix->fgRésultats.TextMatrix(1, 2), u"5");
     EXPECT_EQ(choix->fgRésultats.TextMatrix(1, 28), u"");
@@ -244,7 +244,7 @@ TEST(Bilan, FicheTropLongueSeLitEtLeFichierEstGardé)
     auto fiche = Fiche(u"A", u"100", {u"5"});
     fiche.emplace_back(u"de trop");
     const auto champs = Fiches({fiche, Fiche(u"B", u"90")});
-    banc.AnnoncerBoîte(u"Le fichier des résultats\n…");
+    banc.AnnoncerBoîte(u"Ton fichier de résultats est abîmé. Ce qui se lit encore est là.…");
     Connexion choix{banc, champs};
     EXPECT_EQ(choix->fgRésultats.Rows(), 3);
     EXPECT_EQ(choix->fgRésultats.TextMatrix(2, 0), u"B");
@@ -255,7 +255,7 @@ TEST(Bilan, SansAstérisqueEnTêteLeDébutEstPasséEtGardé)
 {
     Banc banc;
     banc.Ecrire("Zoé.bil.abîmé1", "d'avant");
-    banc.AnnoncerBoîte(u"Le fichier des résultats\n…");
+    banc.AnnoncerBoîte(u"Ton fichier de résultats est abîmé. Ce qui se lit encore est là.…");
     Connexion choix{banc, Fiches({{u"perdu", u"12"}, Fiche(u"A", u"100")})};
     EXPECT_EQ(choix->fgRésultats.Rows(), 2);
     EXPECT_EQ(choix->cmbTextes.Eléments(), (std::vector<Texte>{u"A"}));
@@ -279,8 +279,8 @@ TEST(Bilan, ToutesLesFinsDeLigneSeLisent)
     for (const auto* fin : {"\r\n", "\n", "\r"}) {
         Banc banc;
         std::string octets;
-        for (const auto* champ : {"*", "A", "100", "5"})
-            octets += '"' + std::string{champ} + '"' + fin;
+        for (const auto& champ : Fiche(u"A", u"100", {u"5"}))
+            octets += '"' + EnUtf8(champ) + '"' + fin;
         Connexion choix{banc, octets};
         EXPECT_EQ(choix->fgRésultats.Rows(), 2);
         EXPECT_EQ(choix->fgRésultats.TextMatrix(1, 2), u"5");
@@ -290,7 +290,8 @@ TEST(Bilan, ToutesLesFinsDeLigneSeLisent)
 TEST(Bilan, GuillemetSeulNeToucheQueSaLigne)
 {
     Banc banc;
-    Connexion choix{banc, std::string_view{"\"*\"\r\n\"Le chat\r\n\"100\"\r\n\"\r\n\"6\"\r\n\"*\"\r\n\"B\"\r\n"}};
+    const std::string abîmée{"\"*\"\r\n\"Le chat\r\n\"100\"\r\n\"\r\n\"6\"\r\n"};
+    Connexion choix{banc, abîmée + *ComposerChamps(Fiche(u"B", u""))};
     ASSERT_EQ(choix->fgRésultats.Rows(), 3);
     EXPECT_EQ(choix->fgRésultats.TextMatrix(1, 0), u"Le chat");
     EXPECT_EQ(choix->fgRésultats.TextMatrix(1, 1), u"100");
@@ -302,7 +303,7 @@ TEST(Bilan, GuillemetSeulNeToucheQueSaLigne)
 TEST(Bilan, AstérisqueEntreBlancsOuvreUneFicheDèsLaLecture)
 {
     Banc banc;
-    Connexion choix{banc, std::vector<Texte>{u"*", u"A", u" * ", u"B"}};
+    Connexion choix{banc, Fiches({{u"*", u"A", u" * ", u"B"}, std::vector<Texte>(29)})};
     ASSERT_EQ(choix->fgRésultats.Rows(), 3);
     EXPECT_TRUE(SauverBilan(*choix));
     EXPECT_EQ(LireChamps(banc.dossier / "Zoé.bil"), Fiches({Fiche(u"A", u""), Fiche(u"B", u"")}));
@@ -329,14 +330,212 @@ TEST(Bilan, NombreDémesuréCompteCommeNonFait)
     EXPECT_EQ(choix->lblExo(0).ToolTipText, AFaire);
 }
 
-TEST(Bilan, FichierDisparuCommenceAVide)
+TEST(Bilan, FinAuMilieuDUneValeurOuDUneFicheEstUnDommage)
+{
+    const auto entier = *ComposerChamps(Fiches({Fiche(u"A", u"100", {u"5"}), Fiche(u"B", u"90", {u"6,5"})}));
+    const auto sansFin = entier.substr(0, entier.size() - 2); // no line end
+    for (const auto& octets :
+         {sansFin, sansFin.substr(0, sansFin.size() - 1), sansFin.substr(0, sansFin.size() - 1) + "\r\n",
+          entier.substr(0, entier.size() - 4), entier.substr(0, entier.find("6,5") + 1), entier + "\"*",
+          entier + "\"*\"\r\n", entier.substr(0, 3)}) {
+        Banc banc;
+        banc.AnnoncerBoîte(
+            u"Ton fichier de résultats est abîmé. Ce qui se lit encore est là.\n\nLe fichier tel qu'il était "
+            u"est gardé sous le nom\n" +
+            DepuisChemin(banc.dossier / "Zoé.bil.abîmé1") + u"\n\nPréviens ton enseignant.");
+        Connexion choix{banc, octets};
+        EXPECT_EQ(banc.Lire("Zoé.bil.abîmé1"), octets);
+        EXPECT_FALSE(choix->frameElève.Visible);
+    }
+    for (const auto* fin : {"", "\r\n", "\n\n"}) {
+        Banc banc;
+        Connexion choix{banc, entier + fin};
+        EXPECT_EQ(choix->fgRésultats.Rows(), 3);
+    }
+}
+
+TEST(Bilan, UnDommageNEstMisDeCôtéEtDitQuUneFois)
+{
+    Banc banc;
+    banc.AnnoncerBoîte(u"Ton fichier de résultats est abîmé.…");
+    for (int fois = 0; fois < 3; ++fois)
+        Connexion{banc, "\"*\"\r\n\"A"};
+    EXPECT_FALSE(banc.Existe("Zoé.bil.abîmé2"));
+    banc.Ecrire("Zoé.bil.abîmé1", ""); // a power cut had left nothing of it
+    banc.AnnoncerBoîte(u"Ton fichier de résultats est abîmé.…");
+    Connexion{banc, "\"*\"\r\n\"A"};
+    EXPECT_EQ(banc.Lire("Zoé.bil.abîmé2"), "\"*\"\r\n\"A");
+}
+
+TEST(Bilan, CeQuiNEstPasMisDeCôtéNEstPasRemplacé)
+{
+    Banc banc;
+    static constexpr std::string_view Abîmé = "\"*\"\r\n\"A";
+    const auto fichier = DepuisChemin(banc.dossier / "Zoé.bil");
+    banc.plateforme.échecEcriture = [&](const Chemin& visé) -> std::optional<EchecFichier> {
+        if (visé == banc.dossier / "Zoé.bil")
+            return std::nullopt;
+        banc.Ecrire(EnUtf8(DepuisChemin(visé.filename())), "moitié");
+        return EchecFichier::Ecriture;
+    };
+    banc.AnnoncerBoîte(u"Ton fichier de résultats est abîmé, et il n'a pas pu être mis de côté :\n" + fichier + u"…");
+    Connexion choix{banc, Abîmé};
+    EXPECT_FALSE(banc.Existe("Zoé.bil.abîmé1"));
+    choix->lblIndex.Caption = u"0";
+    choix->lblTexte.Caption = u"Le chat";
+    EnregistrerNote(*choix, 5);
+    banc.AnnoncerBoîte(
+        u"Ton fichier de résultats est abîmé :\n" + fichier +
+        u"\n\nCe fichier n'a pas pu être mis de côté : rien n'a été enregistré. Préviens ton enseignant.");
+    EXPECT_FALSE(SauverBilan(*choix));
+    EXPECT_EQ(banc.Lire("Zoé.bil"), Abîmé);
+    EXPECT_FALSE(choix->BilanEnregistré);
+
+    banc.plateforme.échecEcriture = nullptr;
+    EXPECT_TRUE(SauverBilan(*choix));
+    EXPECT_EQ(banc.Lire("Zoé.bil.abîmé1"), Abîmé);
+    EXPECT_NE(banc.Lire("Zoé.bil")->find("\"5\""), std::string::npos);
+    EXPECT_TRUE(SauverBilan(*choix));
+    EXPECT_FALSE(banc.Existe("Zoé.bil.abîmé2"));
+}
+
+// ---- While another machine saves ---------------------------------------------------------------------------------
+
+TEST(Bilan, FichierPartiEstRegardéDeuxSecondesPuisDit)
 {
     Banc banc;
     banc.Ecrire("Zoé.bil", "");
     auto& choix = banc.Ouvrir<frmExercices>();
     std::filesystem::remove(banc.dossier / "Zoé.bil");
+    const double avant = banc.plateforme.Horloge();
+    banc.AnnoncerBoîte(u"Ton fichier de résultats n'est plus là :\n" + DepuisChemin(banc.dossier / "Zoé.bil") +
+                       u"\n\nPréviens ton enseignant.");
     choix.cmdOk.Cliquer();
-    EXPECT_EQ(choix.fgRésultats.Rows(), 1);
+    EXPECT_NEAR(banc.plateforme.Horloge() - avant, 2, 0.001);
+    EXPECT_TRUE(choix.frameElève.Visible);
+    EXPECT_EQ(choix.Caption, u"Choix des exercices");
+}
+
+TEST(Bilan, FichierQuiRevientDansLesDeuxSecondesSeLitSansUnMot)
+{
+    for (const char* pendant : {"", "\"*\"\r\n\"A", static_cast<const char*>(nullptr)}) {
+        for (const auto quand : {0ms, 50ms, 950ms, 1900ms}) {
+            Banc banc;
+            banc.Ecrire("Zoé.bil", pendant == nullptr ? "" : pendant);
+            auto& choix = banc.Ouvrir<frmExercices>();
+            if (pendant == nullptr)
+                std::filesystem::remove(banc.dossier / "Zoé.bil");
+            banc.plateforme.âge = 0s;
+            banc.plateforme.Prévoir(quand, [&] { banc.EcrireChamps("Zoé.bil", Fiche(u"A", u"90")); });
+            choix.cmdOk.Cliquer();
+            EXPECT_EQ(choix.fgRésultats.Rows(), 2) << quand.count();
+            EXPECT_FALSE(choix.frameElève.Visible);
+            EXPECT_FALSE(banc.Existe("Zoé.bil.abîmé1"));
+        }
+    }
+}
+
+TEST(Bilan, UnFichierJeuneSeLitDeuxFoisPareil)
+{
+    Banc banc;
+    banc.EcrireChamps("Zoé.bil", Fiche(u"A", u"90")); // its first part is on the disk, up to the end of a record
+    auto& choix = banc.Ouvrir<frmExercices>();
+    banc.plateforme.âge = -5s; // the other machine's clock is ahead
+    banc.plateforme.Prévoir(80ms, [&] {
+        banc.EcrireChamps("Zoé.bil", Fiches({Fiche(u"A", u"90"), Fiche(u"B", u"80")}));
+    });
+    const double avant = banc.plateforme.Horloge();
+    choix.cmdOk.Cliquer();
+    EXPECT_EQ(choix.fgRésultats.Rows(), 3);
+    EXPECT_NEAR(banc.plateforme.Horloge() - avant, 0.2, 0.001);
+}
+
+TEST(Bilan, UnFichierQuiChangeSansCesseEstLuEntier)
+{
+    Banc banc;
+    banc.EcrireChamps("Zoé.bil", Fiche(u"A", u"90"));
+    auto& choix = banc.Ouvrir<frmExercices>();
+    banc.plateforme.âge = 0s;
+    for (int fois = 0; fois < 20; ++fois) {
+        banc.plateforme.Prévoir(fois * 100ms + 50ms, [&banc, fois] {
+            if (fois % 2 == 0)
+                banc.Ecrire("Zoé.bil", "");
+            else
+                banc.EcrireChamps("Zoé.bil", Fiche(u"A", EnTexte(static_cast<long long>(fois))));
+        });
+    }
+    banc.plateforme.Prévoir(1960ms, [&] { banc.Ecrire("Zoé.bil", ""); });
+    choix.cmdOk.Cliquer();
+    EXPECT_EQ(choix.fgRésultats.TextMatrix(1, ColonneVitesse), u"17"); // the last whole one that was seen
+}
+
+TEST(Bilan, FichierVideDUnNouvelElèveNAlarmePas)
+{
+    for (const auto& [âge, attente] : {std::pair{3600s, 0.1}, std::pair{10s, 0.1}, std::pair{9s, 2.0}}) {
+        Banc banc;
+        banc.Ecrire("Zoé.bil", "");
+        auto& choix = banc.Ouvrir<frmExercices>();
+        banc.plateforme.âge = âge;
+        const double avant = banc.plateforme.Horloge();
+        choix.cmdOk.Cliquer();
+        EXPECT_NEAR(banc.plateforme.Horloge() - avant, attente, 0.001);
+        EXPECT_EQ(choix.fgRésultats.Rows(), 1);
+        EXPECT_FALSE(choix.frameElève.Visible);
+    }
+}
+
+TEST(Bilan, FermerPendantLAttenteNeLitPlusRien)
+{
+    Banc banc;
+    banc.Ecrire("Zoé.bil", "");
+    auto& choix = banc.Ouvrir<frmExercices>();
+    std::filesystem::remove(banc.dossier / "Zoé.bil");
+    banc.plateforme.Prévoir(500ms, [&] { choix.FermerParCroix(); });
+    choix.cmdOk.Cliquer();
+    EXPECT_FALSE(choix.EstChargé());
+    EXPECT_EQ(choix.Caption, u"Choix des exercices");
+    EXPECT_TRUE(banc.plateforme.boîtesMontrées.empty());
+}
+
+// ---- Names in another case ---------------------------------------------------------------------------------------
+
+TEST(Bilan, UneExtensionEnCapitalesSeLitEtSEnregistreSousSonNom)
+{
+    Banc banc;
+    banc.EcrireChamps("Abel.BIL", Fiche(u"A", u"90"));
+    auto& choix = banc.Ouvrir<frmExercices>();
+    choix.cmdOk.Cliquer();
+    EXPECT_EQ(banc.état.NomElève, u"Abel");
+    EXPECT_EQ(choix.fgRésultats.Rows(), 2);
+    choix.lblIndex.Caption = u"0";
+    choix.lblTexte.Caption = u"B";
+    EnregistrerNote(choix, 5);
+    std::filesystem::remove(banc.dossier / "Abel.BIL"); // another machine is saving it
+    EXPECT_TRUE(SauverBilan(choix));
+    EXPECT_NE(banc.Lire("Abel.BIL")->find("\"5\""), std::string::npos);
+    EXPECT_FALSE(banc.Existe("Abel.bil"));
+}
+
+TEST(Bilan, DeuxFichiersQuiDiffèrentParLaCasseSontDeuxElèves)
+{
+    Banc banc;
+    banc.EcrireChamps("abel.bil", Fiche(u"petit", u"1"));
+    banc.EcrireChamps("Abel.BIL", Fiche(u"grand", u"2"));
+    banc.EcrireChamps("Abel.bil", Fiche(u"moyen", u"3"));
+    for (int i = 0; i < 3; ++i) {
+        auto& choix = banc.Ouvrir<frmExercices>();
+        ASSERT_EQ(choix.cmbNoms.ListCount(), 3);
+        choix.cmbNoms.Choisir(i);
+        const auto fichier = choix.listeBil.List(i);
+        choix.cmdOk.Cliquer();
+        EXPECT_EQ(choix.fgRésultats.TextMatrix(1, ColonneTitre), fichier == u"abel.bil"   ? u"petit"
+                                                                 : fichier == u"Abel.BIL" ? u"grand"
+                                                                                          : u"moyen");
+        choix.fgRésultats.TextMatrix(1, ColonneVitesse, fichier);
+        EXPECT_TRUE(SauverBilan(choix));
+    }
+    for (const auto* nom : {"abel.bil", "Abel.BIL", "Abel.bil"})
+        EXPECT_NE(banc.Lire(nom)->find(nom), std::string::npos);
 }
 
 TEST(Bilan, FichierIllisibleEstDit)
@@ -346,7 +545,8 @@ TEST(Bilan, FichierIllisibleEstDit)
     auto& choix = banc.Ouvrir<frmExercices>();
     std::filesystem::remove(banc.dossier / "Zoé.bil");
     std::filesystem::create_directory(banc.dossier / "Zoé.bil");
-    banc.AnnoncerBoîte(u"Impossible de lire le fichier\n" + DepuisChemin(banc.dossier / "Zoé.bil"));
+    banc.AnnoncerBoîte(u"Impossible de lire le fichier\n" + DepuisChemin(banc.dossier / "Zoé.bil") +
+                       u"\n\nPréviens ton enseignant.");
     choix.cmdOk.Cliquer();
     EXPECT_TRUE(choix.frameElève.Visible); // a save would replace it: nobody plays before it can be read
     EXPECT_EQ(choix.Caption, u"Choix des exercices");
@@ -365,7 +565,7 @@ TEST(Bilan, DossierPerduEntreLaListeEtLaConnexionEstDit)
     banc.état.CheminBilans = banc.état.CheminAppli + u"/réseau";
     auto& choix = banc.Ouvrir<frmExercices>();
     std::filesystem::rename(banc.dossier / "réseau", banc.dossier / "parti");
-    banc.AnnoncerBoîte(u"Impossible de lire le fichier\n" + DepuisChemin(banc.dossier / "réseau" / "Zoé.bil"));
+    banc.AnnoncerBoîte(u"Impossible de lire le fichier\n" + DepuisChemin(banc.dossier / "réseau" / "Zoé.bil") + u"…");
     choix.cmdOk.Cliquer();
     EXPECT_TRUE(choix.frameElève.Visible);
     std::filesystem::rename(banc.dossier / "parti", banc.dossier / "réseau");

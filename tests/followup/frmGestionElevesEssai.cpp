@@ -1,11 +1,10 @@
 #include "followup/frmGestionEleves.h"
 
 #include "core/FichierChamps.h"
+#include "core/Remplacement.h"
 #include "followup/EnregistrerNotes.h"
 #include "followup/frmExercices.h"
 #include "tests/support/Banc.h"
-
-#include <cstdlib>
 
 namespace tirelune {
 
@@ -31,23 +30,6 @@ std::size_t NombreDeFichiers(const Chemin& dossier)
 {
     return static_cast<std::size_t>(std::distance(std::filesystem::directory_iterator{dossier}, {}));
 }
-
-// A home folder of the test's own.
-class Maison {
-public:
-    explicit Maison(const Chemin& dossier)
-    {
-        if (const char* avant = std::getenv("HOME"); avant != nullptr)
-            avant_ = avant;
-        ::setenv("HOME", dossier.c_str(), 1);
-    }
-    Maison(const Maison&) = delete;
-    Maison& operator=(const Maison&) = delete;
-    ~Maison() { avant_ ? ::setenv("HOME", avant_->c_str(), 1) : ::unsetenv("HOME"); }
-
-private:
-    std::optional<std::string> avant_;
-};
 
 constexpr VueTexte QuestionDestruction = u"Destruction irréversible. Souhaitez-vous continuer ?";
 constexpr VueTexte DossierInaccessible = u"Le répertoire des fichiers \"Elèves\" n'est pas accessible.\n\n"
@@ -312,7 +294,7 @@ TEST(GestionEleves, CréationImpossibleEstDite)
     auto& écran = banc.Ouvrir<frmGestionEleves>();
     banc.plateforme.échecEcriture = [](const Chemin&) { return EchecFichier::Ouverture; };
     const auto fichier = DepuisChemin(banc.dossier / "Paul.bil");
-    banc.AnnoncerBoîte(MessageEchec(EchecFichier::Ouverture, fichier));
+    banc.AnnoncerBoîte(MessageEchec({EchecFichier::Ouverture, true}, fichier));
     Valider(écran, u"Paul");
     EXPECT_EQ(écran.cmbNoms.ListCount(), 0);
     EXPECT_EQ(écran.txtNom.Text, u"Paul");
@@ -484,6 +466,127 @@ TEST(GestionEleves, SuppressionImpossibleEstDite)
     EXPECT_TRUE(banc.Existe("Paul.bil/x"));
 }
 
+TEST(GestionEleves, SupprimerCeQuiNEstPlusLàEstDit)
+{
+    Banc banc;
+    banc.EcrireChamps("Code.txt", {u"123456"});
+    banc.Ecrire("Paul.bil", "");
+    auto& écran = banc.Ouvrir<frmGestionEleves>();
+    écran.cmdSupprimer.Cliquer();
+    banc.plateforme.boîtes.push_back({Texte{QuestionDestruction}, Réponse::Oui, std::nullopt,
+                                      [&] { std::filesystem::remove(banc.dossier / "Paul.bil"); }});
+    banc.AnnoncerBoîte(u"Le fichier\n" + DepuisChemin(banc.dossier / "Paul.bil") +
+                       u"\nn'est plus là : rien n'a été supprimé.");
+    Frapper(écran.txtCode, u"123456");
+    EXPECT_EQ(écran.cmbNoms.ListCount(), 0);
+}
+
+TEST(GestionEleves, LeFichierSeSupprimeSousLeNomQuIlA)
+{
+    Banc banc;
+    banc.EcrireChamps("Code.txt", {u"123456"});
+    banc.Ecrire("abel.bil", "");
+    banc.Ecrire("Abel.BIL", "");
+    banc.Ecrire("Abel.bil", "");
+    auto& écran = banc.Ouvrir<frmGestionEleves>();
+    int place = 0;
+    while (écran.listeBil.List(place) != u"Abel.BIL")
+        ++place;
+    écran.cmbNoms.Choisir(place);
+    écran.cmdSupprimer.Cliquer();
+    banc.AnnoncerBoîte(Texte{QuestionDestruction}, Réponse::Oui);
+    Frapper(écran.txtCode, u"123456");
+    EXPECT_FALSE(banc.Existe("Abel.BIL"));
+    EXPECT_TRUE(banc.Existe("Abel.bil") && banc.Existe("abel.bil"));
+    EXPECT_FALSE(écran.lblMisDeCôté.Visible); // one to each name now
+}
+
+TEST(GestionEleves, UnNomRefuséGardeLaListeEtLeFichierMontré)
+{
+    Banc banc;
+    banc.EcrireChamps("Code.txt", {u"123456"});
+    banc.Ecrire("Paul.bil", "");
+    banc.Ecrire("Zoé.bil", "");
+    auto& écran = banc.Ouvrir<frmGestionEleves>();
+    écran.cmbNoms.Choisir(1);
+    banc.Ecrire("Abel.bil", ""); // made on another machine: the places have moved
+    banc.AnnoncerBoîte(u"Le fichier \nPaul.bil. existe déjà !\n");
+    Valider(écran, u"Paul");
+    EXPECT_EQ(écran.cmbNoms.Text, u"Zoé");
+    EXPECT_EQ(écran.cmbNoms.ListCount(), 3);
+    écran.cmdSupprimer.Cliquer();
+    banc.AnnoncerBoîte(Texte{QuestionDestruction}, Réponse::Oui);
+    Frapper(écran.txtCode, u"123456");
+    EXPECT_FALSE(banc.Existe("Zoé.bil"));
+    EXPECT_TRUE(banc.Existe("Abel.bil") && banc.Existe("Paul.bil"));
+}
+
+// ---- What was set aside ------------------------------------------------------------------------------------------
+
+TEST(GestionEleves, SansFichierMisDeCôtéAucuneNote)
+{
+    Banc banc;
+    banc.Ecrire("Zoé.bil", "");
+    banc.Ecrire("Zoé.bil.sauve1", "");
+    auto& écran = banc.Ouvrir<frmGestionEleves>();
+    EXPECT_FALSE(écran.lblMisDeCôté.Visible);
+    EXPECT_EQ(écran.lblMisDeCôté.Caption, u"");
+}
+
+TEST(GestionEleves, LaNoteNommeLesFichiersMisDeCôtéEtLeurDossier)
+{
+    Banc banc;
+    banc.Ecrire("réseau/Zoé.bil.autre1", "");
+    banc.Ecrire("réseau/Éric.bil.abîmé2", "");
+    banc.Ecrire("Tom.bil.abîmé1", "");
+    const auto appli = banc.état.CheminAppli;
+    banc.état.CheminBilans = appli + u"/réseau";
+    auto& écran = banc.Ouvrir<frmGestionEleves>();
+    EXPECT_TRUE(écran.lblMisDeCôté.Visible);
+    static constexpr VueTexte Sens = u".\n« abîmé » : le fichier de l'élève ne se lisait plus en entier. « autre » : "
+                                     u"d'autres résultats du même élève, trouvés au retour du réseau.";
+    EXPECT_EQ(écran.lblMisDeCôté.Caption, u"Fichiers mis de côté dans le dossier " + appli +
+                                              u"/réseau : Éric.bil.abîmé2, Zoé.bil.autre1" + Texte{Sens} +
+                                              u"\nFichiers mis de côté dans le dossier " + appli +
+                                              u" : Tom.bil.abîmé1" + Texte{Sens});
+    EXPECT_TRUE(banc.plateforme.boîtesMontrées.empty());
+}
+
+TEST(GestionEleves, LaNoteDUnDossierSeDitUneFoisEtSeCompte)
+{
+    Banc banc;
+    for (int i = 1; i <= 10; ++i)
+        banc.Ecrire("Zoé.bil.abîmé" + std::to_string(i), "");
+    auto& écran = banc.Ouvrir<frmGestionEleves>();
+    const Texte note = écran.lblMisDeCôté.Caption;
+    EXPECT_NE(note.find(u" et 2 de plus."), Texte::npos);
+    EXPECT_EQ(note.find(u"Fichiers"), note.rfind(u"Fichiers"));
+}
+
+TEST(GestionEleves, DeuxFichiersDUnMêmeNomSontDits)
+{
+    Banc banc;
+    banc.Ecrire("Abel.BIL", "");
+    banc.Ecrire("Abel.bil", "");
+    banc.Ecrire("abel.bil", "");
+    auto& écran = banc.Ouvrir<frmGestionEleves>();
+    EXPECT_EQ(écran.lblMisDeCôté.Caption,
+              u"Fichiers qui portent le même nom dans le dossier " + banc.état.CheminAppli + u" : Abel.bil, Abel.BIL.");
+    EXPECT_EQ(écran.cmbNoms.ListCount(), 3);
+}
+
+TEST(GestionEleves, LaNoteSuitLeDossierChoisi)
+{
+    Banc banc;
+    banc.Ecrire("partagé/Zoé.bil.abîmé1", "");
+    auto& écran = banc.Ouvrir<frmGestionEleves>();
+    EXPECT_FALSE(écran.lblMisDeCôté.Visible);
+    écran.cmdCheminRéseau.Cliquer();
+    écran.dirLecteurs.Ouvrir(0);
+    écran.cmdValiderCheminRéseau.Cliquer();
+    EXPECT_TRUE(écran.lblMisDeCôté.Visible);
+}
+
 TEST(GestionEleves, CodeErronéVideLaBoîteSansLimiteDEssais)
 {
     Banc banc;
@@ -569,10 +672,27 @@ TEST(GestionEleves, CodeQuiNeSEcritPasEstDitEtNOuvreRien)
     écran.cmdSupprimer.Cliquer();
     Frapper(écran.txtCode, u"123456");
     banc.plateforme.échecEcriture = [](const Chemin&) { return EchecFichier::Ecriture; };
-    banc.AnnoncerBoîte(MessageEchec(EchecFichier::Ecriture, DepuisChemin(banc.dossier / "Code.txt")));
+    banc.AnnoncerBoîte(MessageEchec({EchecFichier::Ecriture, true}, DepuisChemin(banc.dossier / "Code.txt")));
     Frapper(écran.txtVérif, u"123456");
     EXPECT_FALSE(banc.état.CodeValide);
     EXPECT_TRUE(banc.Existe("Paul.bil"));
+    EXPECT_EQ(écran.Focus(), &écran.cmbNoms);
+}
+
+TEST(GestionEleves, UnCodeEcritAMoitiéNeRestePas)
+{
+    Banc banc;
+    banc.Ecrire("Paul.bil", "");
+    auto& écran = banc.Ouvrir<frmGestionEleves>();
+    écran.cmdSupprimer.Cliquer();
+    Frapper(écran.txtCode, u"123456");
+    banc.plateforme.échecEcriture = [&](const Chemin&) {
+        banc.Ecrire("Code.txt", "\"123");
+        return EchecFichier::Ecriture;
+    };
+    banc.AnnoncerBoîte(u"Impossible d'enregistrer…");
+    Frapper(écran.txtVérif, u"123456");
+    EXPECT_FALSE(banc.Existe("Code.txt"));
 }
 
 TEST(GestionEleves, CodeIllisibleNeSeRedéfinitPas)
@@ -632,7 +752,7 @@ TEST(GestionEleves, ValiderPrendLeDossierSurligné)
 TEST(GestionEleves, LaListeDesLecteursMontreOùLOnEst)
 {
     Banc banc;
-    const Maison maison{banc.dossier};
+    banc.plateforme.lecteurs = {u"/", DepuisChemin(banc.dossier)};
     auto& écran = banc.Ouvrir<frmGestionEleves>();
     EXPECT_EQ(écran.drvLecteurs.Drive, DepuisChemin(banc.dossier));
     écran.cmdCheminRéseau.Cliquer();
@@ -648,7 +768,7 @@ TEST(GestionEleves, UnVoisinDontLeNomCommencePareilNEstPasLeLecteur)
     Banc banc;
     std::filesystem::create_directory(banc.dossier / "maison");
     std::filesystem::create_directory(banc.dossier / "maisonnette");
-    const Maison maison{banc.dossier / "maison"};
+    banc.plateforme.lecteurs = {u"/", DepuisChemin(banc.dossier / "maison")};
     banc.état.CheminBilans = DepuisChemin(banc.dossier / "maisonnette");
     EXPECT_EQ(banc.Ouvrir<frmGestionEleves>().drvLecteurs.Drive, u"/");
 }
@@ -684,11 +804,37 @@ TEST(GestionEleves, CheminQuiNeSEcritPasEstDitEtLAncienReste)
     écran.cmdCheminRéseau.Cliquer();
     écran.dirLecteurs.Ouvrir(0);
     banc.plateforme.échecEcriture = [](const Chemin&) { return EchecFichier::Ouverture; };
-    banc.AnnoncerBoîte(MessageEchec(EchecFichier::Ouverture, DepuisChemin(banc.dossier / "Chemin.txt")));
+    banc.AnnoncerBoîte(MessageEchec({EchecFichier::Ouverture, true}, DepuisChemin(banc.dossier / "Chemin.txt")));
     écran.cmdValiderCheminRéseau.Cliquer();
     EXPECT_EQ(banc.état.CheminBilans, DepuisChemin(banc.dossier));
     EXPECT_EQ(banc.état.CheminRéseau, u"");
     EXPECT_TRUE(écran.cmdCheminRéseau.Visible);
+}
+
+TEST(GestionEleves, CheminCoupéParUnDisquePleinRetrouveSonAncienContenu)
+{
+    for (const int échecs : {1, 2}) {
+        Banc banc;
+        banc.Ecrire("partagé/Zoé.bil", "");
+        banc.EcrireChamps("Chemin.txt", {u"/ancien"});
+        auto& écran = banc.Ouvrir<frmGestionEleves>();
+        écran.cmdCheminRéseau.Cliquer();
+        écran.dirLecteurs.Ouvrir(0);
+        banc.plateforme.échecEcriture = [&banc, reste = échecs](const Chemin&) mutable -> std::optional<EchecFichier> {
+            if (reste-- == 0)
+                return std::nullopt;
+            banc.Ecrire("Chemin.txt", "\"/par");
+            return EchecFichier::Ecriture;
+        };
+        banc.AnnoncerBoîte(
+            MessageEchec({EchecFichier::Ecriture, échecs == 1}, DepuisChemin(banc.dossier / "Chemin.txt")));
+        écran.cmdValiderCheminRéseau.Cliquer();
+        if (échecs == 1)
+            EXPECT_EQ(LireChamps(banc.dossier / "Chemin.txt"), (std::vector<Texte>{u"/ancien"}));
+        else
+            EXPECT_FALSE(banc.Existe("Chemin.txt"));
+        EXPECT_EQ(banc.état.CheminRéseau, u"");
+    }
 }
 
 TEST(GestionEleves, DossierQueLeFichierNePeutPasGarderEstRefusé)

@@ -227,7 +227,7 @@ TEST(Questionnaire, VitesseQuiNeSEcritPasEstDiteEtLesQuestionsViennent)
     écran.cmdCommencer.Cliquer();
     banc.Avancer(60s);
     banc.plateforme.échecEcriture = [](const Chemin&) { return EchecFichier::Ecriture; };
-    banc.AnnoncerBoîte(u"Impossible d'enregistrer…");
+    banc.AnnoncerBoîte(u"Tes résultats n'ont pas pu être enregistrés…");
     écran.cmdOk.Cliquer();
     EXPECT_TRUE(écran.frameQuestions.Visible);
     banc.plateforme.échecEcriture = nullptr;
