@@ -94,8 +94,8 @@ void RichTextBox::SelText(VueTexte nouveau)
 {
     const auto début = début_;
     const auto retirés = longueur_;
-    const auto attente = longueur_ == 0 ? formatEnAttente_ : std::nullopt;
-    texte_.Remplacer(début, retirés, nouveau, attente ? &*attente : nullptr);
+    const auto format = FormatAuCurseur(début > 0 ? début - 1 : 0);
+    texte_.Remplacer(début, retirés, nouveau, retirés == 0 ? &format : nullptr);
     début_ = début + nouveau.size();
     longueur_ = 0;
     formatEnAttente_.reset();
@@ -152,7 +152,7 @@ void RichTextBox::FormaterSélection(const std::function<void(Format&)>& retouch
 void RichTextBox::FormaterParagraphes(const std::function<void(FormatParagraphe&)>& retouche)
 {
     texte_.FormaterParagraphes(début_, longueur_, retouche);
-    Signaler({0, Longueur(), Longueur()});
+    Signaler({début_, longueur_, longueur_});
 }
 
 void RichTextBox::ParcourirFormats(const std::function<bool(const Format&)>& visite) const
@@ -163,13 +163,19 @@ void RichTextBox::ParcourirFormats(const std::function<bool(const Format&)>& vis
                                  [&](const Tranche& tranche) { suite = suite && visite(*tranche.Style); });
         return;
     }
-    if (formatEnAttente_) {
-        visite(*formatEnAttente_);
-        return;
-    }
     // At a caret: of the character before it, unless that one ends the line before.
     const bool débutDeLigne = début_ == 0 || Text()[début_ - 1] == u'\n';
-    visite(texte_.FormatEn(débutDeLigne ? début_ : début_ - 1));
+    visite(FormatAuCurseur(débutDeLigne ? début_ : début_ - 1));
+}
+
+// What was set at the caret, or what stands at `modèle`.
+Format RichTextBox::FormatAuCurseur(std::size_t modèle) const
+{
+    if (formatEnAttente_)
+        return *formatEnAttente_;
+    Format format = texte_.FormatEn(modèle);
+    format.Barré = format.Barré && DansUneMarque(texte_, début_, début_);
+    return format;
 }
 
 void RichTextBox::ParcourirParagraphes(const std::function<bool(const FormatParagraphe&)>& visite) const

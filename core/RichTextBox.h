@@ -8,7 +8,8 @@ namespace tirelune {
 class RichTextBox;
 
 // A format of the selection: mixed values read as nothing; what is assigned goes to the whole selection. With an
-// empty selection it is the format at the caret, and what is assigned goes to the next text inserted there.
+// empty selection it is the format at the caret, and what is assigned goes to the next text inserted there. Behind a
+// marked word the caret isn't struck through.
 template <class T, T Format::*Champ>
 class FormatSélection {
 public:
@@ -42,7 +43,7 @@ public:
     RichTextBox(Ecran& écran, std::string_view nom, const EtatInitial& initial = {});
 
     // Who draws the box hears of each edit: `retirés` characters at `début` gave way to `ajoutés`; with the same
-    // count on both sides, characters or formats changed in place.
+    // count on both sides, characters or formats changed in place, those of the paragraphs that this touches too.
     struct Edition {
         std::size_t Début;
         std::size_t Retirés;
@@ -120,6 +121,7 @@ private:
     friend class FormatSélectionParagraphe;
 
     void Signaler(const Edition& édition);
+    [[nodiscard]] Format FormatAuCurseur(std::size_t modèle) const;
     // Runs over the formats of the selection, or the caret's, until the callback says no.
     void ParcourirFormats(const std::function<bool(const Format&)>& visite) const;
     void ParcourirParagraphes(const std::function<bool(const FormatParagraphe&)>& visite) const;

@@ -211,6 +211,14 @@ std::size_t TexteRiche::FinDuParagraphe(std::size_t position) const
     return ligne == Texte::npos ? texte_.size() + 1 : ligne + 1;
 }
 
+bool DansUneMarque(const TexteRiche& texte, std::size_t début, std::size_t fin)
+{
+    const auto marqué = [&](std::size_t place) {
+        return texte.FormatEn(place).Barré && !Contient(FinDeLigne, texte.Caractères()[place]);
+    };
+    return début > 0 && fin < texte.Longueur() && marqué(début - 1) && marqué(fin);
+}
+
 std::vector<Texte> MotsMarqués(const TexteRiche& texte)
 {
     std::vector<Texte> mots;

@@ -118,6 +118,10 @@ private:
 // Any line end (LF, CR, CR LF, U+2028, U+2029) becomes CR LF.
 Texte NormaliserLignes(VueTexte texte);
 
+// What comes in at [début, fin) stands inside a marked word: between two marked characters of one line. A mark is a
+// word's: nothing that is written before or behind it takes it.
+[[nodiscard]] bool DansUneMarque(const TexteRiche& texte, std::size_t début, std::size_t fin);
+
 // The struck-through runs in text order, a run that ends the text included.
 std::vector<Texte> MotsMarqués(const TexteRiche& texte);
 

@@ -31,6 +31,14 @@ void Retouches::Noter(std::size_t début, std::size_t retirés, std::size_t ajou
     liste_.erase(premier + 1, dernier);
 }
 
+void Retouches::NoterMontrée(std::size_t début, std::size_t retirés, std::size_t ajoutés)
+{
+    Noter(début, retirés, ajoutés);
+    const auto elle = std::lower_bound(liste_.begin(), liste_.end(), début,
+                                       [](const Retouche& r, std::size_t p) { return r.Début + r.Nouveaux < p; });
+    elle->Anciens = elle->Anciens - retirés + ajoutés;
+}
+
 std::vector<Retouche> Retouches::Prendre()
 {
     static constexpr std::size_t Voisinage = 1000;

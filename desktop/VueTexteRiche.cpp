@@ -23,8 +23,6 @@ namespace tirelune {
 
 namespace {
 
-constexpr int NuméroFormat = QTextFormat::UserProperty; // formats that look alike here may differ in the text
-
 bool FinitLigne(char16_t caractère)
 {
     return caractère == u'\r' || caractère == u'\n';
@@ -262,8 +260,19 @@ private:
 // ---- From the element to the widget ------------------------------------------------------------------------------
 
 VueTexteRiche::VueTexteRiche(Hôte& hôte, RichTextBox& boîte, QWidget* parent)
-    : Vue(hôte, boîte, new Page{*this, parent}), boîte_(boîte), zone_(static_cast<QTextEdit&>(*widget))
+    : Vue(hôte, boîte, new Page{*this, parent}),
+      boîte_(boîte),
+      zone_(static_cast<QTextEdit&>(*widget)),
+      mise_(*new MiseEnPage{zone_.document()})
 {
+    mise_.Habiller = [this](const QTextBlock& bloc) { return Habiller(bloc); };
+    mise_.EnAccord = [this] { return retouches_.Vides() && !enRetouche_; };
+    mise_.Haut = [this] { return zone_.verticalScrollBar()->value(); };
+    mise_.Décalé = [this](double de) {
+        auto* barre = zone_.verticalScrollBar();
+        barre->setValue(barre->value() + static_cast<int>(std::lround(de)));
+    };
+    zone_.document()->setDocumentLayout(&mise_);
     if (boîte.UneLigne)
         static_cast<Page&>(zone_).MettreEnLigne();
     retouches_.Noter(0, 0, boîte.Longueur());
@@ -331,9 +340,20 @@ const QTextCharFormat& VueTexteRiche::FormatDe(const Format& format)
     const auto place = formats_.find(format);
     if (place != formats_.end())
         return place->second;
-    auto qt = EnQt(format, échelleMontrée_);
-    qt.setProperty(NuméroFormat, static_cast<int>(formats_.size()) + 1);
-    return formats_.emplace(format, std::move(qt)).first->second;
+    return formats_.emplace(format, EnQt(format, échelleMontrée_)).first->second;
+}
+
+Habillage VueTexteRiche::Habiller(const QTextBlock& bloc)
+{
+    const auto& texte = boîte_.TextRTF();
+    const auto début = DepuisWidget(bloc.position());
+    const auto fin = début + static_cast<std::size_t>(bloc.length()) - 1;
+    Habillage habillage{{}, FormatDe(texte.FormatEn(début)), EnQt(texte.ParagrapheEn(début), échelleMontrée_)};
+    texte.PourChaqueTranche(début, fin, [&](const Tranche& tranche) {
+        habillage.Lettres.push_back({static_cast<int>(tranche.Début - début),
+                                     static_cast<int>(tranche.Fin - tranche.Début), FormatDe(*tranche.Style)});
+    });
+    return habillage;
 }
 
 void VueTexteRiche::Synchroniser()
@@ -345,13 +365,15 @@ void VueTexteRiche::Synchroniser()
     if (const double voulue = hôte_.Echelle(); voulue != échelleMontrée_) {
         échelleMontrée_ = voulue;
         formats_.clear();
-        retouches_.Prendre();
-        zone_.document()->clear();
-        retouches_.Noter(0, 0, boîte_.Longueur());
+        mise_.Périmer(0, zone_.document()->blockCount() - 1);
     }
+    enRetouche_ = true;
     for (const auto& retouche : retouches_.Prendre())
         Mettre(retouche);
+    enRetouche_ = false;
+    mise_.Avancer();
     MettreSélection();
+    HausserCurseur();
     enSynchro_ = false;
 }
 
@@ -368,125 +390,27 @@ void VueTexteRiche::Mettre(Retouche retouche)
         ++retouche.Anciens;
         ++retouche.Nouveaux;
     }
-    if (retouche.Anciens != retouche.Nouveaux || !MettreSurPlace(retouche.Début, retouche.Début + retouche.Nouveaux))
-        Remplacer(retouche);
-}
-
-// Changes characters and formats where they stand. False: the lines don't end where they did.
-bool VueTexteRiche::MettreSurPlace(std::size_t début, std::size_t fin)
-{
-    struct Part {
-        QTextBlock Bloc;
-        std::size_t Début;
-        std::size_t Fin;
-    };
-    const VueTexte texte = boîte_.Text();
-    std::vector<Part> parts;
-    auto bloc = zone_.document()->findBlock(EnWidget(début));
-    for (std::size_t place = début;;) {
-        const auto départ = DepuisWidget(bloc.position());
-        const auto terme = départ + static_cast<std::size_t>(bloc.length()) - 1;
-        const auto borne = std::min(fin, terme);
-        if (place > borne || texte.substr(place, borne - place).find(FinDeLigne) != VueTexte::npos)
-            return false;
-        parts.push_back({bloc, place, borne});
-        if (fin <= terme)
-            break;
-        if (texte.substr(terme, 2) != FinDeLigne || fin < terme + 2)
-            return false;
-        place = terme + 2;
-        bloc = bloc.next();
-        if (!bloc.isValid())
-            return false;
-    }
-    for (const auto& part : parts)
-        MettreBloc(part.Bloc, part.Début, part.Fin);
-    MettreParagraphes(parts.front().Bloc.blockNumber(), parts.back().Bloc.blockNumber());
-    return true;
-}
-
-void VueTexteRiche::MettreBloc(const QTextBlock& bloc, std::size_t début, std::size_t fin)
-{
-    struct Echange {
-        int Début;
-        int Fin;
-        bool Texte;
-        const QTextCharFormat* Format;
-    };
-    const int décalage = bloc.blockNumber();
-    const int premier = static_cast<int>(début) - décalage;
-    const auto ancien = bloc.text();
-    const auto nouveau = Affiché(début, fin);
-    std::vector<int> numéros(static_cast<std::size_t>(fin - début), 0);
-    for (auto morceau = bloc.begin(); !morceau.atEnd(); ++morceau) {
-        const auto fragment = morceau.fragment();
-        const int numéro = fragment.charFormat().intProperty(NuméroFormat);
-        const int de = std::max(fragment.position(), premier);
-        const int à = std::min(fragment.position() + fragment.length(), premier + static_cast<int>(numéros.size()));
-        for (int i = de; i < à; ++i)
-            numéros[static_cast<std::size_t>(i - premier)] = numéro;
-    }
-    std::vector<Echange> échanges;
-    boîte_.TextRTF().PourChaqueTranche(début, fin, [&](const Tranche& tranche) {
-        const auto& format = FormatDe(*tranche.Style);
-        const int numéro = format.intProperty(NuméroFormat);
-        for (auto i = static_cast<int>(tranche.Début) - décalage; i < static_cast<int>(tranche.Fin) - décalage; ++i) {
-            const bool autreTexte = ancien[i - bloc.position()] != nouveau[i - premier];
-            if (!autreTexte && numéros[static_cast<std::size_t>(i - premier)] == numéro)
-                continue;
-            if (!échanges.empty() && échanges.back().Fin == i && échanges.back().Texte == autreTexte &&
-                échanges.back().Format == &format)
-                ++échanges.back().Fin;
-            else
-                échanges.push_back({i, i + 1, autreTexte, &format});
-        }
-    });
-    if (échanges.empty())
-        return;
-    QTextCursor curseur{bloc};
-    curseur.beginEditBlock();
-    for (const auto& échange : échanges) {
-        curseur.setPosition(échange.Début);
-        curseur.setPosition(échange.Fin, QTextCursor::KeepAnchor);
-        if (échange.Texte)
-            curseur.insertText(nouveau.mid(échange.Début - premier, échange.Fin - échange.Début), *échange.Format);
-        else
-            curseur.setCharFormat(*échange.Format);
-    }
-    curseur.endEditBlock();
-}
-
-void VueTexteRiche::Remplacer(const Retouche& retouche)
-{
-    QTextCursor curseur{zone_.document()};
     const int début = EnWidget(retouche.Début);
     const int fin = EnWidget(retouche.Début + retouche.Anciens);
-    const int premier = zone_.document()->findBlock(début).blockNumber();
-    curseur.beginEditBlock();
+    const auto nouveau = Affiché(retouche.Début, retouche.Début + retouche.Nouveaux);
+    QTextCursor curseur{zone_.document()};
     curseur.setPosition(début);
     curseur.setPosition(fin, QTextCursor::KeepAnchor);
-    curseur.removeSelectedText();
-    boîte_.TextRTF().PourChaqueTranche(retouche.Début, retouche.Début + retouche.Nouveaux, [&](const Tranche& tranche) {
-        curseur.insertText(Affiché(tranche.Début, tranche.Fin), FormatDe(*tranche.Style));
-    });
-    curseur.endEditBlock();
-    MettreParagraphes(premier, curseur.blockNumber());
-}
-
-void VueTexteRiche::MettreParagraphes(int premier, int dernier)
-{
-    const FormatParagraphe* dernierFormat = nullptr;
-    QTextBlockFormat voulu;
-    auto bloc = zone_.document()->findBlockByNumber(premier);
-    for (int i = premier; i <= dernier && bloc.isValid(); ++i, bloc = bloc.next()) {
-        const auto& format = boîte_.TextRTF().ParagrapheEn(DepuisWidget(bloc.position()));
-        if (dernierFormat != &format) {
-            voulu = EnQt(format, échelleMontrée_);
-            dernierFormat = &format;
-        }
-        if (bloc.blockFormat() != voulu)
-            QTextCursor{bloc}.setBlockFormat(voulu);
+    const auto ancien = curseur.selectedText();
+    // Paragraphs that stay keep their lines.
+    const auto devant =
+        std::mismatch(ancien.begin(), ancien.end(), nouveau.begin(), nouveau.end()).first - ancien.begin();
+    const auto reste = std::min(ancien.size(), nouveau.size()) - devant;
+    const auto derrière =
+        std::mismatch(ancien.rbegin(), ancien.rbegin() + reste, nouveau.rbegin()).first - ancien.rbegin();
+    if (devant + derrière < std::max(ancien.size(), nouveau.size())) {
+        curseur.setPosition(début + static_cast<int>(devant));
+        curseur.setPosition(fin - static_cast<int>(derrière), QTextCursor::KeepAnchor);
+        curseur.insertText(nouveau.sliced(devant, nouveau.size() - devant - derrière), {});
     }
+    const auto* document = zone_.document();
+    mise_.Périmer(document->findBlock(début).blockNumber(),
+                  document->findBlock(début + static_cast<int>(nouveau.size())).blockNumber());
 }
 
 void VueTexteRiche::MettreSélection()
@@ -504,7 +428,29 @@ void VueTexteRiche::MettreSélection()
     if (boîte_.Locked && début == fin)
         zone_.verticalScrollBar()->setValue(défilement);
     else
+        MontrerCurseur();
+}
+
+// Places far off are guesses: what comes into sight is laid out, and may push the caret out again.
+void VueTexteRiche::MontrerCurseur()
+{
+    const auto* barre = zone_.verticalScrollBar();
+    for (int avant = -1; avant != barre->value();) {
+        avant = barre->value();
         zone_.ensureCursorVisible();
+        mise_.Préparer(barre->value(), barre->value() + zone_.viewport()->height());
+    }
+}
+
+// In a paragraph without letters the caret is as high as the letters to come.
+void VueTexteRiche::HausserCurseur()
+{
+    QTextCursor ici{zone_.textCursor().block()};
+    if (ici.block().length() > 1)
+        return;
+    const auto& format = FormatDe(boîte_.TextRTF().FormatEn(DepuisWidget(ici.position())));
+    if (ici.blockCharFormat() != format)
+        ici.setBlockCharFormat(format);
 }
 
 // ---- From the widget to the element ------------------------------------------------------------------------------
@@ -517,20 +463,21 @@ bool VueTexteRiche::Taper(const Touche& touche)
     return (boîte_.Locked && jeu) || boîte_.Taper(touche);
 }
 
-Format VueTexteRiche::FormatTapé(std::size_t début, std::size_t retirés) const
+Format VueTexteRiche::FormatTapé(std::size_t début, std::size_t retirés, VueTexte arrivé) const
 {
     const auto& texte = boîte_.TextRTF();
     const bool auCurseur = retirés == 0 && boîte_.SelLength() == 0 && boîte_.SelStart() == début;
-    if (!auCurseur)
-        return texte.FormatEn(retirés > 0 || début == 0 ? début : début - 1);
-    Format format = texte.FormatEn(début);
-    format.Police = boîte_.SelFontName().value_or(format.Police);
-    format.Taille = boîte_.SelFontSize().value_or(format.Taille);
-    format.Teinte = boîte_.SelColor().value_or(format.Teinte);
-    format.Gras = boîte_.SelBold().value_or(format.Gras);
-    format.Italique = boîte_.SelItalic().value_or(format.Italique);
-    format.Souligné = boîte_.SelUnderline().value_or(format.Souligné);
-    format.Barré = boîte_.SelStrikeThru().value_or(format.Barré);
+    Format format = texte.FormatEn(auCurseur || retirés > 0 || début == 0 ? début : début - 1);
+    if (auCurseur) {
+        format.Police = boîte_.SelFontName().value_or(format.Police);
+        format.Taille = boîte_.SelFontSize().value_or(format.Taille);
+        format.Teinte = boîte_.SelColor().value_or(format.Teinte);
+        format.Gras = boîte_.SelBold().value_or(format.Gras);
+        format.Italique = boîte_.SelItalic().value_or(format.Italique);
+        format.Souligné = boîte_.SelUnderline().value_or(format.Souligné);
+        format.Barré = boîte_.SelStrikeThru().value_or(format.Barré);
+    }
+    format.Barré = format.Barré && !Contient(arrivé, u'\n') && DansUneMarque(texte, début, début + retirés);
     return format;
 }
 
@@ -561,11 +508,11 @@ void VueTexteRiche::Reprendre(int position, int retirés, int ajoutés)
         fin += VueTexte{texte}.substr(fin, 2) == FinDeLigne ? 2 : 1;
 
     // The widget shows the characters; their formats come from the element, like all formats.
-    retouches_.Noter(début, arrivé.size(), arrivé.size());
-    hôte_.Marquer(*this);
-    // What only was laid out anew, or has another format, is no edit.
-    std::size_t pareils = 0;
     const VueTexte ancien = VueTexte{texte}.substr(début, fin - début);
+    retouches_.NoterMontrée(début, ancien.size(), arrivé.size());
+    hôte_.Marquer(*this);
+    // What only was laid out anew is no edit.
+    std::size_t pareils = 0;
     while (pareils < ancien.size() && pareils < arrivé.size() && ancien[pareils] == arrivé[pareils])
         ++pareils;
     if (pareils > 0 && ancien[pareils - 1] == u'\r')
@@ -581,7 +528,7 @@ void VueTexteRiche::Reprendre(int position, int retirés, int ajoutés)
     arrivé = arrivé.substr(pareils, arrivé.size() - pareils - derrière);
     if (partis == 0 && arrivé.empty())
         return;
-    const auto format = FormatTapé(début, partis);
+    const auto format = FormatTapé(début, partis, arrivé);
     boîte_.Editer(début, partis, TexteRiche{std::move(arrivé), format});
 }
 

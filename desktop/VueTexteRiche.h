@@ -1,6 +1,7 @@
 // A formatted text in the toolkit's text widget. In the element a line end counts two positions, in the widget one.
 #pragma once
 #include "core/RichTextBox.h"
+#include "desktop/MiseEnPage.h"
 #include "desktop/Retouches.h"
 #include "desktop/Vue.h"
 
@@ -34,23 +35,24 @@ private:
 
     [[nodiscard]] QString Affiché(std::size_t début, std::size_t fin) const;
     const QTextCharFormat& FormatDe(const Format& format);
+    [[nodiscard]] Habillage Habiller(const QTextBlock& bloc);
     void Mettre(Retouche retouche);
-    bool MettreSurPlace(std::size_t début, std::size_t fin);
-    void MettreBloc(const QTextBlock& bloc, std::size_t début, std::size_t fin);
-    void Remplacer(const Retouche& retouche);
-    void MettreParagraphes(int premier, int dernier);
     void MettreSélection();
+    void MontrerCurseur();
+    void HausserCurseur();
 
     void Reprendre(int position, int retirés, int ajoutés);
-    [[nodiscard]] Format FormatTapé(std::size_t début, std::size_t retirés) const;
+    [[nodiscard]] Format FormatTapé(std::size_t début, std::size_t retirés, VueTexte arrivé) const;
     void NoterSélection();
 
     RichTextBox& boîte_;
     QTextEdit& zone_;
+    MiseEnPage& mise_;
     Retouches retouches_;
     std::unordered_map<Format, QTextCharFormat, HachageFormat> formats_;
     double échelleMontrée_ = 0;
     bool enSynchro_ = false;
+    bool enRetouche_ = false; // the widget's text follows the element's
 };
 
 } // namespace tirelune

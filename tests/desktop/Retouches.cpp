@@ -42,6 +42,18 @@ TEST(Retouches, UneGrandeAvaleLesPetites)
     EXPECT_EQ(retouches.Prendre(), (std::vector<Retouche>{{0, 20, 5}}));
 }
 
+// An edit that the user has made stands in both texts: what waits is moved, and stays what it is.
+TEST(Retouches, CelleQuiEstDéjàMontréeDéplaceLesAutres)
+{
+    Retouches retouches;
+    retouches.Noter(10, 1, 3);
+    retouches.NoterMontrée(0, 2, 5);
+    EXPECT_EQ(retouches.Prendre(), (std::vector<Retouche>{{0, 5, 5}, {13, 1, 3}}));
+    retouches.NoterMontrée(2, 7, 7);
+    retouches.NoterMontrée(5, 2, 1);
+    EXPECT_EQ(retouches.Prendre(), (std::vector<Retouche>{{2, 6, 6}}));
+}
+
 // Applying what was noted to the old text gives the new one, whatever the edits.
 TEST(Retouches, MènentDeLAncienTexteAuNouveau)
 {

@@ -2,6 +2,7 @@
 
 #include "desktop/VueTexteRiche.h"
 
+#include <QAbstractTextDocumentLayout>
 #include <QClipboard>
 #include <QElapsedTimer>
 #include <QScrollBar>
@@ -29,6 +30,11 @@ protected:
         Mettre();
         return DepuisQString(Zone().document()->toPlainText());
     }
+    const QTextLayout& LignesDe(const QTextBlock& bloc)
+    {
+        Zone().document()->documentLayout()->blockBoundingRect(bloc);
+        return *bloc.layout();
+    }
     // The middle of the left or right half of a character.
     QPoint Moitié(int position, bool droite)
     {
@@ -47,6 +53,13 @@ protected:
             Mettre();
         }
     }
+    void Marquer(Texte texte, std::size_t début, std::size_t longueur)
+    {
+        TexteRiche riche{std::move(texte)};
+        riche.Formater(début, longueur, [](Format& format) { format.Barré = true; });
+        écran.rtf.TextRTF(std::move(riche));
+        Mettre();
+    }
     void Coller(const QString& texte)
     {
         QApplication::clipboard()->setText(texte);
@@ -54,6 +67,21 @@ protected:
         Mettre();
     }
 };
+
+// The format that a character is painted in.
+QTextCharFormat FormatMontré(const QTextEdit& zone, int position)
+{
+    const auto bloc = zone.document()->findBlock(position);
+    zone.document()->documentLayout()->blockBoundingRect(bloc); // laid out, if it wasn't
+    const auto formats = bloc.layout()->formats();
+    const int place = position - bloc.position();
+    for (const auto& format : formats) {
+        if (format.start <= place && place < format.start + format.length)
+            return format.format;
+    }
+    ADD_FAILURE() << "sans format : " << position;
+    return {};
+}
 
 // What is shown equals what is held: characters, and the format of each.
 void VérifierAccord(VueTexteRiche& vue, const RichTextBox& boîte)
@@ -67,9 +95,7 @@ void VérifierAccord(VueTexteRiche& vue, const RichTextBox& boîte)
     for (std::size_t i = 0; i < boîte.Longueur(); ++i) {
         if (boîte.Text()[i] == u'\r' || boîte.Text()[i] == u'\n')
             continue;
-        QTextCursor curseur{vue.Zone().document()};
-        curseur.setPosition(vue.EnWidget(i) + 1);
-        const auto qt = curseur.charFormat();
+        const auto qt = FormatMontré(vue.Zone(), vue.EnWidget(i));
         const auto& format = boîte.TextRTF().FormatEn(i);
         ASSERT_EQ(qt.fontWeight() == QFont::Bold, format.Gras) << i;
         ASSERT_EQ(qt.fontStrikeOut(), format.Barré) << i;
@@ -226,6 +252,88 @@ TEST_F(TexteRicheAffiché, LeFormatChoisiAuCurseurVaAuTexteTapé)
     });
 }
 
+TEST_F(TexteRicheAffiché, CeQuiSuitUnMotMarquéNeLEstPas)
+{
+    Avec(écran, [&] {
+        Zone().setFocus();
+        for (const char* frappe : {"s", " ", ".", "\n", " puis", "\nfin"}) {
+            Marquer(u"le chat", 3, 4);
+            écran.rtf.SelStart(7);
+            Mettre();
+            Taper(frappe);
+            EXPECT_EQ(MotsMarqués(écran.rtf.TextRTF()), std::vector<Texte>{u"chat"}) << frappe;
+            VérifierAccord(VueRtf(), écran.rtf);
+        }
+    });
+}
+
+TEST_F(TexteRicheAffiché, EnDébutDeLigneNonPlus)
+{
+    Avec(écran, [&] {
+        Zone().setFocus();
+        Marquer(u"un\r\nchat noir", 4, 4);
+        QTest::keyClick(&Zone(), Qt::Key_Home, Qt::ControlModifier);
+        QTest::keyClick(&Zone(), Qt::Key_Down);
+        Taper("le ");
+        EXPECT_EQ(MotsMarqués(écran.rtf.TextRTF()), std::vector<Texte>{u"chat"});
+        Marquer(u"chat", 0, 4);
+        écran.rtf.SelStart(0);
+        Mettre();
+        Taper("le ");
+        EXPECT_EQ(MotsMarqués(écran.rtf.TextRTF()), std::vector<Texte>{u"chat"});
+    });
+}
+
+TEST_F(TexteRicheAffiché, DansUnMotMarquéCeQuiEstTapéLEstAussi)
+{
+    Avec(écran, [&] {
+        Zone().setFocus();
+        Marquer(u"le chat dort", 3, 4);
+        écran.rtf.SelStart(5);
+        Mettre();
+        Taper("xy");
+        EXPECT_EQ(MotsMarqués(écran.rtf.TextRTF()), std::vector<Texte>{u"chxyat"});
+        écran.rtf.Sélectionner(5, 2);
+        Mettre();
+        Taper("a");
+        EXPECT_EQ(MotsMarqués(écran.rtf.TextRTF()), std::vector<Texte>{u"chaat"});
+        Taper("\n");
+        EXPECT_EQ(MotsMarqués(écran.rtf.TextRTF()), (std::vector<Texte>{u"cha", u"at"})) << "deux lignes, deux mots";
+    });
+}
+
+TEST_F(TexteRicheAffiché, UnMotMarquéRemplacéPerdSaMarque)
+{
+    Avec(écran, [&] {
+        Zone().setFocus();
+        Marquer(u"le chat dort", 3, 4);
+        écran.rtf.Sélectionner(3, 4);
+        Mettre();
+        Taper("chien");
+        EXPECT_EQ(écran.rtf.Text(), u"le chien dort");
+        EXPECT_TRUE(MotsMarqués(écran.rtf.TextRTF()).empty());
+        Marquer(u"chat", 0, 4);
+        QTest::keyClick(&Zone(), Qt::Key_A, Qt::ControlModifier);
+        QTest::keyClick(&Zone(), Qt::Key_Delete);
+        Taper("un");
+        EXPECT_TRUE(MotsMarqués(écran.rtf.TextRTF()).empty());
+    });
+}
+
+TEST_F(TexteRicheAffiché, UnFormatChoisiDerrièreUnMotMarquéNeLAllongePas)
+{
+    Avec(écran, [&] {
+        Zone().setFocus();
+        Marquer(u"chat", 0, 4);
+        écran.rtf.SelStart(4);
+        écran.rtf.SelBold = true;
+        Mettre();
+        Taper("ut");
+        EXPECT_EQ(MotsMarqués(écran.rtf.TextRTF()), std::vector<Texte>{u"chat"});
+        EXPECT_TRUE(écran.rtf.TextRTF().FormatEn(5).Gras);
+    });
+}
+
 TEST_F(TexteRicheAffiché, CollerDonneDuTexteSimple)
 {
     écran.rtf.Text(u"[]");
@@ -330,11 +438,13 @@ TEST_F(TexteRicheAffiché, LesParagraphesSuiventLeurFormat)
         écran.rtf.SelAlignment = Cadrage::Centre;
         écran.rtf.SelIndent = 300;
         Mettre();
-        const auto premier = Zone().document()->firstBlock().blockFormat();
-        const auto second = Zone().document()->lastBlock().blockFormat();
-        EXPECT_EQ(premier.alignment(), Qt::AlignLeft);
-        EXPECT_EQ(second.alignment(), Qt::AlignHCenter);
-        EXPECT_GT(second.leftMargin(), premier.leftMargin());
+        const auto& premier = LignesDe(Zone().document()->firstBlock());
+        const auto& second = LignesDe(Zone().document()->lastBlock());
+        EXPECT_EQ(premier.textOption().alignment(), Qt::AlignLeft);
+        EXPECT_EQ(second.textOption().alignment(), Qt::AlignHCenter);
+        EXPECT_EQ(premier.lineAt(0).x(), 0);
+        EXPECT_EQ(second.lineAt(0).x(), Devant().Echelle() * 20);
+        EXPECT_GT(second.lineAt(0).naturalTextRect().left(), Zone().viewport()->width() / 3.0);
     });
 }
 
