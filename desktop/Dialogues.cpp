@@ -5,15 +5,22 @@
 #include "desktop/Conversions.h"
 #include "desktop/Fenetre.h"
 
+#include <QAbstractItemView>
 #include <QApplication>
+#include <QCheckBox>
 #include <QColorDialog>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QFontDatabase>
 #include <QFontDialog>
+#include <QKeyEvent>
 #include <QLibraryInfo>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QShortcut>
 #include <QTranslator>
+
+#include <algorithm>
 
 namespace tirelune {
 
@@ -104,11 +111,36 @@ namespace {
 
 // The toolkit asks its own picture of the folder, which may not be read yet, whether a name typed is a folder, and then
 // empties the name: a file that is really there is taken at once.
+// Nothing is deleted, renamed or moved here: who opens only chooses, who saves may make a folder as well.
 class DialogueFichiers final : public QFileDialog {
 public:
-    using QFileDialog::QFileDialog;
+    DialogueFichiers(bool enregistrer, QWidget* parent) : QFileDialog(parent)
+    {
+        setOption(QFileDialog::DontUseNativeDialog);
+        setOption(QFileDialog::ReadOnly, !enregistrer);
+        setAcceptMode(enregistrer ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
+        setFileMode(enregistrer ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
+        if (auto* nouveau = findChild<QWidget*>(QStringLiteral("newFolderButton")); nouveau != nullptr && !enregistrer)
+            nouveau->hide();
+        for (auto* vue : findChildren<QAbstractItemView*>()) {
+            vue->setContextMenuPolicy(Qt::NoContextMenu);
+            vue->setDragDropMode(QAbstractItemView::NoDragDrop);
+            vue->setEditTriggers(QAbstractItemView::NoEditTriggers); // a new folder is named all the same
+            vue->installEventFilter(this);
+        }
+        for (auto* raccourci : findChildren<QShortcut*>()) // "Delete" is one, too
+            raccourci->setEnabled(false);
+    }
 
     QString choisi; // the file that was really there
+
+    bool eventFilter(QObject* visé, QEvent* événement) override
+    {
+        const bool touche = événement->type() == QEvent::KeyPress || événement->type() == QEvent::ShortcutOverride;
+        if (touche && static_cast<QKeyEvent*>(événement)->matches(QKeySequence::Delete))
+            return true;
+        return QFileDialog::eventFilter(visé, événement);
+    }
 
     void accept() override
     {
@@ -141,11 +173,8 @@ QStringList TraduireFiltre(const Texte& filtre)
 
 std::unique_ptr<QFileDialog> CréerDialogueFichier(const DialogueFichier& demande, bool enregistrer, QWidget* parent)
 {
-    auto dialogue = std::make_unique<DialogueFichiers>(parent);
+    auto dialogue = std::make_unique<DialogueFichiers>(enregistrer, parent);
     dialogue->setFont(PolicePour({}, 0, false, EchelleDe(parent)));
-    dialogue->setOption(QFileDialog::DontUseNativeDialog);
-    dialogue->setAcceptMode(enregistrer ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
-    dialogue->setFileMode(enregistrer ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
     dialogue->setLocale(QLocale{QLocale::French});
     dialogue->setViewMode(QFileDialog::List); // names are all that a pupil looks for
     dialogue->setNameFilters(TraduireFiltre(demande.Filtre));
@@ -197,33 +226,73 @@ std::optional<Couleur> CouleurChoisie(const QColorDialog& dialogue)
     return DepuisQColor(dialogue.selectedColor());
 }
 
+namespace {
+
+class DialoguePolices final : public QFontDialog {
+public:
+    DialoguePolices(const QFont& police, QWidget* parent) : QFontDialog(police, parent)
+    {
+        setOption(QFontDialog::DontUseNativeDialog);
+        // Strike-through is the mark of words, and underlining has its own button.
+        for (auto* effet : findChildren<QCheckBox*>())
+            effet->parentWidget()->hide();
+        départ_ = currentFont();
+    }
+
+    // What differs from what the dialog opened on; the rest is left as it is.
+    [[nodiscard]] ChoixPolice Changements() const
+    {
+        const auto police = selectedFont();
+        ChoixPolice choix;
+        if (police.family() != départ_.family())
+            choix.Nom = DepuisQString(police.family());
+        if (police.pointSizeF() != départ_.pointSizeF())
+            choix.Taille = police.pointSizeF();
+        if (police.bold() != départ_.bold())
+            choix.Gras = police.bold();
+        if (police.italic() != départ_.italic())
+            choix.Italique = police.italic();
+        return choix;
+    }
+
+private:
+    QFont départ_; // as the dialog shows it
+};
+
+// The style that does for a font, as the dialog lists it: the plain one may be "Regular" or "Book".
+QString StyleListé(const QFont& police)
+{
+    const QFontInfo trouvée{police};
+    const auto styles = QFontDatabase::styles(trouvée.family());
+    if (styles.contains(trouvée.styleName()))
+        return trouvée.styleName();
+    const auto style = std::find_if(styles.begin(), styles.end(), [&](const QString& un) {
+        const auto telle = QFontDatabase::font(trouvée.family(), un, 12);
+        return telle.bold() == police.bold() && telle.italic() == police.italic();
+    });
+    return style == styles.end() ? QString{} : *style;
+}
+
+} // namespace
+
 std::unique_ptr<QFontDialog> CréerDialoguePolice(const ChoixPolice& départ, QWidget* parent)
 {
     // The dialog lists what the machine has: it starts on the stand-in of a font that is missing.
     auto police = PolicePour(départ.Nom, 0, départ.Gras.value_or(false), 1);
+    police.setItalic(départ.Italique.value_or(false));
+    police.setStyleName(StyleListé(police));
     police.setFamily(QFontInfo{police}.family());
     police.setPointSizeF(départ.Taille > 0 ? départ.Taille : 12);
-    police.setItalic(départ.Italique.value_or(false));
-    auto dialogue = std::make_unique<QFontDialog>(police, parent);
-    dialogue->setOption(QFontDialog::DontUseNativeDialog);
+    auto dialogue = std::make_unique<DialoguePolices>(police, parent);
     dialogue->setWindowTitle(QStringLiteral("Caractères"));
     return dialogue;
 }
 
-std::optional<ChoixPolice> PoliceChoisie(const QFontDialog& dialogue, const ChoixPolice& départ)
+std::optional<ChoixPolice> PoliceChoisie(const QFontDialog& dialogue)
 {
     if (dialogue.result() != QDialog::Accepted)
         return std::nullopt;
-    const auto police = dialogue.selectedFont();
-    ChoixPolice choix;
-    choix.Nom = DepuisQString(police.family());
-    const bool inchangée = QFontInfo{PolicePour(départ.Nom, 0, false, 1)}.family() == QFontInfo{police}.family();
-    if (inchangée)
-        choix.Nom = départ.Nom;
-    choix.Taille = police.pointSizeF();
-    choix.Gras = police.bold();
-    choix.Italique = police.italic();
-    return choix;
+    return dynamic_cast<const DialoguePolices&>(dialogue).Changements();
 }
 
 } // namespace tirelune

@@ -35,6 +35,7 @@ std::unique_ptr<QColorDialog> CréerDialogueCouleur(Couleur départ, QWidget* pa
 std::optional<Couleur> CouleurChoisie(const QColorDialog& dialogue);
 
 std::unique_ptr<QFontDialog> CréerDialoguePolice(const ChoixPolice& départ, QWidget* parent);
-std::optional<ChoixPolice> PoliceChoisie(const QFontDialog& dialogue, const ChoixPolice& départ);
+// What the user has changed; the rest says "leave it".
+std::optional<ChoixPolice> PoliceChoisie(const QFontDialog& dialogue);
 
 } // namespace tirelune

@@ -179,7 +179,7 @@ std::optional<ChoixPolice> PlateformeQt::DemanderPolice(const ChoixPolice& dépa
     ChargerTraductions();
     const auto dialogue = CréerDialoguePolice(départ, Devant());
     MontrerDialogue(*dialogue);
-    return PoliceChoisie(*dialogue, départ);
+    return PoliceChoisie(*dialogue);
 }
 
 bool PlateformeQt::Imprimer(const TexteRiche& texte, const TexteRiche& sélection)
