@@ -225,25 +225,16 @@ std::size_t FinDuParagraphe(const Texte& texte, std::size_t ligne)
     return ligne == Texte::npos ? texte.size() + 1 : ligne + 1;
 }
 
-// The corrected text has the paragraphs of the first one, line by line. Laying a tab behind a line end rewrites that
-// line end, and the next paragraph goes on with the format of the one before it, but for its remembered alignment.
+// The corrected text has the paragraphs of the first one, line by line.
 Plages<FormatParagraphe> AccorderParagraphes(const TexteRiche& avant, const Texte& après)
 {
     Plages<FormatParagraphe> paragraphes;
-    auto format = avant.ParagrapheEn(0);
     std::size_t débutAvant = 0;
-    std::size_t débutAprès = 0;
-    while (débutAprès <= après.size()) {
-        const auto ligne = après.find(u'\n', débutAprès);
-        const auto fin = FinDuParagraphe(après, ligne);
-        paragraphes.Ajouter(fin - débutAprès, paragraphes.Interner(format));
+    for (std::size_t débutAprès = 0; débutAprès <= après.size();) {
+        const auto fin = FinDuParagraphe(après, après.find(u'\n', débutAprès));
+        paragraphes.Ajouter(fin - débutAprès, paragraphes.Interner(avant.ParagrapheEn(débutAvant)));
         débutAprès = fin;
         débutAvant = FinDuParagraphe(avant.Caractères(), avant.Caractères().find(u'\n', débutAvant));
-        const auto& suivant = avant.ParagrapheEn(débutAvant);
-        if (ligne != Texte::npos && VueTexte(après).substr(0, fin).ends_with(FinDeLigne))
-            format.Alignement = suivant.Alignement;
-        else
-            format = suivant;
     }
     return paragraphes;
 }

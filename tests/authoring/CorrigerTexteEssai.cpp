@@ -69,12 +69,11 @@ void SupprimerTabulations(RichTextBox& rtf)
 void InsérerTabulations(RichTextBox& rtf)
 {
     for (auto place = rtf.Text().find(u"\r\n"); place != Texte::npos; place = rtf.Text().find(u"\r\n", place + 1)) {
-        rtf.SelStart(place + 2);
-        const auto alignement = rtf.SelAlignment();
+        // The line end that comes back ends the paragraph before it: the next one keeps what it has.
+        const auto suivant = rtf.TextRTF().ParagrapheEn(place + 2);
         RemplacerEn(rtf, place, 2, u"\r\n\t");
         rtf.SelStart(place + 2);
-        ASSERT_TRUE(alignement.has_value());
-        rtf.SelAlignment = *alignement;
+        rtf.FormaterParagraphes([&](FormatParagraphe& paragraphe) { paragraphe = suivant; });
     }
 }
 
@@ -397,6 +396,25 @@ TEST_F(CorrigerTexteEssai, LeTitreSoulignéNeSoulignePasLaTabulationQuiLeSuit)
     EXPECT_FALSE(rtfTexte.TextRTF().FormatEn(7).Souligné);
     EXPECT_TRUE(rtfTexte.TextRTF().FormatEn(0).Souligné);
     EXPECT_TRUE(rtfTexte.TextRTF().FormatEn(8).Souligné);
+}
+
+TEST_F(CorrigerTexteEssai, ChaqueParagrapheGardeSesRetraits)
+{
+    TexteRiche texte{u"Titre\r\nUn\r\n\r\nDeux"};
+    const auto retrait = [&](std::size_t place, int première, int gauche) {
+        texte.FormaterParagraphes(place, 0, [&](FormatParagraphe& paragraphe) {
+            paragraphe.RetraitPremièreLigne = première;
+            paragraphe.RetraitGauche = gauche;
+        });
+    };
+    retrait(0, 700, 100);
+    retrait(7, 300, 200);
+    retrait(13, -50, 400);
+    const auto corrigé = TexteCorrigé(texte);
+    ASSERT_EQ(corrigé.Caractères(), u"Titre\r\n\tUn\r\n\t\r\n\tDeux");
+    const std::vector<std::pair<std::size_t, std::size_t>> lignes{{0, 0}, {7, 7}, {8, 7}, {12, 11}, {15, 13}, {19, 17}};
+    for (const auto& [après, avant] : lignes)
+        EXPECT_EQ(corrigé.ParagrapheEn(après), texte.ParagrapheEn(avant)) << après;
 }
 
 TEST_F(CorrigerTexteEssai, ChaqueParagrapheGardeSonAlignement)
