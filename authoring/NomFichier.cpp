@@ -26,7 +26,8 @@ Texte NomProposé(VueTexte texte)
 {
     const auto début = std::min(texte.find_first_not_of(u' '), texte.size());
     // The blanks that end the text are trimmed with the name.
-    return Rogner(CouperNomFichier(texte.substr(début, LongueurProposée))) + u".rtf";
+    const auto mots = Rogner(CouperNomFichier(texte.substr(début, LongueurProposée)));
+    return mots.empty() ? Texte{DocumentParDéfaut} : mots + u".rtf";
 }
 
 } // namespace tirelune

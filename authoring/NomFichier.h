@@ -8,7 +8,9 @@ namespace tirelune {
 // capitals with accents cut the name too.
 Texte CouperNomFichier(VueTexte nom);
 
-// The opening words of a text, with ".rtf"; ".rtf" alone for an empty text.
+inline constexpr VueTexte DocumentParDéfaut = u"document.rtf";
+
+// The opening words of a text, with ".rtf"; "document.rtf" where there are none.
 Texte NomProposé(VueTexte texte);
 
 } // namespace tirelune

@@ -18,12 +18,11 @@ namespace {
 constexpr int TaillesProposées[] = {8, 9, 10, 11, 12, 14, 16, 18, 20, 22, 24, 26, 28, 36, 48, 72};
 constexpr double TailleMinimum = 1; // points
 constexpr double TailleMaximum = 400;
-constexpr int Retrait = 100;       // twips
-constexpr int CôtéMinimum = 1000;  // twips
-constexpr int LargeurListe = 4800; // twips
-constexpr int HauteurListe = 3600; // twips
-constexpr int DébutDuChemin = 5;   // in the caption of a recent file
-constexpr VueTexte DocumentParDéfaut = u"document.rtf";
+constexpr int Retrait = 100;             // twips
+constexpr int CôtéMinimum = 1000;        // twips
+constexpr int LargeurListe = 4800;       // twips
+constexpr int HauteurListe = 3600;       // twips
+constexpr std::size_t DébutDuChemin = 5; // in the caption of a recent file
 
 // The size that a typed text stands for, in half points; nothing when it is no size.
 std::optional<double> LireTaille(VueTexte saisie)
@@ -45,6 +44,26 @@ TexteRiche Extrait(const TexteRiche& texte, std::size_t début, std::size_t long
     return extrait;
 }
 
+// A recent file in the menu, where an "&" alone marks the access key.
+Texte Entrée(int rang, const Texte& chemin)
+{
+    Texte entrée = u" " + EnTexte(static_cast<long long>(rang)) + u" - ";
+    for (const char16_t c : chemin)
+        entrée.append(c == u'&' ? 2 : 1, c);
+    return entrée;
+}
+
+Texte CheminDeLEntrée(VueTexte entrée)
+{
+    Texte chemin;
+    for (auto i = DébutDuChemin; i < entrée.size(); ++i) {
+        chemin += entrée[i];
+        if (entrée[i] == u'&')
+            ++i;
+    }
+    return chemin;
+}
+
 // The file's name, extension included.
 Texte TitreDe(const Texte& fichier)
 {
@@ -58,7 +77,8 @@ Texte TitreDe(const Texte& fichier)
 frmEnseignant::frmEnseignant(frmTirelune& accueil)
     : Ecran(accueil.ApplicationDe(), "frmEnseignant", u"Enseignant"),
       tlbBoutons(*this, "tlbBoutons", Boutons()),
-      accueil_(accueil)
+      accueil_(accueil),
+      liste_(framePolices, txtPolices, scrlPolices, accueil.cmbPolices)
 {
     for (const int taille : TaillesProposées)
         cmbFontSize.AddItem(EnTexte(taille));
@@ -117,11 +137,9 @@ void frmEnseignant::RelierMenus()
 
 void frmEnseignant::RelierPolices()
 {
-    for (auto& ligne : txtPolices)
-        ligne.Locked = true;
-    for (int i = 1; i <= NombreLignes; ++i) {
+    for (int i = 1; i <= ListePolices::NombreLignes; ++i) {
         txtPolices(i).Click = [this, i] { txtPolices_Click(i); };
-        txtPolices(i).MouseMove = [this, i] { MettreEnEvidence(i); };
+        txtPolices(i).MouseMove = [this, i] { liste_.MettreEnEvidence(i); };
         txtPolices(i).KeyPress = [this, i](Touche& touche) { txtPolices_KeyPress(i, touche); };
     }
     flèchePolice.Click = [this] { flèchePolice_Click(); };
@@ -161,7 +179,7 @@ std::vector<Menu> frmEnseignant::Menus()
 Arrangement frmEnseignant::Disposer()
 {
     std::vector<Arrangement> lignes;
-    for (int i = 1; i <= NombreLignes; ++i)
+    for (int i = 1; i <= ListePolices::NombreLignes; ++i)
         lignes.emplace_back(txtPolices(i));
     return Colonne{
         tlbBoutons,
@@ -559,7 +577,7 @@ void frmEnseignant::ChargerRécents()
         return;
     for (int i = 0; i < mnuRécent.Nombre(); ++i) {
         const bool présent = i < récents.ListCount();
-        mnuRécent(i).Caption = présent ? u" " + EnTexte(i + 1LL) + u" - " + récents.List(i) : Texte{};
+        mnuRécent(i).Caption = présent ? Entrée(i + 1, récents.List(i)) : Texte{};
         mnuRécent(i).Visible = présent;
     }
     mnuSépa.Visible = récents.ListCount() > 0;
@@ -567,9 +585,9 @@ void frmEnseignant::ChargerRécents()
 
 void frmEnseignant::mnuRécent_Click(int i)
 {
+    const auto fichier = CheminDeLEntrée(mnuRécent(i).Caption); // a save puts another one there
     if (!DemanderEnregistrement())
         return;
-    const auto fichier = mnuRécent(i).Caption().substr(DébutDuChemin);
     if (!rtfTexte.LoadFile(EnChemin(fichier), true)) {
         Avertir(u"Je ne trouve pas le fichier sélectionné !", u"Fichier non trouvé");
         return;
@@ -693,6 +711,7 @@ void frmEnseignant::cmbFontSize_Click()
     GarderCopie();
     rtfTexte.SelFontSize = *taille;
     FormatChangé();
+    rtfTexte.SetFocus(); // typing goes on in that size
 }
 
 void frmEnseignant::ActualiserFormat()
@@ -739,49 +758,14 @@ void frmEnseignant::flèchePolice_Click()
         FermerPolices();
         return;
     }
-    auto& polices = accueil_.cmbPolices;
-    const auto actuelle = rtfTexte.SelFontName().value_or(Texte{});
-    const int place = actuelle.empty() ? 0 : polices.Chercher(actuelle);
-    scrlPolices.Max = std::max(0, polices.ListCount() - NombreLignes - 1); // the blank rows let the last font lead
-    scrlPolices.Value = std::clamp<int>(place, 0, scrlPolices.Max);
-    txtPolices(0).Text = actuelle;
-    RemplirPolices();
-    polices.Tag.clear();
-    framePolices.Visible = true;
-    MettreEnEvidence(1);
-}
-
-void frmEnseignant::RemplirPolices()
-{
-    const auto& polices = accueil_.cmbPolices;
-    for (int i = 1; i <= NombreLignes; ++i) {
-        const int place = scrlPolices.Value + i - 1;
-        txtPolices(i).Text = place < polices.ListCount() ? polices.List(place) : Texte{};
-        txtPolices(i).Police = txtPolices(i).Text;
-    }
+    txtPolices(0).Text = rtfTexte.SelFontName().value_or(Texte{});
+    liste_.Ouvrir(txtPolices(0).Text);
 }
 
 void frmEnseignant::scrlPolices_Change()
 {
-    RemplirPolices();
-    txtPolices(LigneEnEvidence()).SetFocus();
-}
-
-int frmEnseignant::LigneEnEvidence() const
-{
-    int ligne = NombreLignes;
-    while (ligne > 1 && txtPolices(ligne).BackColor != Noir)
-        --ligne;
-    return ligne;
-}
-
-void frmEnseignant::MettreEnEvidence(int ligne)
-{
-    for (int i = 1; i <= NombreLignes; ++i) {
-        txtPolices(i).BackColor = i == ligne ? Noir : Blanc;
-        txtPolices(i).ForeColor = i == ligne ? Blanc : Noir;
-    }
-    txtPolices(ligne).SetFocus();
+    liste_.Remplir();
+    txtPolices(liste_.LigneEnEvidence()).SetFocus();
 }
 
 void frmEnseignant::txtPolices_Click(int i)
@@ -798,30 +782,12 @@ void frmEnseignant::txtPolices_Click(int i)
 
 void frmEnseignant::txtPolices_KeyPress(int i, Touche& touche)
 {
-    switch (touche.Code) {
-    case Touche::Entrée:
+    if (touche.Code == Touche::Entrée)
         txtPolices_Click(i);
-        break;
-    case Touche::Bas:
-        i < NombreLignes ? MettreEnEvidence(i + 1) : scrlPolices.Déplacer(scrlPolices.Value + 1);
-        break;
-    case Touche::Haut:
-        i > 1 ? MettreEnEvidence(i - 1) : scrlPolices.Déplacer(scrlPolices.Value - 1);
-        break;
-    case Touche::PageSuivante:
-        scrlPolices.Déplacer(scrlPolices.Value + NombreLignes);
-        MettreEnEvidence(1);
-        break;
-    case Touche::PagePrécédente:
-        scrlPolices.Déplacer(scrlPolices.Value - NombreLignes);
-        MettreEnEvidence(1);
-        break;
-    case Touche::Echappement:
+    else if (touche.Code == Touche::Echappement)
         FermerPolices();
-        break;
-    default:
+    else if (!liste_.Déplacer(i, touche.Code))
         return;
-    }
     touche.Avaler();
 }
 

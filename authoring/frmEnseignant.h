@@ -2,6 +2,7 @@
 // The name of the text's file names its questionnaire and its dictionary.
 #pragma once
 #include "authoring/FichiersRécents.h"
+#include "authoring/ListePolices.h"
 #include "core/Ecran.h"
 #include "core/frmTirelune.h"
 
@@ -46,7 +47,8 @@ public:
     MenuOption mnuArrêter{*this, "mnuArrêter", u"               A&ccueil               "};
 
     Toolbar tlbBoutons;
-    Tableau<TextBox> txtPolices{*this, "txtPolices", NombreLignes + 1}; // 0: the current font; then the list's lines
+    Tableau<TextBox> txtPolices{*this, "txtPolices",
+                                ListePolices::NombreLignes + 1}; // 0: the current font; then the list's lines
     Button flèchePolice{*this, "flèchePolice", {.Caption = u"▼", .ToolTipText = u"Choisir une police"}};
     ComboBox cmbFontSize{*this, "cmbFontSize", {.ToolTipText = u"Taille des caractères", .Saisie = true}};
     Frame framePolices{*this, "framePolices", {.Visible = false}};
@@ -74,7 +76,6 @@ public:
     void GarderCopie();
 
 private:
-    static constexpr int NombreLignes = 7; // of the font list
     enum class Issue { Enregistré, Annulé, Echec };
     struct ActionBouton {
         std::string_view Clé; // empty: a gap between two groups
@@ -148,11 +149,8 @@ private:
     void OuvrirOutil(std::string_view nom);
     void OuvrirOutilDuTexte(std::string_view nom, Texte refus);
 
-    void RemplirPolices();
-    void MettreEnEvidence(int ligne);
-    [[nodiscard]] int LigneEnEvidence() const;
-
     frmTirelune& accueil_;
+    ListePolices liste_;
 };
 
 } // namespace tirelune

@@ -32,7 +32,8 @@ public:
 
     void Synchroniser() override
     {
-        action_.setText(EnAffichage(option_.Caption()));
+        if (!action_.isSeparator()) // a separator with a text shows it
+            action_.setText(EnAffichage(option_.Caption()));
         action_.setEnabled(option_.Enabled);
         action_.setVisible(option_.Visible);
         if (option_.Checked)

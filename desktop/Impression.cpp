@@ -3,6 +3,8 @@
 #include "desktop/Apparence.h"
 #include "desktop/FormatsQt.h"
 
+#include <QAbstractTextDocumentLayout>
+#include <QPainter>
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QTextDocument>
@@ -37,9 +39,21 @@ bool Impression::SélectionSeule() const
 
 void Impression::Imprimer(const TexteRiche& texte)
 {
+    static constexpr double Marge = 2 / 2.54 * 96; // pixels of a display; the layout takes them to the paper
     QTextDocument document;
+    document.documentLayout()->setPaintDevice(imprimante_.get());
+    document.setDocumentMargin(Marge);
     Composer(document, texte);
-    document.print(imprimante_.get());
+    const QSizeF page = imprimante_->pageLayout().paintRectPixels(imprimante_->resolution()).size();
+    document.setPageSize(page);
+    // Page by page: the toolkit's own printing puts a number under each, in letters too small to read.
+    QPainter peintre{imprimante_.get()};
+    for (int i = 0; peintre.isActive() && i < document.pageCount(); ++i) {
+        if (i > 0)
+            imprimante_->newPage();
+        peintre.translate(0, i > 0 ? -page.height() : 0);
+        document.drawContents(&peintre, {{0, i * page.height()}, page});
+    }
 }
 
 } // namespace tirelune

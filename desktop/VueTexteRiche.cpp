@@ -1,5 +1,6 @@
 #include "desktop/VueTexteRiche.h"
 
+#include "core/Collage.h"
 #include "desktop/Apparence.h"
 #include "desktop/Conversions.h"
 #include "desktop/FormatsQt.h"
@@ -26,6 +27,28 @@ namespace {
 bool FinitLigne(char16_t caractère)
 {
     return caractère == u'\r' || caractère == u'\n';
+}
+
+// How many characters two texts share at either end; a line end counts whole, or not at all.
+struct Bords {
+    std::size_t Devant = 0;
+    std::size_t Derrière = 0;
+};
+
+Bords Communs(VueTexte ancien, VueTexte nouveau)
+{
+    Bords bords;
+    const auto moindre = std::min(ancien.size(), nouveau.size());
+    while (bords.Devant < moindre && ancien[bords.Devant] == nouveau[bords.Devant])
+        ++bords.Devant;
+    if (bords.Devant > 0 && ancien[bords.Devant - 1] == u'\r')
+        --bords.Devant;
+    while (bords.Derrière < moindre - bords.Devant &&
+           ancien[ancien.size() - 1 - bords.Derrière] == nouveau[nouveau.size() - 1 - bords.Derrière])
+        ++bords.Derrière;
+    if (bords.Derrière > 0 && ancien[ancien.size() - bords.Derrière] == u'\n')
+        --bords.Derrière;
+    return bords;
 }
 
 } // namespace
@@ -171,10 +194,7 @@ protected:
 
     void insertFromMimeData(const QMimeData* source) override
     {
-        auto texte = source->text();
-        texte.replace(QChar{0x2019}, u'\'').replace(QChar{0x2018}, u'\'');
-        texte.replace(QChar{0x202F}, u' ').replace(QChar{0x2009}, u' ');
-        texte.replace(QStringLiteral("\r\n"), QStringLiteral("\n")).replace(u'\r', u'\n');
+        auto texte = EnQString(NormaliserCollage(DepuisQString(source->text())));
         texte.remove(QChar{GlypheMasque});
         if (vue_.boîte_.UneLigne)
             texte.replace(u'\n', u' ');
@@ -511,23 +531,14 @@ void VueTexteRiche::Reprendre(int position, int retirés, int ajoutés)
     const VueTexte ancien = VueTexte{texte}.substr(début, fin - début);
     retouches_.NoterMontrée(début, ancien.size(), arrivé.size());
     hôte_.Marquer(*this);
-    // What only was laid out anew is no edit.
-    std::size_t pareils = 0;
-    while (pareils < ancien.size() && pareils < arrivé.size() && ancien[pareils] == arrivé[pareils])
-        ++pareils;
-    if (pareils > 0 && ancien[pareils - 1] == u'\r')
-        --pareils;
-    std::size_t derrière = 0;
-    while (derrière < ancien.size() - pareils && derrière < arrivé.size() - pareils &&
-           ancien[ancien.size() - 1 - derrière] == arrivé[arrivé.size() - 1 - derrière])
-        ++derrière;
-    if (derrière > 0 && ancien[ancien.size() - derrière] == u'\n')
-        --derrière;
-    début += pareils;
-    const auto partis = ancien.size() - pareils - derrière;
-    arrivé = arrivé.substr(pareils, arrivé.size() - pareils - derrière);
-    if (partis == 0 && arrivé.empty())
+    if (ancien == arrivé) // laid out anew, or in another format
         return;
+    // What the user had chosen is replaced whole, even by what begins as it did.
+    const bool choisi = boîte_.SelLength() > 0 && boîte_.SelStart() == début && boîte_.SelLength() == ancien.size();
+    const auto bords = choisi ? Bords{} : Communs(ancien, arrivé);
+    début += bords.Devant;
+    const auto partis = ancien.size() - bords.Devant - bords.Derrière;
+    arrivé = arrivé.substr(bords.Devant, arrivé.size() - bords.Devant - bords.Derrière);
     const auto format = FormatTapé(début, partis, arrivé);
     boîte_.Editer(début, partis, TexteRiche{std::move(arrivé), format});
 }

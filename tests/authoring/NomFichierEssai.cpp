@@ -18,7 +18,7 @@ TEST(NomFichier, CoupeAuPremierCaractèreQuiNeConvientPas)
 
 TEST(NomFichier, ToutesLesLettresAccentuéesPrévuesConviennent)
 {
-    EXPECT_EQ(CouperNomFichier(u"àâçéèêëîïôöûü"), u"àâçéèêëîïôöûü");
+    EXPECT_EQ(CouperNomFichier(u"azAZ 'àâçéèêëîïôöûü"), u"azAZ 'àâçéèêëîïôöûü");
 }
 
 TEST(NomFichier, ProposeLesPremiersMots)
@@ -28,12 +28,13 @@ TEST(NomFichier, ProposeLesPremiersMots)
     EXPECT_EQ(NomProposé(u"Le chat \r\ndort"), u"Le chat.rtf");
 }
 
-TEST(NomFichier, TexteVideOuSansDébutDonneLExtensionSeule)
+TEST(NomFichier, TexteVideOuSansDébutSAppelleDocument)
 {
-    EXPECT_EQ(NomProposé(u""), u".rtf");
-    EXPECT_EQ(NomProposé(u"     "), u".rtf");
-    EXPECT_EQ(NomProposé(u"\r\nLe chat"), u".rtf");
-    EXPECT_EQ(NomProposé(u"\tLe chat"), u".rtf");
+    EXPECT_EQ(NomProposé(u""), u"document.rtf");
+    EXPECT_EQ(NomProposé(u"     "), u"document.rtf");
+    EXPECT_EQ(NomProposé(u"\r\nLe chat"), u"document.rtf");
+    EXPECT_EQ(NomProposé(u"\tLe chat"), u"document.rtf");
+    EXPECT_EQ(NomProposé(u"1er jour"), u"document.rtf");
 }
 
 } // namespace tirelune

@@ -783,12 +783,12 @@ TEST(Editeur, EnregistrerSousCorrigeAussi)
     EXPECT_EQ(banc.plateforme.repeints, 1);
 }
 
-TEST(Editeur, UnDocumentVideProposeLExtensionSeule)
+TEST(Editeur, UnDocumentVideProposeDocument)
 {
     BancEditeur banc;
     banc.AnnoncerFichier(u"");
     banc.écran.mnuEnregistrer.Cliquer();
-    EXPECT_EQ(banc.plateforme.dialogues.at(0).NomFichier, u".rtf");
+    EXPECT_EQ(banc.plateforme.dialogues.at(0).NomFichier, u"document.rtf");
     EXPECT_TRUE(banc.Existe("document.rtf"));
     EXPECT_EQ(banc.état.TitreFichierTexte, u"document");
 }
@@ -940,6 +940,36 @@ TEST(Editeur, UnRécentDemandeDAbordPourLesChangements)
     banc.AnnoncerBoîte(Question, Réponse::Oui);
     banc.écran.mnuRécent(0).Cliquer();
     EXPECT_EQ(banc.écran.rtfTexte.Text(), u"ba");
+}
+
+// The save puts a new path at the top, and what was clicked in another place.
+TEST(Editeur, UnRécentRestéCeluiQuiEtaitCliqué)
+{
+    BancEditeur banc;
+    for (const auto* nom : {"un.rtf", "deux.rtf"})
+        banc.Ecrire(nom, EcrireRtf(TexteRiche{DepuisUtf8(nom)}));
+    banc.EcrireRécents(EnUtf8(banc.CheminDe("un.rtf")) + "\r\n" + EnUtf8(banc.CheminDe("deux.rtf")) + "\r\n");
+    banc.écran.ChargerRécents();
+    banc.Taper(u"neuf");
+    banc.AnnoncerBoîte(Question, Réponse::Oui);
+    banc.AnnoncerFichier(banc.CheminDe("neuf.rtf"));
+    banc.écran.mnuRécent(1).Cliquer();
+    EXPECT_TRUE(banc.Existe("neuf.rtf"));
+    EXPECT_EQ(banc.écran.rtfTexte.Text(), u"deux.rtf");
+    EXPECT_EQ(banc.état.NomFichierTexte, banc.CheminDe("deux.rtf"));
+}
+
+TEST(Editeur, UneEsperluetteDUnRécentSeVoitEtSOuvre)
+{
+    BancEditeur banc;
+    banc.Ecrire("chat & chien && co &.rtf", EcrireRtf(TexteRiche{u"miaou"}));
+    const auto chemin = banc.CheminDe("chat & chien && co &.rtf");
+    banc.EcrireRécents(EnUtf8(chemin) + "\r\n");
+    banc.écran.ChargerRécents();
+    EXPECT_EQ(banc.écran.mnuRécent(0).Caption, Entrée(1, banc.CheminDe("chat && chien &&&& co &&.rtf")));
+    banc.écran.mnuRécent(0).Cliquer();
+    EXPECT_EQ(banc.écran.rtfTexte.Text(), u"miaou");
+    EXPECT_EQ(banc.état.NomFichierTexte, chemin);
 }
 
 TEST(Editeur, UnRécentNePerdPasLeTexteQuiNAPasPuEtreEcrit)
@@ -1277,6 +1307,40 @@ TEST(Editeur, LaTailleChoisieVaALaSélectionEtGardeUneCopie)
     EXPECT_EQ(banc.écran.rtfTexte.SelFontSize(), 12);
 }
 
+TEST(Editeur, LaTailleChoisieRendLeFocusAuTexteEtSeMontre)
+{
+    BancEditeur banc;
+    banc.écran.rtfTexte.Text(u"Le chat");
+    banc.écran.rtfTexte.Sélectionner(0, 2);
+    banc.écran.cmbFontSize.SetFocus();
+    banc.écran.cmbFontSize.Saisir(u"x");
+    banc.écran.cmbFontSize.Taper({.Code = Touche::Entrée});
+    EXPECT_EQ(banc.écran.Focus(), &banc.écran.cmbFontSize) << "une taille refusée se retape";
+    banc.écran.cmbFontSize.Saisir(u"12,4");
+    banc.écran.cmbFontSize.Taper({.Code = Touche::Entrée});
+    EXPECT_EQ(banc.écran.Focus(), &banc.écran.rtfTexte);
+    EXPECT_EQ(banc.écran.cmbFontSize.Text, u"12,5") << "la boîte montre la taille donnée";
+    EXPECT_TRUE(banc.état.TexteModifié);
+    banc.écran.cmbFontSize.SetFocus();
+    banc.écran.cmbFontSize.Choisir(0);
+    EXPECT_EQ(banc.écran.Focus(), &banc.écran.rtfTexte);
+    EXPECT_EQ(banc.écran.rtfTexte.SelFontSize(), 8);
+}
+
+TEST(Editeur, CeQuiEstColléDerrièreUnMotMarquéNeLEstPas)
+{
+    BancEditeur banc;
+    banc.écran.rtfTexte.TextRTF(Marqué(u"Le"));
+    banc.écran.rtfTexte.SelStart(2);
+    banc.plateforme.pressePapiers = u" chat";
+    banc.écran.mnuColler.Cliquer();
+    EXPECT_EQ(MotsMarqués(banc.écran.rtfTexte.TextRTF()), std::vector<Texte>{u"Le"});
+    banc.écran.rtfTexte.SelStart(1);
+    banc.plateforme.pressePapiers = u"s";
+    banc.écran.mnuColler.Cliquer();
+    EXPECT_EQ(MotsMarqués(banc.écran.rtfTexte.TextRTF()), std::vector<Texte>{u"Lse"});
+}
+
 TEST(Editeur, LaTailleTapéeVautALEntréeAuDemiPointPrès)
 {
     BancEditeur banc;
@@ -1403,8 +1467,8 @@ TEST(Editeur, UnePoliceQueLaMachineNAPasGardeSonNomDansLeFichier)
 namespace {
 
 // Fonts "P01" to "P20", and what the list's lines show.
-struct ListePolices : BancEditeur {
-    ListePolices() : BancEditeur(Vingt())
+struct BancPolices : BancEditeur {
+    BancPolices() : BancEditeur(Vingt())
     {
         écran.rtfTexte.TextRTF(TexteRiche{u"Le chat", {.Police = u"P05"}});
         écran.rtfTexte.Sélectionner(0, 2);
@@ -1451,7 +1515,7 @@ struct ListePolices : BancEditeur {
 
 TEST(ListePolices, SOuvreSurLaPoliceDeLaSélection)
 {
-    ListePolices banc;
+    BancPolices banc;
     EXPECT_TRUE(banc.écran.framePolices.Visible);
     EXPECT_EQ(banc.écran.scrlPolices.Max, 19); // twenty fonts and seven blank rows, less eight
     EXPECT_EQ(banc.écran.scrlPolices.Value, 4);
@@ -1465,7 +1529,7 @@ TEST(ListePolices, SOuvreSurLaPoliceDeLaSélection)
 
 TEST(ListePolices, LaFlècheLaRefermeEtRendLeFocusAuTexte)
 {
-    ListePolices banc;
+    BancPolices banc;
     banc.écran.flèchePolice.Cliquer();
     EXPECT_FALSE(banc.écran.framePolices.Visible);
     EXPECT_EQ(banc.écran.Focus(), &banc.écran.rtfTexte);
@@ -1473,7 +1537,7 @@ TEST(ListePolices, LaFlècheLaRefermeEtRendLeFocusAuTexte)
 
 TEST(ListePolices, UnClicDonneLaPoliceALaSélection)
 {
-    ListePolices banc;
+    BancPolices banc;
     banc.écran.txtPolices(3).Cliquer(0);
     EXPECT_EQ(banc.écran.rtfTexte.SelFontName(), u"P07");
     EXPECT_EQ(banc.écran.rtfTexte.TextRTF().FormatEn(3).Police, u"P05");
@@ -1485,7 +1549,7 @@ TEST(ListePolices, UnClicDonneLaPoliceALaSélection)
 
 TEST(ListePolices, AuCurseurLaPoliceVautPourCeQuiVient)
 {
-    ListePolices banc;
+    BancPolices banc;
     banc.écran.rtfTexte.Sélectionner(7, 0);
     banc.écran.flèchePolice.Cliquer();
     banc.écran.txtPolices(2).Cliquer(0);
@@ -1497,14 +1561,14 @@ TEST(ListePolices, AuCurseurLaPoliceVautPourCeQuiVient)
 
 TEST(ListePolices, LaSourisDéplaceLaLigneNoire)
 {
-    ListePolices banc;
+    BancPolices banc;
     banc.écran.txtPolices(6).MouseMove();
     EXPECT_EQ(banc.Ligne(), 6);
 }
 
 TEST(ListePolices, LesFlèchesDescendentPuisDéfilent)
 {
-    ListePolices banc;
+    BancPolices banc;
     for (int i = 2; i <= 7; ++i) {
         banc.Touche_(Touche::Bas);
         EXPECT_EQ(banc.Ligne(), i);
@@ -1518,7 +1582,7 @@ TEST(ListePolices, LesFlèchesDescendentPuisDéfilent)
 
 TEST(ListePolices, EnBasElleSArrêteSurLaDernièrePolice)
 {
-    ListePolices banc;
+    BancPolices banc;
     for (int i = 0; i < 50; ++i)
         banc.Touche_(Touche::Bas);
     EXPECT_EQ(banc.écran.scrlPolices.Value, 19);
@@ -1527,7 +1591,7 @@ TEST(ListePolices, EnBasElleSArrêteSurLaDernièrePolice)
 
 TEST(ListePolices, LesFlèchesMontentPuisDéfilentJusquEnHaut)
 {
-    ListePolices banc;
+    BancPolices banc;
     banc.Touche_(Touche::Bas);
     banc.Touche_(Touche::Haut);
     EXPECT_EQ(banc.Ligne(), 1);
@@ -1542,7 +1606,7 @@ TEST(ListePolices, LesFlèchesMontentPuisDéfilentJusquEnHaut)
 
 TEST(ListePolices, LesPagesVontDeSeptEnSeptEtReviennentALaPremièreLigne)
 {
-    ListePolices banc;
+    BancPolices banc;
     banc.Touche_(Touche::Bas);
     banc.Touche_(Touche::PageSuivante);
     EXPECT_EQ(banc.écran.scrlPolices.Value, 11);
@@ -1560,7 +1624,7 @@ TEST(ListePolices, LesPagesVontDeSeptEnSeptEtReviennentALaPremièreLigne)
 
 TEST(ListePolices, EntréeVautUnClicEtEchapFerme)
 {
-    ListePolices banc;
+    BancPolices banc;
     banc.Touche_(Touche::Bas);
     banc.Touche_(Touche::Entrée);
     EXPECT_EQ(banc.écran.rtfTexte.SelFontName(), u"P06");
@@ -1572,14 +1636,14 @@ TEST(ListePolices, EntréeVautUnClicEtEchapFerme)
 
 TEST(ListePolices, LesAutresTouchesPassent)
 {
-    ListePolices banc;
+    BancPolices banc;
     EXPECT_TRUE(banc.écran.txtPolices(1).Taper({.Caractère = u'a', .Code = 'A'}));
     EXPECT_TRUE(banc.écran.framePolices.Visible);
 }
 
 TEST(ListePolices, LeDéfilementRemplitLesLignesEtGardeLaLigneNoire)
 {
-    ListePolices banc;
+    BancPolices banc;
     banc.écran.txtPolices(5).MouseMove();
     banc.écran.scrlPolices.SetFocus();
     banc.écran.scrlPolices.Déplacer(0);
@@ -1589,7 +1653,7 @@ TEST(ListePolices, LeDéfilementRemplitLesLignesEtGardeLaLigneNoire)
 
 TEST(ListePolices, UneLigneVideNeDonnePasDePolice)
 {
-    ListePolices banc;
+    BancPolices banc;
     banc.écran.scrlPolices.Déplacer(19);
     banc.écran.txtPolices(7).Cliquer(0);
     EXPECT_EQ(banc.écran.rtfTexte.SelFontName(), u"P05");
@@ -1599,7 +1663,7 @@ TEST(ListePolices, UneLigneVideNeDonnePasDePolice)
 
 TEST(ListePolices, UnePoliceInconnueOuMixteOuvreEnHaut)
 {
-    ListePolices banc;
+    BancPolices banc;
     banc.écran.flèchePolice.Cliquer();
     banc.écran.rtfTexte.SelFontName = u"Inconnue";
     banc.écran.ActualiserFormat();
