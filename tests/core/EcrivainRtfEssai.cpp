@@ -140,6 +140,22 @@ TEST(EcrivainRtf, UneDemiePaireDevientUnCarréDeRemplacement)
     EXPECT_EQ(LireRtf(EcrireRtf(TexteRiche{moitiés}))->Caractères(), u"\uFFFDa\uFFFD\uFFFD\uFFFD");
 }
 
+TEST(EcrivainRtf, UneMoitiéDePaireNeSEmpruntePasUneVoisine)
+{
+    const auto relire = [](const Texte& texte) { return LireRtf(EcrireRtf(TexteRiche{texte}))->Caractères(); };
+    EXPECT_EQ(relire({0xD83E, 0xDD89, 0xDD89}), (Texte{0xD83E, 0xDD89, 0xFFFD}));
+    EXPECT_EQ(relire({0xD83E, 0xD83E, 0xDD89}), (Texte{0xFFFD, 0xD83E, 0xDD89}));
+    EXPECT_EQ(relire({0xDD89}), u"\uFFFD");
+    EXPECT_EQ(relire({0xD83E}), u"\uFFFD");
+    EXPECT_EQ(relire({0xDD89, 0xD83E}), u"\uFFFD\uFFFD");
+    // The first and the last of both halves, and what stands beside them.
+    EXPECT_EQ(relire({0xD800, 0xDC00, 0xDBFF, 0xDFFF}), (Texte{0xD800, 0xDC00, 0xDBFF, 0xDFFF}));
+    EXPECT_EQ(relire({0xD7FF, 0xDC00, 0xDBFF, 0xE000}), u"\uD7FF\uFFFD\uFFFD\uE000");
+    TexteRiche coupée{Texte{0xD83E, 0xDD89}};
+    coupée.Formater(1, 1, [](Format& format) { format.Gras = true; });
+    EXPECT_TRUE(*LireRtf(EcrireRtf(coupée)) == coupée); // its halves may differ in format
+}
+
 TEST(EcrivainRtf, LesFormatsSeRelisent)
 {
     TexteRiche texte{u"gras italique souligné barré rouge grand police"};

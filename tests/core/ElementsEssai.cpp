@@ -351,6 +351,40 @@ TEST(Eléments, ChoisirHorsDeLaListeNeFaitRien)
     EXPECT_EQ(écran.cmbUn.Text, u"");
 }
 
+TEST(Eléments, UneListeVisibleNeDitQueLesChoixFaits)
+{
+    Banc banc;
+    auto& écran = banc.Ouvrir<Essai>();
+    écran.lstUne.AddItems({u"a", u"b"});
+    int clics = 0;
+    écran.lstUne.Click = [&] { ++clics; };
+    for (const int index : {-1, 2, 1000})
+        écran.lstUne.Choisir(index);
+    EXPECT_EQ(écran.lstUne.ListIndex, -1);
+    EXPECT_EQ(clics, 0);
+    écran.lstUne.Choisir(0);
+    écran.lstUne.Choisir(1);
+    EXPECT_EQ(écran.lstUne.ListIndex, 1);
+    écran.lstUne.Enabled = false;
+    écran.lstUne.Choisir(0);
+    EXPECT_EQ(écran.lstUne.ListIndex, 1);
+    EXPECT_EQ(clics, 2);
+}
+
+TEST(Eléments, UnTraitEstTelQuIlEstDonné)
+{
+    Banc banc;
+    auto& écran = banc.Ouvrir<Essai>();
+    const Line trait{écran, "trait", {1, 2, 3, 4, Rouge, 5}, false};
+    EXPECT_EQ(trait.X1, 1);
+    EXPECT_EQ(trait.Y1, 2);
+    EXPECT_EQ(trait.X2, 3);
+    EXPECT_EQ(trait.Y2, 4);
+    EXPECT_EQ(trait.BorderColor, Rouge);
+    EXPECT_EQ(trait.BorderWidth, 5);
+    EXPECT_FALSE(trait.Visible);
+}
+
 TEST(Eléments, SeuleUneListeASaisiePrendUnTexteTapé)
 {
     Banc banc;

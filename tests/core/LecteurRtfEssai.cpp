@@ -202,6 +202,16 @@ TEST(LecteurRtf, LUtf8DUnDocumentSeLit)
     EXPECT_EQ(Brut("{\\rtf1\\ansi\\ansicpg65001 \xC3\xA9\\'c3\\'a9\xE2\x80\x99\xF0\x9F\xA6\x89\xC3}"),
               u"éé’🦉\uFFFD");
     EXPECT_EQ(Brut("{\\rtf1\\ansi\\ansicpg65001 \xED\xA0\x80\xC0\x80x}"), u"\uFFFD\uFFFD\uFFFDx");
+    // The first and the last code of each length, and the ones that are longer than they need be.
+    EXPECT_EQ(Brut("{\\rtf1\\ansi\\ansicpg65001 \xC2\x80\xDF\xBF\xE0\xA0\x80\xEF\xBF\xBD}"),
+              (Texte{0x80, 0x7FF, 0x800, 0xFFFD}));
+    EXPECT_EQ(Brut("{\\rtf1\\ansi\\ansicpg65001 \xF0\x90\x80\x80\xF4\x8F\xBF\xBF}"),
+              (Texte{0xD800, 0xDC00, 0xDBFF, 0xDFFF}));
+    for (const char* trop : {"\xC1\xBF", "\xE0\x9F\xBF", "\xF0\x8F\xBF\xBF", "\xF4\x90\x80\x80"}) {
+        const auto lu = Brut(std::string{"{\\rtf1\\ansi\\ansicpg65001 "} + trop + "x}");
+        EXPECT_EQ(lu.back(), u'x');
+        EXPECT_EQ(lu.find_first_not_of(u'\uFFFD'), lu.size() - 1);
+    }
 }
 
 TEST(LecteurRtf, LesCodesUnicodeRemplacentLeurRepli)

@@ -25,6 +25,11 @@ TEST(Texte, CasseDesLettresFrançaises)
     EXPECT_EQ(Majuscules(u"šžāĺńźĳłșț"), u"ŠŽĀĹŃŹĲŁȘȚ");
     EXPECT_EQ(Minuscule(u'İ'), u'İ');
     EXPECT_EQ(Majuscule(u'ı'), u'ı');
+    // Each range ends where it ends.
+    EXPECT_EQ(Minuscules(u"@AZ[ÀÖØÞß\u0100\u0136\u0138\u0139\u0147\u0149\u014A\u0176\u0178\u0179\u017D\u017F\u0180"),
+              u"@az[àöøþß\u0101\u0137\u0138\u013A\u0148\u0149\u014B\u0177\u00FF\u017A\u017E\u017F\u0180");
+    EXPECT_EQ(Majuscules(u"`az{ßàöøþ\u0101\u0137\u0138\u013A\u0148\u0149\u014B\u0177\u00FF\u017A\u017E\u017F\u0180"),
+              u"`AZ{ßÀÖØÞ\u0100\u0136\u0138\u0139\u0147\u0149\u014A\u0176\u0178\u0179\u017D\u017F\u0180");
 }
 
 TEST(Texte, MinusculeDefaitMajusculeDansToutLeJeu)
@@ -64,6 +69,28 @@ TEST(Texte, Utf8AbîméDonneLeCaractèreDeRemplacement)
                                            "a");
 }
 
+TEST(Texte, Utf8ALaLimiteDeChaqueLongueur)
+{
+    EXPECT_EQ(DepuisUtf8("\x7F\xC2\x80\xDF\xBF\xE0\xA0\x80\xEF\xBF\xBF"), (Texte{0x7F, 0x80, 0x7FF, 0x800, 0xFFFF}));
+    EXPECT_EQ(DepuisUtf8("\xF0\x90\x80\x80\xF4\x8F\xBF\xBF"), (Texte{0xD800, 0xDC00, 0xDBFF, 0xDFFF}));
+    EXPECT_EQ(DepuisUtf8("\xC1\xBF"), u"\uFFFD");         // overlong by one
+    EXPECT_EQ(DepuisUtf8("\xE0\x9F\xBF"), u"\uFFFD");     // overlong by one
+    EXPECT_EQ(DepuisUtf8("\xF0\x8F\xBF\xBF"), u"\uFFFD"); // overlong by one
+    EXPECT_EQ(DepuisUtf8("\xED\x9F\xBF\xED\xA0\x80\xED\xBF\xBF\xEE\x80\x80"), u"\uD7FF\uFFFD\uFFFD\uE000");
+    EXPECT_EQ(DepuisUtf8("\xF8\x88\x80\x80\x80"), u"\uFFFD\uFFFD\uFFFD\uFFFD\uFFFD"); // no such first byte
+    EXPECT_EQ(EnUtf8(Texte{0x7F, 0x80, 0x7FF, 0x800, 0xFFFF}), "\x7F\xC2\x80\xDF\xBF\xE0\xA0\x80\xEF\xBF\xBF");
+    EXPECT_EQ(EnUtf8(Texte{0xD800, 0xDC00, 0xDBFF, 0xDFFF}), "\xF0\x90\x80\x80\xF4\x8F\xBF\xBF");
+}
+
+TEST(Texte, UneMoitiéDePaireSeuleSEcritEnRemplacement)
+{
+    const std::string remplacement = "\xEF\xBF\xBD";
+    EXPECT_EQ(EnUtf8(Texte{0xD800, 0xD800, 0xDC00}), remplacement + "\xF0\x90\x80\x80");
+    EXPECT_EQ(EnUtf8(Texte{0xDBFF, 0xE000}), remplacement + "\xEE\x80\x80");
+    EXPECT_EQ(EnUtf8(Texte{0xDFFF, 0xDC00}), remplacement + remplacement);
+    EXPECT_EQ(EnUtf8(Texte{0xDBFF}), remplacement);
+}
+
 TEST(Texte, JoindreNeDoublePasLeSéparateur)
 {
     EXPECT_EQ(Joindre(u"/a", u"b"), u"/a/b");
@@ -88,6 +115,12 @@ TEST(Texte, ValeurLitLeNombreEnTête)
     EXPECT_EQ(Valeur(u"abc"), 0);
     EXPECT_EQ(Valeur(u"-"), 0);
     EXPECT_EQ(Valeur(u".5"), 0.5);
+    EXPECT_EQ(Valeur(u"1.5.5"), 1.5);
+    EXPECT_EQ(Valeur(u"--2"), 0);
+    EXPECT_EQ(Valeur(u"0/:9"), 0);
+    EXPECT_EQ(Valeur(u"9/0"), 9);
+    EXPECT_EQ(Valeur(u"9:0"), 9);
+    EXPECT_EQ(Valeur(Texte(400, u'9')), 0); // out of all measure
 }
 
 TEST(Texte, LireNombreVeutToutLeTexte)
@@ -95,6 +128,8 @@ TEST(Texte, LireNombreVeutToutLeTexte)
     EXPECT_EQ(LireNombre(u" 6,25 "), 6.25);
     EXPECT_EQ(LireNombre(u"6.25"), 6.25);
     EXPECT_EQ(LireNombre(u"10"), 10);
+    EXPECT_EQ(LireNombre(u"-0,5"), -0.5);
+    EXPECT_EQ(LireNombre(u"+90"), 90);
     for (const auto* texte : {u"", u" ", u"a", u"1a", u"1,2.3", u",", u"+", u"1 2"})
         EXPECT_FALSE(LireNombre(texte).has_value()) << EnUtf8(texte);
 }
