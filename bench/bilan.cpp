@@ -1,5 +1,5 @@
 // The pupil's file: signing in with many texts behind, saving them, and recording one score down to the disk.
-#include "bench/PlateformeMuette.h"
+#include "tests/support/PlateformeMuette.h"
 #include "core/FichierChamps.h"
 #include "followup/EnregistrerNotes.h"
 #include "followup/frmExercices.h"

@@ -1,7 +1,7 @@
 // What a key costs in the editor's core, in the middle of a long text: the edit, the events that follow it, and the
 // format shown anew; beside it, what the actions on the whole text cost.
 #include "authoring/frmEnseignant.h"
-#include "bench/PlateformeMuette.h"
+#include "tests/support/PlateformeMuette.h"
 
 #include <benchmark/benchmark.h>
 

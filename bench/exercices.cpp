@@ -1,5 +1,5 @@
 // The exercises played in the text itself, without their window: opening on a long text, and the widest move.
-#include "bench/PlateformeMuette.h"
+#include "tests/support/PlateformeMuette.h"
 #include "exercises/comprehension/frmClosures.h"
 #include "exercises/comprehension/frmTexteMasqué.h"
 #include "exercises/vocabulary/frmTrous.h"

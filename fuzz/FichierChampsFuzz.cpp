@@ -1,19 +1,14 @@
 // Any bytes read as fields, in both modes; what is written of them reads back equal.
 #include "core/FichierChamps.h"
+#include "fuzz/Agrandir.h"
+#include "fuzz/Exiger.h"
 
 #include <algorithm>
 #include <cstdint>
-#include <cstdlib>
 
 using namespace tirelune;
 
 namespace {
-
-void Exiger(bool vrai)
-{
-    if (!vrai)
-        std::abort();
-}
 
 bool TientSurUneLigne(const Texte& champ)
 {
@@ -30,17 +25,24 @@ void RelireEgal(std::vector<Texte> champs, Valeurs valeurs)
     Exiger(DécouperChamps(*octets, valeurs) == champs);
 }
 
-} // namespace
-
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* données, std::size_t taille)
+void Essayer(std::string_view octets)
 {
-    const std::string_view octets{reinterpret_cast<const char*>(données), taille};
     for (const auto valeurs : {Valeurs::SurPlusieursLignes, Valeurs::SurUneLigne}) {
         auto champs = DécouperChamps(octets, valeurs);
         if (valeurs == Valeurs::SurUneLigne)
             Exiger(std::all_of(champs.begin(), champs.end(), TientSurUneLigne));
         RelireEgal(std::move(champs), valeurs);
     }
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* données, std::size_t taille)
+{
+    const std::string_view octets{reinterpret_cast<const char*>(données), taille};
+    Essayer(octets);
+    if (VautEnGrand(octets))
+        Essayer(Agrandir({}, octets));
     // Values as a screen would hand them over: the input cut at every NUL.
     std::vector<Texte> champs{Texte{}};
     for (const char octet : octets) {

@@ -1,4 +1,5 @@
-// A platform that answers nothing and shows nothing, for measuring what the screens do by themselves.
+// A platform that answers nothing and shows nothing, for measuring what the screens do by themselves, and for feeding
+// them.
 #pragma once
 #include "core/Plateforme.h"
 
