@@ -206,9 +206,13 @@ def sans_esperluette(libelle):
 class Pilote:
     """The program running on a display of its own, and the hands and eyes of its user."""
 
-    def __init__(self, nom, taille=(1024, 768), preparer=None):
-        """preparer(folder) may add files to the fresh folder before the program starts in it."""
+    def __init__(self, nom, taille=(1024, 768), preparer=None, enveloppe=()):
+        """preparer(folder) may add files to the fresh folder before the program starts in it.
+
+        enveloppe: a command that runs the program, as `env NAME=VALUE`, and becomes it.
+        """
         self.nom = nom
+        self.enveloppe = enveloppe
         self.reussis = self.echoues = self.numero_capture = 0
         self.captures = os.path.join(CAPTURES, nom)
         shutil.rmtree(self.captures, ignore_errors=True)
@@ -244,9 +248,13 @@ class Pilote:
         os.close(lire)
         os.environ.update(environnement)
         preparer_atspi()
-        with open(self.journal, "wb") as journal:
-            self.programme = demarrer([os.path.join(self.racine, "tirelune")], cwd=self.maison,
-                                      env=environnement, stdout=journal, stderr=journal)
+        self.lancer_programme()
+
+    def lancer_programme(self):
+        """Start the program, for the first time or again, and wait until its first window has the keyboard."""
+        with open(self.journal, "ab") as journal:
+            self.programme = demarrer([*self.enveloppe, os.path.join(self.racine, "tirelune")], cwd=self.maison,
+                                      env=self.ecran.environnement, stdout=journal, stderr=journal)
         self.application = self.jusqu_a(self._trouver_application, "the program shows itself to assistive tools")
         self.jusqu_a(lambda: any(f.etat("ACTIVE") for f in self.fenetres()), "the program has the keyboard")
 
