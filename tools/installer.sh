@@ -12,7 +12,7 @@ paquets() {
         essais) echo python3 clang-format clang-tidy ;;
         bout-en-bout)
             echo python3 python3-gi gir1.2-atspi-2.0 at-spi2-core dbus-daemon xvfb xdotool x11-xkb-utils openbox \
-                imagemagick
+                imagemagick libxtst6 strace
             ;;
         fuzz) echo clang libclang-rt-dev ;;
         traitements-de-texte) echo python3 libreoffice-writer-nogui abiword ;;
