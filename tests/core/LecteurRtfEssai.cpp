@@ -222,6 +222,7 @@ TEST(LecteurRtf, LesCodesUnicodeRemplacentLeurRepli)
     EXPECT_EQ(Corps("\\u233\\bin3 }}}a"), u"éa");
     EXPECT_EQ(Corps("\\uc99999\\u233 abc"), u"é");
     EXPECT_EQ(Corps("\\uc-4\\u233abc"), u"éabc");
+    EXPECT_EQ(Corps("\\uc2\\uc\\u233?abc"), u"éabc"); // without a number: one
 }
 
 TEST(LecteurRtf, LesCodesImpossiblesDeviennentUnCarréDeRemplacement)

@@ -185,6 +185,20 @@ TEST(TexteRiche, FormaterRetoucheChaqueTrancheUneFois)
                                                      {u"f", false, CouleurAuto}}));
 }
 
+TEST(TexteRiche, FormaterUneÉtendueVideNeToucheARien)
+{
+    TexteRiche texte{u"un deux"};
+    const auto avant = texte;
+    int retouches = 0;
+    for (const auto& [début, longueur] : {std::pair{0, 0}, {3, 0}, {7, 0}, {7, 5}, {100, 5}})
+        texte.Formater(static_cast<std::size_t>(début), static_cast<std::size_t>(longueur), [&](Format& format) {
+            format.Gras = true;
+            ++retouches;
+        });
+    EXPECT_EQ(retouches, 0);
+    EXPECT_TRUE(texte == avant);
+}
+
 TEST(TexteRiche, UneFinDeLigneNAQuUnFormat)
 {
     TexteRiche texte{u"a\r\nb"};
