@@ -1,8 +1,8 @@
 // The pupil's file: signing in with many texts behind, saving them, and recording one score down to the disk.
-#include "tests/support/PlateformeMuette.h"
 #include "core/FichierChamps.h"
 #include "followup/EnregistrerNotes.h"
 #include "followup/frmExercices.h"
+#include "tests/support/PlateformeMuette.h"
 
 #include <benchmark/benchmark.h>
 

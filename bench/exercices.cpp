@@ -1,8 +1,8 @@
 // The exercises played in the text itself, without their window: opening on a long text, and the widest move.
-#include "tests/support/PlateformeMuette.h"
 #include "exercises/comprehension/frmClosures.h"
 #include "exercises/comprehension/frmTexteMasqué.h"
 #include "exercises/vocabulary/frmTrous.h"
+#include "tests/support/PlateformeMuette.h"
 
 #include <benchmark/benchmark.h>
 
