@@ -197,7 +197,7 @@ protected:
         auto texte = EnQString(NormaliserCollage(DepuisQString(source->text())));
         texte.remove(QChar{GlypheMasque});
         if (vue_.boîte_.UneLigne)
-            texte.replace(u'\n', u' ');
+            texte.replace(QStringLiteral("\r\n"), QStringLiteral(" "));
         textCursor().insertText(texte);
         ensureCursorVisible();
     }

@@ -241,10 +241,10 @@ TEST(SauverBilan, EcritureQuiEchoueAprèsOuvertureNommeLeFichier)
 TEST(SauverBilan, CeQuUnFichierNePeutPasGarderLaisseLAncienEnPlace)
 {
     Banc banc;
-    banc.plateforme.séparateur = u'٫'; // no place in the file
     banc.ChargerTexte(u"Un texte.");
     banc.Ecrire("Léa.bil", "ancien");
     Noter(banc, 0, 6.5F);
+    banc.Choix().fgRésultats.TextMatrix(1, ColonneTitre, u"Łódź"); // no place in the file
     banc.AnnoncerBoîte(u"Tes résultats contiennent un caractère que leur fichier ne peut pas garder…");
     EXPECT_FALSE(SauverBilan(banc.Choix()));
     EXPECT_FALSE(banc.Choix().BilanEnregistré);
