@@ -34,6 +34,10 @@ enum class Destination : std::uint8_t {
     Sautée,
 };
 
+// The sign that lets readers skip a group whose first word they don't know; elsewhere it lets them skip no more than
+// that word.
+enum class Etoile : std::uint8_t { Aucune, EnTête, Egarée };
+
 enum class Classe : std::uint8_t { Simple, Haute, Ignorée, Barre, Ouvrante, Fermante };
 
 constexpr auto Classes = [] {
@@ -114,7 +118,7 @@ public:
 private:
     void Passage();
     void Commande();
-    void MotDeCommande(bool étoile);
+    void MotDeCommande(Etoile étoile);
     void Exécuter(const Entrée& entrée, int paramètre, bool donné);
     void SymboleDeCommande();
 
@@ -145,7 +149,8 @@ private:
 
     const char* p_;
     const char* fin_;
-    const char* ligneDePuce_; // end of the first paragraph of a list item met as a bullet
+    const char* débutDeGroupe_; // behind the last opening brace and the line ends there
+    const char* ligneDePuce_;   // end of the first paragraph of a list item met as a bullet
 
     État état_;
     std::vector<État> pile_;
@@ -168,13 +173,16 @@ private:
 Lecteur::Lecteur(std::string_view octets)
     : p_(octets.data()),
       fin_(p_ + std::min(octets.size(), TexteRiche::LongueurMaximale)),
+      débutDeGroupe_(p_),
       ligneDePuce_(p_),
       composition_(polices_, static_cast<std::size_t>(fin_ - p_))
 {
 }
 
+// From behind the brace that opens the text.
 TexteRiche Lecteur::Lire()
 {
+    Ouvrir();
     bool ouvert = true;
     while (ouvert && p_ != fin_) {
         switch (ClasseDe(*p_)) {
@@ -197,6 +205,8 @@ TexteRiche Lecteur::Lire()
             Octet(static_cast<unsigned char>(*p_++));
             break;
         case Classe::Ignorée:
+            if (débutDeGroupe_ == p_)
+                ++débutDeGroupe_;
             ++p_;
             break;
         }
@@ -249,13 +259,13 @@ void Lecteur::Commande()
         if (const int octet = LireHexadécimal(); octet > 0)
             Octet(static_cast<unsigned>(octet));
     } else if (EstLettre(*p_)) {
-        MotDeCommande(false);
+        MotDeCommande(Etoile::Aucune);
     } else {
         SymboleDeCommande();
     }
 }
 
-void Lecteur::MotDeCommande(bool étoile)
+void Lecteur::MotDeCommande(Etoile étoile)
 {
     const char* const début = p_;
     std::uint64_t clé = 0;
@@ -271,13 +281,14 @@ void Lecteur::MotDeCommande(bool étoile)
     bool donné = false;
     const int paramètre = LireParamètre(donné);
     if (entrée == nullptr) {
-        if (étoile)
+        if (étoile == Etoile::EnTête)
             SauterLeGroupe();
         return;
     }
-    if (étoile && entrée->Sens < Mot::TableDesPolices && entrée->Sens != Mot::SansEffet)
+    const bool ordinaire = entrée->Sens < Mot::TableDesPolices;
+    if (étoile == Etoile::EnTête && ordinaire && entrée->Sens != Mot::SansEffet)
         SauterLeGroupe();
-    else
+    else if (étoile != Etoile::Egarée || ordinaire || entrée->Sens == Mot::Binaire)
         Exécuter(*entrée, paramètre, donné);
 }
 
@@ -443,14 +454,16 @@ void Lecteur::SymboleDeCommande()
         break;
     }
     switch (*p_++) {
-    case '*':
-        while (p_ != fin_ && (*p_ == ' ' || ClasseDe(*p_) == Classe::Ignorée))
+    case '*': {
+        const bool enTête = p_ - 2 == débutDeGroupe_;
+        while (enTête && p_ != fin_ && (*p_ == ' ' || ClasseDe(*p_) == Classe::Ignorée))
             ++p_;
         if (fin_ - p_ > 1 && *p_ == '\\' && EstLettre(p_[1])) {
             ++p_;
-            MotDeCommande(true);
+            MotDeCommande(enTête ? Etoile::EnTête : Etoile::Egarée);
         }
         break;
+    }
     case '~':
         Caractère(0xA0);
         break;
@@ -484,6 +497,7 @@ int Lecteur::LireHexadécimal()
 
 void Lecteur::Ouvrir()
 {
+    débutDeGroupe_ = p_;
     if (pile_.size() < ProfondeurMaximale)
         pile_.push_back(état_);
     else
@@ -778,10 +792,17 @@ Clé Lecteur::CléDe(unsigned attributs) const
 std::optional<TexteRiche> LireRtf(std::string_view octets)
 {
     constexpr std::string_view MarqueUtf8 = "\xEF\xBB\xBF";
+    const auto passerLesBlancs = [&octets] {
+        octets.remove_prefix(std::min(octets.find_first_not_of(std::string_view(" \t\r\n\0", 5)), octets.size()));
+    };
     if (octets.starts_with(MarqueUtf8))
         octets.remove_prefix(MarqueUtf8.size());
-    octets.remove_prefix(std::min(octets.find_first_not_of(std::string_view(" \t\r\n\0", 5)), octets.size()));
-    if (!octets.starts_with("{\\rtf"))
+    passerLesBlancs();
+    if (!octets.starts_with('{'))
+        return std::nullopt;
+    octets.remove_prefix(1);
+    passerLesBlancs();
+    if (!octets.starts_with("\\rtf"))
         return std::nullopt;
     return Lecteur(octets).Lire();
 }

@@ -7,8 +7,8 @@
 
 namespace tirelune {
 
-// One pass, no recursion. Nothing when the bytes don't start as RTF does ("{\rtf", leading blanks and a byte
-// order mark skipped); of a damaged or cut-off text, the part that can be read.
+// One pass, no recursion. Nothing when the bytes don't start as RTF does ("{\rtf", blanks before either sign and a
+// byte order mark skipped); of a damaged or cut-off text, the part that can be read.
 std::optional<TexteRiche> LireRtf(std::string_view octets);
 
 } // namespace tirelune

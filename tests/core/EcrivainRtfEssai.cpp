@@ -138,6 +138,15 @@ TEST(EcrivainRtf, UneDemiePaireDevientUnCarréDeRemplacement)
 {
     const Texte moitiés{0xD83E, u'a', 0xDD89, 0xDD89, 0xD83E};
     EXPECT_EQ(LireRtf(EcrireRtf(TexteRiche{moitiés}))->Caractères(), u"\uFFFDa\uFFFD\uFFFD\uFFFD");
+    for (const char16_t seule : {0xD800, 0xDBFF, 0xDC00, 0xDFFF}) {
+        for (const auto& texte : {Texte{seule}, Texte{seule, u'a'}, Texte{u'a', seule}, Texte{seule, seule}})
+            EXPECT_EQ(Contient(LireRtf(EcrireRtf(TexteRiche{texte}))->Caractères(), u'\uFFFD'), true);
+    }
+    for (const auto& paire : {Texte{0xD800, 0xDC00}, Texte{0xDBFF, 0xDFFF}, Texte{0xD7FF, 0xE000}})
+        EXPECT_EQ(LireRtf(EcrireRtf(TexteRiche{paire}))->Caractères(), paire);
+    TexteRiche coupée{u"🦉🦉"};
+    coupée.Formater(1, 2, [](Format& format) { format.Gras = true; });
+    EXPECT_EQ(LireRtf(EcrireRtf(coupée))->Caractères(), u"🦉🦉");
 }
 
 TEST(EcrivainRtf, UneMoitiéDePaireNeSEmpruntePasUneVoisine)

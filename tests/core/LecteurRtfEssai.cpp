@@ -80,6 +80,28 @@ TEST(LecteurRtf, UnTexteVideSeLit)
 TEST(LecteurRtf, LesBlancsEtLaMarqueDEncodageDuDébutSontSautés)
 {
     EXPECT_EQ(Brut("\xEF\xBB\xBF \r\n\t{\\rtf1 a}"), u"a");
+    EXPECT_EQ(Brut("{ \r\n\t\\rtf1 a{\\b b}c}"), u"abc");
+    EXPECT_FALSE(LireRtf(" \\rtf1 a}"));
+    EXPECT_FALSE(LireRtf("{ a\\rtf1 a}"));
+}
+
+TEST(LecteurRtf, UnCaractèreAsciiPeutÊtreEchappé)
+{
+    EXPECT_EQ(Corps("\\'41\\'7b\\'5Cb\\'7D\\'20\\'7f\\'80"), u"A{\\b} \u007F€");
+    EXPECT_EQ(Corps("\\f1\\'41\\'e0"), u"Aа"); // in any code page
+    EXPECT_EQ(Lire("\\strike\\'41").Longueur(), 1U);
+    EXPECT_EQ(Marqués("\\strike \\'41b\\strike0 c"), std::vector<Texte>{u"Ab"});
+    EXPECT_EQ(LireRtf("{\\rtf1\\deff0{\\fonttbl{\\f0 \\'41rial;}}a}")->FormatEn(0).Police, u"Arial");
+}
+
+TEST(LecteurRtf, LÉtoileQuiNOuvrePasLeGroupeNeLAvalePas)
+{
+    EXPECT_EQ(Corps("a\\*\\inconnu b"), u"ab");
+    EXPECT_EQ(Corps("{a\\*\\inconnu b\\*\\bkmkstart c}d"), u"abcd");
+    EXPECT_EQ(Corps("\\{\\*\\inconnu b"), u"{b");
+    EXPECT_EQ(Corps("{\\b\\*\\inconnu b}"), u"b");
+    EXPECT_EQ(Corps("a\\* b\\*\\par c"), u"a b\r\nc");
+    EXPECT_EQ(Corps("{\\*\\inconnu b}{\r\n\\*\\inconnu c}d"), u"d"); // line ends mean nothing
 }
 
 TEST(LecteurRtf, CeQuiSuitLAccoladeFinaleEstIgnoré)
