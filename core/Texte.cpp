@@ -188,7 +188,9 @@ std::string EnUtf8(VueTexte texte)
 
 Chemin EnChemin(VueTexte texte)
 {
-    const auto octets = EnUtf8(texte);
+    Texte nom{texte};
+    std::replace(nom.begin(), nom.end(), u'\0', Remplacement); // the system would take what stands before it
+    const auto octets = EnUtf8(nom);
     return {std::u8string(octets.begin(), octets.end())};
 }
 

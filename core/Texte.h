@@ -29,6 +29,7 @@ Texte Majuscules(VueTexte texte);
 Texte DepuisUtf8(std::string_view octets);
 std::string EnUtf8(VueTexte texte);
 
+// A NUL, which no name holds, becomes U+FFFD.
 Chemin EnChemin(VueTexte texte);
 Texte DepuisChemin(const Chemin& chemin);
 // Folder, separator, name; no second separator behind a folder that ends in one.

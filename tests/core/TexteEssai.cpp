@@ -61,7 +61,9 @@ TEST(Texte, Utf8AbîméDonneLeCaractèreDeRemplacement)
     EXPECT_EQ(DepuisUtf8("\xE2\x82"
                          "a"),
               u"\uFFFDa");
-    EXPECT_EQ(DepuisUtf8("\xC0\xAF"), u"\uFFFD");         // overlong
+    for (const auto* tropLong :
+         {"\xC0\xAF", "\xC1\xBF", "\xE0\x80\x80", "\xE0\x9F\xBF", "\xF0\x80\x80\x80", "\xF0\x8F\xBF\xBF"})
+        EXPECT_EQ(DepuisUtf8(tropLong), u"\uFFFD");
     EXPECT_EQ(DepuisUtf8("\xED\xA0\x80"), u"\uFFFD");     // half of a pair
     EXPECT_EQ(DepuisUtf8("\xF4\x90\x80\x80"), u"\uFFFD"); // beyond the last code
     EXPECT_EQ(EnUtf8(Texte{0xD800}), "\xEF\xBF\xBD");
@@ -102,6 +104,11 @@ TEST(Texte, JoindreNeDoublePasLeSéparateur)
 TEST(Texte, CheminAllerEtRetour)
 {
     EXPECT_EQ(DepuisChemin(EnChemin(u"/é/œ\U0001F600")), u"/é/œ\U0001F600");
+}
+
+TEST(Texte, UnNulNeCoupePasUnChemin)
+{
+    EXPECT_EQ(DepuisChemin(EnChemin(Texte{u'/', u'\0', u'a'})), u"/\uFFFDa");
 }
 
 TEST(Texte, ValeurLitLeNombreEnTête)
