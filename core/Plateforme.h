@@ -57,10 +57,11 @@ public:
     virtual Chemin DossierProgramme() = 0;
     virtual std::vector<Texte> Lecteurs() = 0; // where the list of drives may lead
     virtual std::optional<EchecFichier> Réécrire(const Chemin& fichier, std::string_view contenu) = 0;
-    virtual char16_t SéparateurDécimal() = 0;
     // How long ago a file was written, by this machine's clock: below zero where the file's own machine is ahead.
     // Nothing when there is no such file.
     virtual std::optional<std::chrono::seconds> AgeFichier(const Chemin& fichier) = 0;
+    // What numbers are written with: a point, or else a comma, even where the machine's locale has another sign.
+    char16_t SéparateurDécimal() { return SigneDécimal() == u'.' ? u'.' : u','; }
 
     // Boxes and dialogs. A dialog that is cancelled gives nothing.
     virtual Réponse AfficherBoîte(const Boîte& boîte) = 0;
@@ -95,6 +96,9 @@ public:
     [[nodiscard]] virtual bool AttendreArrêt(Timer& minuterie) = 0;
     // The timer's interval or state has changed.
     virtual void RéglerMinuterie(Timer& minuterie) = 0;
+
+private:
+    virtual char16_t SigneDécimal() = 0; // of the machine's locale
 };
 
 } // namespace tirelune

@@ -113,10 +113,10 @@ std::optional<std::chrono::seconds> PlateformeQt::AgeFichier(const Chemin& fichi
     return std::chrono::floor<std::chrono::seconds>(std::filesystem::file_time_type::clock::now() - écrit);
 }
 
-char16_t PlateformeQt::SéparateurDécimal()
+char16_t PlateformeQt::SigneDécimal()
 {
-    const auto séparateur = QLocale::system().decimalPoint();
-    return séparateur.isEmpty() ? u',' : séparateur.front().unicode();
+    const auto signe = QLocale::system().decimalPoint();
+    return signe.isEmpty() ? u',' : signe.front().unicode();
 }
 
 // ---- Boxes and dialogs -----------------------------------------------------------------------------------------

@@ -31,7 +31,6 @@ public:
     std::vector<Texte> Lecteurs() override;
     std::optional<EchecFichier> Réécrire(const Chemin& fichier, std::string_view contenu) override;
     std::optional<std::chrono::seconds> AgeFichier(const Chemin& fichier) override;
-    char16_t SéparateurDécimal() override;
 
     Réponse AfficherBoîte(const Boîte& boîte) override;
     std::optional<Texte> DemanderFichierAOuvrir(const DialogueFichier& dialogue) override;
@@ -70,6 +69,8 @@ private:
         std::function<void()> Quitter;
     };
     class Séjour; // the time spent in such a loop
+
+    char16_t SigneDécimal() override;
 
     void MontrerFond(Fenêtre& fenêtre);
     // A window has been painted: what was put off until the first picture may come.

@@ -41,7 +41,6 @@ public:
     Chemin DossierProgramme() override { return dossier; }
     std::vector<Texte> Lecteurs() override { return lecteurs; }
     std::optional<EchecFichier> Réécrire(const Chemin& fichier, std::string_view contenu) override;
-    char16_t SéparateurDécimal() override { return séparateur; }
     std::optional<std::chrono::seconds> AgeFichier(const Chemin& fichier) override;
     Réponse AfficherBoîte(const Boîte& boîte) override;
     std::optional<Texte> DemanderFichierAOuvrir(const DialogueFichier& dialogue) override;
@@ -117,6 +116,8 @@ private:
     // What waits for this screen goes on.
     [[nodiscard]] bool Vit(const Ecran& écran) const { return écran.EstChargé() && !terminé; }
     void Passer(double temps);
+
+    char16_t SigneDécimal() override { return séparateur; }
 
     bool amorcé_ = false;
     double heure_ = 36000; // ten o'clock

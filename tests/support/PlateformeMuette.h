@@ -14,7 +14,6 @@ public:
     std::vector<Texte> Lecteurs() override { return {}; }
     std::optional<EchecFichier> Réécrire(const Chemin&, std::string_view) override { return std::nullopt; }
     std::optional<std::chrono::seconds> AgeFichier(const Chemin&) override { return std::chrono::hours{1}; }
-    char16_t SéparateurDécimal() override { return u','; }
     Réponse AfficherBoîte(const Boîte&) override { return Réponse::Ok; }
     std::optional<Texte> DemanderFichierAOuvrir(const DialogueFichier&) override { return std::nullopt; }
     std::optional<Texte> DemanderFichierAEnregistrer(const DialogueFichier&) override { return std::nullopt; }
@@ -32,6 +31,9 @@ public:
     bool Attendre(Ecran&, std::chrono::milliseconds) override { return true; }
     bool AttendreArrêt(Timer&) override { return true; }
     void RéglerMinuterie(Timer&) override {}
+
+private:
+    char16_t SigneDécimal() override { return u','; }
 };
 
 } // namespace tirelune
