@@ -1,6 +1,6 @@
 #include "core/FichierChamps.h"
 
-#include "core/Fichiers.h"
+#include "core/Plateforme.h"
 #include "core/Windows1252.h"
 
 #include <algorithm>
@@ -9,90 +9,143 @@ namespace tirelune {
 
 namespace {
 
-bool EstFinDeLigne(char c)
-{
-    return c == '\r' || c == '\n';
-}
+constexpr std::uintmax_t TailleMaximale = 64U << 20U; // bytes of a file
+constexpr std::size_t ChampsMaximum = 1'000'000;      // in a file, so that damage can't take all the memory
 
+// One pass: each byte is looked at a fixed number of times, whatever the file holds.
 class Découpage {
 public:
-    Découpage(std::string_view octets, Valeurs valeurs) : reste_(octets), valeurs_(valeurs) {}
+    Découpage(std::string_view octets, Valeurs valeurs) : octets_(octets), valeurs_(valeurs) {}
 
-    std::vector<Texte> Champs()
+    // The next value; nothing at the end.
+    std::optional<std::string_view> Suivante()
     {
-        std::vector<Texte> champs;
-        while (PasserVides())
-            champs.push_back(DepuisWindows1252(reste_.front() == '"' ? EntreGuillemets() : SansGuillemets()));
-        return champs;
-    }
-
-private:
-    // False at the end.
-    bool PasserVides()
-    {
-        const auto début = reste_.find_first_not_of(" \t\r\n");
-        reste_.remove_prefix(std::min(début, reste_.size()));
-        return !reste_.empty();
-    }
-
-    // What follows a value up to its comma or line end, taken away.
-    void PasserSéparateur()
-    {
-        const auto blancs = reste_.find_first_not_of(" \t");
-        reste_.remove_prefix(std::min(blancs, reste_.size()));
-        if (!reste_.empty() && reste_.front() == ',')
-            reste_.remove_prefix(1);
-    }
-
-    bool ValeurFinie(std::size_t place) const
-    {
-        const auto suite = reste_.find_first_not_of(" \t", place);
-        return suite == std::string_view::npos || reste_[suite] == ',' || EstFinDeLigne(reste_[suite]);
-    }
-
-    std::string_view EntreGuillemets()
-    {
-        reste_.remove_prefix(1);
-        const auto finDeLigne =
-            valeurs_ == Valeurs::SurUneLigne ? reste_.find_first_of("\r\n") : std::string_view::npos;
-        const auto limite = std::min(finDeLigne, reste_.size());
-        auto fin = reste_.find('"');
-        while (fin < limite && !ValeurFinie(fin + 1))
-            fin = reste_.find('"', fin + 1);
-        fin = std::min(fin, limite);
-        const auto valeur = reste_.substr(0, fin);
-        reste_.remove_prefix(fin < limite ? fin + 1 : limite);
-        PasserSéparateur();
+        place_ = Passer(" \t\r\n", place_);
+        if (place_ == octets_.size())
+            return std::nullopt;
+        const auto valeur =
+            octets_[place_] == '"' || valeurs_ == Valeurs::SurUneLigne ? JusquAuGuillemet() : JusquALaVirgule();
+        place_ = Passer(" \t", place_);
+        if (place_ < octets_.size() && octets_[place_] == ',')
+            ++place_;
         return valeur;
     }
 
-    std::string_view SansGuillemets()
+private:
+    std::size_t Passer(const char* signes, std::size_t place) const
     {
-        const auto fin =
-            std::min(reste_.find_first_of(valeurs_ == Valeurs::SurUneLigne ? "\r\n" : ",\r\n"), reste_.size());
-        const auto valeur = reste_.substr(0, reste_.find_last_not_of(" \t", fin == 0 ? 0 : fin - 1) + 1);
-        reste_.remove_prefix(fin);
-        PasserSéparateur();
-        return valeur.substr(0, std::min(valeur.size(), fin));
+        return std::min(octets_.find_first_not_of(signes, place), octets_.size());
     }
 
-    std::string_view reste_;
+    std::string_view Entre(std::size_t début, std::size_t fin) const { return octets_.substr(début, fin - début); }
+
+    // Where a value that no quote closes ends.
+    std::size_t Limite()
+    {
+        if (valeurs_ == Valeurs::SurPlusieursLignes)
+            return octets_.size();
+        if (finDeLigne_ <= place_) // a value never starts on a line end
+            finDeLigne_ = std::min(octets_.find_first_of("\r\n", place_), octets_.size());
+        return finDeLigne_;
+    }
+
+    // The next quote before the limit, or the limit, where the value would end anyway.
+    std::size_t Guillemet(std::size_t place, std::size_t limite) const
+    {
+        while (place < limite && octets_[place] != '"')
+            ++place;
+        return place;
+    }
+
+    bool FinitLaLigne(std::size_t place) const
+    {
+        return place >= octets_.size() || octets_[place] == '\r' || octets_[place] == '\n';
+    }
+
+    // The place of the quote behind a comma, when they come next; the limit counts as one.
+    std::optional<std::size_t> OuvertureSuivante(std::size_t place, std::size_t limite) const
+    {
+        if (place >= limite || octets_[place] != ',')
+            return std::nullopt;
+        const auto suite = Passer(" \t", place + 1);
+        return suite >= limite || octets_[suite] == '"' ? std::optional{std::min(suite, limite)} : std::nullopt;
+    }
+
+    // What stands behind a quote tells whether it closes its value. A quote behind the comma that is itself followed
+    // by a line end closes rather than opens.
+    bool Ferme(std::size_t guillemet, std::size_t limite) const
+    {
+        const auto suite = Passer(" \t", guillemet + 1);
+        if (FinitLaLigne(suite))
+            return true;
+        const auto ouverture = OuvertureSuivante(suite, limite);
+        if (!ouverture || *ouverture == limite || FinitLaLigne(Passer(" \t", *ouverture + 1)))
+            return false;
+        const auto fermeture = Guillemet(*ouverture + 1, limite);
+        const auto après = Passer(" \t", std::min(fermeture + 1, octets_.size()));
+        return fermeture == limite || FinitLaLigne(après) || OuvertureSuivante(après, limite).has_value();
+    }
+
+    std::string_view JusquAuGuillemet()
+    {
+        const auto limite = Limite();
+        const bool ouvert = octets_[place_] == '"';
+        const auto début = ouvert ? place_ + 1 : place_;
+        auto fin = Guillemet(début, limite);
+        while (fin < limite && !Ferme(fin, limite))
+            fin = Guillemet(fin + 1, limite);
+        place_ = std::min(fin + 1, limite);
+        const auto valeur = Entre(début, fin);
+        return ouvert || fin < limite ? valeur : SansBlancsFinaux(valeur);
+    }
+
+    std::string_view JusquALaVirgule()
+    {
+        const auto début = place_;
+        place_ = std::min(octets_.find_first_of(",\r\n", place_), octets_.size());
+        return SansBlancsFinaux(Entre(début, place_));
+    }
+
+    static std::string_view SansBlancsFinaux(std::string_view valeur)
+    {
+        return valeur.substr(0, valeur.find_last_not_of(" \t") + 1);
+    }
+
+    std::string_view octets_;
     Valeurs valeurs_;
+    std::size_t place_ = 0;
+    std::size_t finDeLigne_ = 0;
 };
+
+// Nothing when there are more.
+std::optional<std::vector<Texte>> Découper(std::string_view octets, Valeurs valeurs, std::size_t maximum)
+{
+    std::vector<Texte> champs;
+    Découpage découpage{octets, valeurs};
+    while (const auto valeur = découpage.Suivante()) {
+        if (champs.size() == maximum)
+            return std::nullopt;
+        champs.push_back(DepuisWindows1252(*valeur));
+    }
+    return champs;
+}
 
 } // namespace
 
 std::vector<Texte> DécouperChamps(std::string_view octets, Valeurs valeurs)
 {
-    return Découpage{octets, valeurs}.Champs();
+    return *Découper(octets, valeurs, octets.size()); // no field without a byte
 }
 
-std::optional<std::vector<Texte>> LireChamps(const Chemin& fichier, Valeurs valeurs)
+Lecture<std::vector<Texte>> LireChamps(const Chemin& fichier, Valeurs valeurs)
 {
-    const auto octets = LireFichier(fichier);
+    const auto octets = LireFichier(fichier, TailleMaximale);
     if (!octets)
-        return std::nullopt;
-    return DécouperChamps(*octets, valeurs);
+        return octets.Echec;
+    auto champs = Découper(*octets, valeurs, ChampsMaximum);
+    if (!champs)
+        return EchecLecture::TropGrand;
+    return std::move(*champs);
 }
 
 std::optional<std::string> ComposerChamps(const std::vector<Texte>& champs)
@@ -105,6 +158,13 @@ std::optional<std::string> ComposerChamps(const std::vector<Texte>& champs)
         octets += '"' + *valeur + "\"\r\n";
     }
     return octets;
+}
+
+std::optional<EchecFichier> RéécrireChamps(Plateforme& plateforme, const Chemin& fichier,
+                                           const std::vector<Texte>& champs)
+{
+    const auto octets = ComposerChamps(champs);
+    return octets ? plateforme.Réécrire(fichier, *octets) : EchecFichier::Contenu;
 }
 
 bool TientDansUnChamp(VueTexte valeur)

@@ -3,11 +3,11 @@
 #include <algorithm>
 #include <array>
 #include <cstdio>
-#include <fstream>
 #include <memory>
 #include <system_error>
 
-#if __has_include(<unistd.h>)
+#if __has_include(<fcntl.h>) && __has_include(<unistd.h>)
+#include <fcntl.h>
 #include <unistd.h>
 #endif
 
@@ -19,6 +19,17 @@ struct Fermeture {
     void operator()(std::FILE* fichier) const { std::fclose(fichier); }
 };
 using Flux = std::unique_ptr<std::FILE, Fermeture>;
+
+// Never waits for whoever should write at the other end, should the file have become a pipe meanwhile.
+Flux OuvrirEnLecture(const Chemin& fichier)
+{
+#if __has_include(<fcntl.h>) && __has_include(<unistd.h>)
+    const int descripteur = ::open(fichier.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
+    return Flux{descripteur < 0 ? nullptr : ::fdopen(descripteur, "rb")};
+#else
+    return Flux{std::fopen(fichier.c_str(), "rb")};
+#endif
+}
 
 bool PousserSurLeDisque(std::FILE* fichier)
 {
@@ -51,46 +62,109 @@ Texte NomRéel(VueTexte dossier, VueTexte nom)
     return trouvé.value_or(Texte{nom});
 }
 
-std::optional<std::string> LireFichier(const Chemin& fichier)
+Lecture<std::string> LireFichier(const Chemin& fichier, std::uintmax_t limite)
 {
     std::error_code erreur;
-    if (std::filesystem::is_directory(fichier, erreur))
-        return std::nullopt;
-    std::ifstream flux{fichier, std::ios::binary};
+    const auto état = std::filesystem::status(fichier, erreur);
+    if (état.type() == std::filesystem::file_type::not_found)
+        return EchecLecture::Absent;
+    if (!std::filesystem::status_known(état) || état.type() == std::filesystem::file_type::unknown)
+        return EchecLecture::Illisible;
+    if (!std::filesystem::is_regular_file(état))
+        return EchecLecture::PasUnFichier;
+    const auto taille = std::filesystem::file_size(fichier, erreur);
+    if (!erreur && taille > limite)
+        return EchecLecture::TropGrand;
+    const auto flux = OuvrirEnLecture(fichier);
     if (!flux)
-        return std::nullopt;
+        return EchecLecture::Illisible;
     std::string contenu;
-    if (const auto taille = std::filesystem::file_size(fichier, erreur); !erreur)
+    if (!erreur)
         contenu.reserve(static_cast<std::size_t>(taille));
     std::array<char, 1 << 16> tampon{};
-    while (flux.read(tampon.data(), tampon.size()) || flux.gcount() > 0)
-        contenu.append(tampon.data(), static_cast<std::size_t>(flux.gcount()));
-    if (flux.bad())
-        return std::nullopt;
+    while (const auto lus = std::fread(tampon.data(), 1, tampon.size(), flux.get())) {
+        contenu.append(tampon.data(), lus);
+        if (contenu.size() > limite) // it grows, or hides its size
+            return EchecLecture::TropGrand;
+    }
+    if (std::ferror(flux.get()) != 0)
+        return EchecLecture::Illisible;
     return contenu;
 }
 
 std::optional<EchecFichier> RéécrireFichier(const Chemin& fichier, std::string_view contenu)
 {
     std::error_code ignorée; // a missing file is no error
+    const auto avant = std::filesystem::status(fichier, ignorée);
     std::filesystem::remove(fichier, ignorée);
     const Flux flux{std::fopen(fichier.c_str(), "wb")};
     if (!flux)
         return EchecFichier::Ouverture;
-    std::setvbuf(flux.get(), nullptr, _IONBF, 0); // the content is in memory already
+    if (std::filesystem::is_regular_file(avant))
+        std::filesystem::permissions(fichier, avant.permissions(), ignorée); // some shares have none
+    std::setvbuf(flux.get(), nullptr, _IONBF, 0);                            // the content is in memory already
     const bool écrit = contenu.empty() || std::fwrite(contenu.data(), contenu.size(), 1, flux.get()) == 1;
     if (!écrit || !PousserSurLeDisque(flux.get()))
         return EchecFichier::Ecriture;
     return std::nullopt;
 }
 
-Texte MessageEchec(EchecFichier échec, VueTexte fichier)
+namespace {
+
+VueTexte Cause(EchecFichier échec)
+{
+    switch (échec) {
+    case EchecFichier::Ouverture:
+        return u"Son dossier n'existe pas, n'est plus accessible, ou il est interdit d'y écrire.";
+    case EchecFichier::Ecriture:
+        return u"Le disque est peut-être plein ou n'est plus accessible.";
+    case EchecFichier::Contenu:
+        break;
+    }
+    return u"Un caractère ne peut pas y être enregistré. Le fichier est resté comme il était.";
+}
+
+VueTexte Cause(EchecLecture échec)
+{
+    switch (échec) {
+    case EchecLecture::Absent:
+        return u"Il n'existe pas, ou son dossier n'est plus accessible.";
+    case EchecLecture::PasUnFichier:
+        return u"Ce n'est pas un fichier ordinaire.";
+    case EchecLecture::TropGrand:
+        return u"Il est trop grand.";
+    case EchecLecture::Illisible:
+        break;
+    }
+    return u"Le disque n'est plus accessible, ou il est interdit de lire ce fichier.";
+}
+
+VueTexte Suite(Enjeu enjeu)
+{
+    switch (enjeu) {
+    case Enjeu::Document:
+        return u"Rien n'est perdu tant que le texte reste ouvert : recommencez quand ce sera réparé, ou enregistrez "
+               u"ailleurs.";
+    case Enjeu::Résultats:
+        return u"Tes résultats restent en mémoire tant que tu ne quittes pas le choix des exercices. Préviens ton "
+               u"enseignant.";
+    case Enjeu::Réglage:
+        break;
+    }
+    return u"Recommencez quand ce sera réparé.";
+}
+
+} // namespace
+
+Texte MessageEchec(EchecFichier échec, VueTexte fichier, Enjeu enjeu)
 {
     Texte message = u"Impossible d'enregistrer le fichier\n" + Texte{fichier} + u"\n\n";
-    message += échec == EchecFichier::Ouverture
-                   ? u"Vérifiez que son dossier existe et que vous avez le droit d'y écrire."
-                   : u"Le disque est peut-être plein ou n'est plus accessible.";
-    return message + u"\nRien n'est perdu : recommencez quand ce sera réparé, ou enregistrez ailleurs.";
+    return message.append(Cause(échec)).append(u"\n").append(Suite(enjeu));
+}
+
+Texte MessageLecture(EchecLecture échec, VueTexte fichier)
+{
+    return (u"Impossible de lire le fichier\n" + Texte{fichier} + u"\n\n").append(Cause(échec));
 }
 
 } // namespace tirelune

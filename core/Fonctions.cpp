@@ -77,7 +77,7 @@ Texte SansAccents(VueTexte mot)
 
 void VérifQuestions(Constantes& état, VueTexte titre)
 {
-    état.NomFichierQuestions = état.CheminTexteElève + Rogner(titre) + u".qst";
+    état.NomFichierQuestions = état.CheminTexteElève + NomRéel(état.CheminTexteElève, Rogner(titre) + u".qst");
     const auto fichier = EnChemin(état.NomFichierQuestions);
     const auto champs = LireChamps(fichier);
     état.QuestionnaireExiste =

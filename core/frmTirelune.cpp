@@ -105,6 +105,10 @@ void frmTirelune::cmdCode_Click()
 {
     const auto fichier = Joindre(état.CheminAppli, u"CodeEnseignant.txt");
     const auto champs = LireChamps(EnChemin(fichier));
+    if (champs.Echec == EchecLecture::TropGrand || champs.Echec == EchecLecture::PasUnFichier) {
+        Avertir(MessageLecture(champs.Echec, fichier)); // whatever it is, a new code must not replace it
+        return;
+    }
     if (!champs) {
         DéfinirCode(fichier);
         return;

@@ -259,11 +259,11 @@ void frmGestionEleves::txtCode_Change()
     GarderChiffres(txtCode);
     if (txtCode.Text->size() != LongueurCode)
         return;
-    const auto fichier = EnChemin(Joindre(état.CheminAppli, u"Code.txt"));
-    const auto champs = LireChamps(fichier);
-    if (std::error_code erreur; !champs && std::filesystem::exists(fichier, erreur)) {
+    const auto fichier = Joindre(état.CheminAppli, u"Code.txt");
+    const auto champs = LireChamps(EnChemin(fichier));
+    if (!champs && champs.Echec != EchecLecture::Absent) {
         txtCode.Text = Texte{};
-        Avertir(u"Impossible de lire le fichier\n" + DepuisChemin(fichier));
+        Avertir(MessageLecture(champs.Echec, fichier));
         return;
     }
     const auto code = champs && !champs->empty() ? champs->back() : Texte{};

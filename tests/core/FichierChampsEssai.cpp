@@ -55,9 +55,13 @@ TEST(FichierChamps, ToutesLesFinsDeLigne)
 
 TEST(FichierChamps, VirguleSépareEtBlancsDevantSePassent)
 {
-    EXPECT_EQ(DécouperChamps("\"a\" , \"b\",c, d \r\n  e"), (Champs{u"a", u"b", u"c", u"d", u"e"}));
+    for (const auto* octets : {"\"a\",\"b\"", "\"a\" ,\t\"b\"\r\n", "\"a\",\"b", "\"a\",\"b\r\n"}) {
+        EXPECT_EQ(SurUneLigne(octets), (Champs{u"a", u"b"}));
+        EXPECT_EQ(DécouperChamps(octets).front(), u"a");
+    }
+    EXPECT_EQ(DécouperChamps("\"a\",\"deux\r\nlignes\",\"\",\"b\""), (Champs{u"a", u"deux\r\nlignes", u"", u"b"}));
+    EXPECT_EQ(DécouperChamps("c, d \r\n  e"), (Champs{u"c", u"d", u"e"}));
     EXPECT_EQ(DécouperChamps("a,,b"), (Champs{u"a", u"", u"b"}));
-    EXPECT_EQ(SurUneLigne("\"a\",\"b\""), (Champs{u"a", u"b"}));
     EXPECT_EQ(SurUneLigne("6,5\n7"), (Champs{u"6,5", u"7"})); // a comma is part of the number there
 }
 
@@ -65,6 +69,44 @@ TEST(FichierChamps, GuillemetIntérieurNeFermePas)
 {
     EXPECT_EQ(DécouperChamps("\"dit \"oui\" fort\"\r\n\"b\""), (Champs{u"dit \"oui\" fort", u"b"}));
     EXPECT_EQ(SurUneLigne("\"dit \"oui\" fort\"\r\n\"b\""), (Champs{u"dit \"oui\" fort", u"b"}));
+}
+
+TEST(FichierChamps, VirguleDerrièreUnGuillemetDansUnePhraseNeSéparePas)
+{
+    for (const auto* phrase : {u"Qui dit \"bonjour\", le matin ?", u"Il dit \"oui\", \"non\" et \"peut-être\".",
+                               u"\"oui\",\"non\" ?", u"Il dit \"oui\",", u"\"oui\",\"non\", dit-il"}) {
+        const Champs champs{phrase, u"suite"};
+        EXPECT_EQ(DécouperChamps(*ComposerChamps(champs)), champs);
+        EXPECT_EQ(SurUneLigne(*ComposerChamps(champs)), champs);
+    }
+}
+
+TEST(FichierChamps, CeQuiEstLuDUnFichierAbîméSeRelitEgal)
+{
+    // Every text of up to seven of the signs that matter.
+    static constexpr std::string_view Signes = "\", a\n";
+    for (std::size_t longueur = 1; longueur <= 7; ++longueur) {
+        std::size_t nombre = 1;
+        for (std::size_t i = 0; i < longueur; ++i)
+            nombre *= Signes.size();
+        for (std::size_t numéro = 0; numéro < nombre; ++numéro) {
+            std::string octets;
+            for (auto reste = numéro; octets.size() < longueur; reste /= Signes.size())
+                octets += Signes[reste % Signes.size()];
+            for (const auto valeurs : {Valeurs::SurPlusieursLignes, Valeurs::SurUneLigne}) {
+                const auto champs = DécouperChamps(octets, valeurs);
+                ASSERT_EQ(DécouperChamps(*ComposerChamps(champs), valeurs), champs) << octets;
+            }
+        }
+    }
+}
+
+TEST(FichierChamps, GuillemetDOuverturePerdu)
+{
+    EXPECT_EQ(SurUneLigne("a\",b\r\n\"c\""), (Champs{u"a\",b", u"c"}));
+    EXPECT_EQ(SurUneLigne("a\",\"b\"\r\n"), (Champs{u"a", u"b"}));
+    EXPECT_EQ(SurUneLigne("a\"\r\nb  \r\n"), (Champs{u"a", u"b"}));
+    EXPECT_EQ(DécouperChamps("a\",b"), (Champs{u"a\"", u"b"}));
 }
 
 TEST(FichierChamps, GuillemetJamaisFermé)
@@ -93,7 +135,40 @@ TEST(FichierChamps, FichierAbsentOuVide)
     Banc banc;
     EXPECT_FALSE(LireChamps(banc.dossier / "absent.dat").has_value());
     EXPECT_FALSE(LireChamps(banc.dossier).has_value());
+    EXPECT_EQ(LireChamps(banc.dossier / "absent.dat").Echec, EchecLecture::Absent);
     EXPECT_EQ(LireChamps(banc.Ecrire("vide.dat", "")), Champs{});
+}
+
+TEST(FichierChamps, UnFichierTropGrandEstRefusé)
+{
+    Banc banc;
+    const auto fichier = banc.Ecrire("a.dat", "\"a\"\r\n");
+    std::filesystem::resize_file(fichier, 64U << 20U);
+    EXPECT_EQ(LireChamps(fichier, Valeurs::SurUneLigne)->size(), 2U); // the rest is a value of NULs
+    std::filesystem::resize_file(fichier, (64U << 20U) + 1);
+    EXPECT_EQ(LireChamps(fichier).Echec, EchecLecture::TropGrand);
+}
+
+TEST(FichierChamps, TropDeChampsPourLaMémoireSontRefusés)
+{
+    Banc banc;
+    std::string octets;
+    for (int i = 0; i < 1'000'000; ++i)
+        octets += "*\n";
+    EXPECT_EQ(LireChamps(banc.Ecrire("a.dat", octets))->size(), 1'000'000U);
+    const auto lus = LireChamps(banc.Ecrire("b.dat", octets + "*"));
+    EXPECT_FALSE(lus);
+    EXPECT_EQ(lus.Echec, EchecLecture::TropGrand);
+}
+
+TEST(FichierChamps, CeQuiNeSeComposePasLaisseLeFichier)
+{
+    Banc banc;
+    const auto fichier = banc.Ecrire("a.dat", "ancien");
+    EXPECT_EQ(RéécrireChamps(banc.plateforme, fichier, {u"a", u"Ω"}), EchecFichier::Contenu);
+    EXPECT_EQ(banc.Lire("a.dat"), "ancien");
+    EXPECT_FALSE(RéécrireChamps(banc.plateforme, fichier, {u"a"}));
+    EXPECT_EQ(banc.Lire("a.dat"), "\"a\"\r\n");
 }
 
 TEST(FichierChamps, CeQuiTientDansUnChamp)
@@ -113,9 +188,15 @@ TEST(FichierChamps, BlancsEtGuillemetsEnFouleSeLisentEnTempsLinéaire)
     EXPECT_EQ(DécouperChamps(octets).size(), 1U);
     EXPECT_EQ(SurUneLigne(octets).size(), 1U);
     std::string lignes;
-    for (int i = 0; i < 200000; ++i)
+    std::string suite;
+    for (int i = 0; i < 200000; ++i) {
         lignes += "\"a\n";
+        suite += "\"a\",";
+    }
     EXPECT_EQ(SurUneLigne(lignes).size(), 200000U);
+    EXPECT_EQ(SurUneLigne(suite).size(), 200000U);
+    EXPECT_EQ(DécouperChamps(suite).size(), 200000U);
+    EXPECT_EQ(DécouperChamps("\"" + std::string(1000000, ' ') + suite).size(), 200000U);
 }
 
 TEST(FichierChamps, LeQuestionnaireFourniSeRelitOctetPourOctet)

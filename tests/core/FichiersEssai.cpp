@@ -4,8 +4,10 @@
 #include "tests/support/Banc.h"
 
 #include <csignal>
+#include <set>
 
 #include <sys/resource.h>
+#include <sys/stat.h>
 
 namespace tirelune {
 
@@ -51,11 +53,61 @@ TEST(Fichiers, RéécritEtRelit)
     EXPECT_EQ(LireFichier(fichier), "");
 }
 
-TEST(Fichiers, AbsentOuDossierNeSeLitPas)
+TEST(Fichiers, LeDernierOctetSeLitAussiAuxBordsDuTampon)
+{
+    Banc banc;
+    for (const std::size_t taille : {65'535U, 65'536U, 65'537U, 131'072U, 131'073U}) {
+        const auto octets = std::string(taille - 1, 'a') + 'z';
+        EXPECT_EQ(LireFichier(banc.Ecrire("a", octets)), octets);
+    }
+}
+
+TEST(Fichiers, CeQuiNEstPasUnFichierNeSOuvrePas)
 {
     Banc banc;
     EXPECT_FALSE(LireFichier(banc.dossier / "absent").has_value());
-    EXPECT_FALSE(LireFichier(banc.dossier).has_value());
+    EXPECT_EQ(LireFichier(banc.dossier / "absent").Echec, EchecLecture::Absent);
+    EXPECT_EQ(LireFichier(banc.dossier / "absent" / "a").Echec, EchecLecture::Absent);
+    EXPECT_EQ(LireFichier(banc.dossier).Echec, EchecLecture::PasUnFichier);
+    EXPECT_EQ(LireFichier("/dev/zero").Echec, EchecLecture::PasUnFichier);
+    const auto tube = banc.dossier / "tube"; // nobody writes into it: to open it would wait for ever
+    ASSERT_EQ(::mkfifo(tube.c_str(), 0600), 0);
+    EXPECT_EQ(LireFichier(tube).Echec, EchecLecture::PasUnFichier);
+    std::filesystem::create_symlink(tube, banc.dossier / "lien");
+    EXPECT_EQ(LireFichier(banc.dossier / "lien").Echec, EchecLecture::PasUnFichier);
+    std::filesystem::create_symlink("boucle", banc.dossier / "boucle");
+    EXPECT_EQ(LireFichier(banc.dossier / "boucle").Echec, EchecLecture::Illisible);
+}
+
+TEST(Fichiers, UnFichierPlusGrandQuePrévuEstRefuséSansÊtreLu)
+{
+    Banc banc;
+    const auto fichier = banc.Ecrire("a", "12345");
+    EXPECT_EQ(LireFichier(fichier, 5), "12345");
+    EXPECT_EQ(LireFichier(fichier, 4).Echec, EchecLecture::TropGrand);
+    std::filesystem::resize_file(fichier, std::uintmax_t{1} << 40U); // a hole: no disk is that large
+    EXPECT_EQ(LireFichier(fichier).Echec, EchecLecture::TropGrand);
+}
+
+TEST(Fichiers, UneTailleCachéeNeTrompePas)
+{
+    const Chemin sansTaille = "/proc/self/maps"; // of 0 bytes, says the system
+    EXPECT_GT(LireFichier(sansTaille)->size(), 100U);
+    EXPECT_EQ(LireFichier(sansTaille, 100).Echec, EchecLecture::TropGrand);
+}
+
+TEST(Fichiers, LesDroitsSurviventALEnregistrement)
+{
+    using std::filesystem::perms;
+    Banc banc;
+    const auto fichier = banc.Ecrire("a", "ancien");
+    for (const auto droits : {perms{0600}, perms{0664}, perms{0640}}) {
+        std::filesystem::permissions(fichier, droits);
+        EXPECT_FALSE(RéécrireFichier(fichier, "neuf"));
+        EXPECT_EQ(std::filesystem::status(fichier).permissions(), droits);
+    }
+    EXPECT_FALSE(RéécrireFichier(banc.dossier / "neuf", "b"));
+    EXPECT_EQ(std::filesystem::status(banc.dossier / "neuf").permissions() & perms{0600}, perms{0600});
 }
 
 TEST(Fichiers, DossierAbsentEstUnEchecDOuverture)
@@ -116,11 +168,35 @@ TEST(Fichiers, LExtensionSeTrouveDansToutesLesCasses)
     EXPECT_EQ(NomRéel(dossier + u"/absent", u"Abel.bil"), u"Abel.bil");
 }
 
-TEST(Fichiers, LeMessageNommeLeFichier)
+TEST(Fichiers, LeMessageNommeLeFichierEtSaCause)
 {
-    EXPECT_NE(MessageEchec(EchecFichier::Ouverture, u"/a/b.bil").find(u"/a/b.bil"), Texte::npos);
-    EXPECT_NE(MessageEchec(EchecFichier::Ecriture, u"/a/b.bil").find(u"/a/b.bil"), Texte::npos);
-    EXPECT_NE(MessageEchec(EchecFichier::Ecriture, u"a"), MessageEchec(EchecFichier::Ouverture, u"a"));
+    std::set<Texte> messages;
+    for (const auto échec : {EchecFichier::Ouverture, EchecFichier::Ecriture, EchecFichier::Contenu}) {
+        for (const auto enjeu : {Enjeu::Document, Enjeu::Résultats, Enjeu::Réglage}) {
+            const auto message = MessageEchec(échec, u"/a/b.bil", enjeu);
+            EXPECT_NE(message.find(u"/a/b.bil"), Texte::npos);
+            EXPECT_TRUE(messages.insert(message).second);
+        }
+    }
+    for (const auto échec :
+         {EchecLecture::Absent, EchecLecture::PasUnFichier, EchecLecture::TropGrand, EchecLecture::Illisible}) {
+        const auto message = MessageLecture(échec, u"/a/b.bil");
+        EXPECT_TRUE(message.starts_with(u"Impossible de lire le fichier\n/a/b.bil\n\n"));
+        EXPECT_TRUE(messages.insert(message).second);
+    }
+}
+
+TEST(Fichiers, SeulLEditeurPeutEnregistrerAilleurs)
+{
+    const auto dit = [](Enjeu enjeu, VueTexte mots) {
+        return MessageEchec(EchecFichier::Ecriture, u"a", enjeu).find(mots) != Texte::npos;
+    };
+    EXPECT_TRUE(dit(Enjeu::Document, u"enregistrez ailleurs"));
+    EXPECT_TRUE(dit(Enjeu::Document, u"Rien n'est perdu tant que"));
+    for (const auto enjeu : {Enjeu::Résultats, Enjeu::Réglage}) {
+        EXPECT_FALSE(dit(enjeu, u"ailleurs"));
+        EXPECT_FALSE(dit(enjeu, u"Rien n'est perdu"));
+    }
 }
 
 } // namespace tirelune

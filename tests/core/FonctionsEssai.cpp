@@ -91,4 +91,17 @@ TEST(VérifQuestions, DossierAuNomDuQuestionnaireReste)
     EXPECT_TRUE(banc.Existe("A.qst"));
 }
 
+TEST(VérifQuestions, LExtensionEstTrouvéeDansToutesLesCasses)
+{
+    Banc banc;
+    banc.état.CheminTexteElève = banc.état.CheminAppli + u"/";
+    banc.EcrireChamps("MAJ.QST", {u"Pourquoi ?"});
+    VérifQuestions(banc.état, u" MAJ ");
+    EXPECT_TRUE(banc.état.QuestionnaireExiste);
+    EXPECT_EQ(banc.état.NomFichierQuestions, banc.état.CheminAppli + u"/MAJ.QST");
+    banc.EcrireChamps("MAJ.QST", {u""});
+    VérifQuestions(banc.état, u" MAJ ");
+    EXPECT_FALSE(banc.Existe("MAJ.QST"));
+}
+
 } // namespace tirelune

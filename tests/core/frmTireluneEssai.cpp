@@ -234,6 +234,29 @@ TEST(Tirelune, CodeQuiNeSEcritPasEstDit)
     EXPECT_EQ(banc.Lire("CodeEnseignant.txt"), "\"abc\"\r\n");
 }
 
+TEST(Tirelune, CeQuiTientLieuDeCodeSansEnÊtreUnNeSeRemplacePas)
+{
+    Banc banc;
+    auto& écran = Ouvrir(banc);
+    écran.mnuEnseignant.Cliquer();
+    const auto fichier = DepuisChemin(banc.dossier / "CodeEnseignant.txt");
+    std::filesystem::create_directory(EnChemin(fichier));
+    banc.AnnoncerBoîte(MessageLecture(EchecLecture::PasUnFichier, fichier));
+    Valider(écran.txtCodeEnseignant, u"abc");
+    EXPECT_FALSE(écran.txtVérificationCode.Visible);
+}
+
+TEST(Tirelune, UnNulDansCheminNEmpêchePasDeContinuer)
+{
+    Banc banc;
+    banc.Ecrire("Chemin.txt", std::string("\"/tmp\0\"\r\n", 9));
+    auto& écran = Ouvrir(banc);
+    static_cast<void>(écran);
+    std::error_code erreur;
+    EXPECT_FALSE(std::filesystem::exists(EnChemin(banc.état.CheminBilans), erreur)); // "/tmp" is another folder
+    banc.état.CheminRéseau.clear();
+}
+
 TEST(Tirelune, LeCodePrendSixCaractèresQueLeFichierPeutGarder)
 {
     Banc banc;

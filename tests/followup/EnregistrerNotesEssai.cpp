@@ -119,6 +119,19 @@ TEST(EnregistrerNotes, PointDécimalSelonLaMachine)
     EXPECT_EQ(banc.Choix().lblExo(0).ToolTipText, u"6.25");
 }
 
+TEST(EnregistrerNotes, UnAutreSigneDécimalQuePointOuVirguleDevientUneVirgule)
+{
+    for (const char16_t signe : {u'\u066B', u'·', u'\'', u'\u06F0', u'\0'}) { // the first one is Persian and Arabic
+        Banc banc;
+        banc.plateforme.séparateur = signe;
+        banc.ChargerTexte(u"Un texte.");
+        Noter(banc, 0, 6.25F);
+        EXPECT_EQ(banc.Note(0), u"6,25");
+        EXPECT_TRUE(SauverBilan(banc.Choix()));
+        EXPECT_NE(banc.Lire("Léa.bil")->find("\"6,25\""), std::string::npos);
+    }
+}
+
 // ---- The file ----------------------------------------------------------------------------------------------------
 
 TEST(SauverBilan, SansRéseauLeDossierDuProgrammeSert)

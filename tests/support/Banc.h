@@ -32,6 +32,11 @@ void PrintTo(const Propriété<T>& propriété, std::ostream* flux)
     *flux << ::testing::PrintToString(propriété());
 }
 void PrintTo(Couleur couleur, std::ostream* flux);
+template <class T>
+void PrintTo(const Lecture<T>& lu, std::ostream* flux)
+{
+    *flux << ::testing::PrintToString(static_cast<const std::optional<T>&>(lu));
+}
 
 class PlateformeEssai final : public Plateforme {
 public:
