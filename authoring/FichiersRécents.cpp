@@ -1,9 +1,26 @@
 #include "authoring/FichiersRécents.h"
 
-#include "core/Fichiers.h"
+#include "core/Plateforme.h"
 #include "core/Windows1252.h"
 
+#include <algorithm>
+#include <optional>
+
 namespace tirelune {
+
+namespace {
+
+constexpr VueTexte EnMémoire = u"en mémoire"; // the tag of a list that the file could not take whole
+
+std::optional<std::string> EnLigne(VueTexte chemin)
+{
+    auto octets = EnWindows1252(chemin);
+    if (!octets || octets->find_first_of("\r\n") != std::string::npos)
+        return std::nullopt;
+    return octets->append("\r\n");
+}
+
+} // namespace
 
 Texte FichierRécents(VueTexte cheminAppli)
 {
@@ -23,6 +40,8 @@ void MettreEnTête(ListBox& récents, const Texte& chemin)
 
 bool LireRécents(ListBox& récents, const Texte& fichier)
 {
+    if (récents.Tag == EnMémoire)
+        return true;
     récents.Clear();
     const auto octets = LireFichier(EnChemin(fichier));
     if (!octets)
@@ -40,14 +59,20 @@ bool LireRécents(ListBox& récents, const Texte& fichier)
     return true;
 }
 
+void EcrireRécents(Plateforme& plateforme, ListBox& récents, const Texte& fichier)
+{
+    const auto& chemins = récents.Eléments();
+    const bool entière =
+        std::all_of(chemins.begin(), chemins.end(), [](const auto& c) { return EnLigne(c).has_value(); });
+    const bool écrite = !plateforme.Réécrire(EnChemin(fichier), ComposerRécents(récents));
+    récents.Tag = écrite && entière ? Texte{} : Texte{EnMémoire};
+}
+
 std::string ComposerRécents(const ListBox& récents)
 {
     std::string contenu;
-    for (const auto& chemin : récents.Eléments()) {
-        const auto octets = EnWindows1252(chemin);
-        if (octets && octets->find_first_of("\r\n") == std::string::npos)
-            contenu += *octets + "\r\n";
-    }
+    for (const auto& chemin : récents.Eléments())
+        contenu += EnLigne(chemin).value_or("");
     return contenu;
 }
 

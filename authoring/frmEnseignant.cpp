@@ -64,6 +64,14 @@ Texte CheminDeLEntrée(VueTexte entrée)
     return chemin;
 }
 
+// A save writes rich text there: over a text it may, over a page, a table or results that were read as plain text it
+// must not.
+bool AccueilleDuTexteRiche(VueTexte fichier, GenreDeTexte genre)
+{
+    const auto nom = Minuscules(fichier);
+    return genre == GenreDeTexte::Riche || nom.ends_with(u".rtf") || nom.ends_with(u".txt");
+}
+
 // The file's name, extension included.
 Texte TitreDe(const Texte& fichier)
 {
@@ -422,8 +430,8 @@ void frmEnseignant::mnuOuvrir_Click()
          .Filtre = u"Textes RTF|*.rtf|Textes TXT|*.txt|Tous fichiers|*.*",
          .Dossier = état.CheminTextes,
          .NomFichier = u"*.rtf"});
-    if (choisi && rtfTexte.LoadFile(EnChemin(*choisi), true)) {
-        AccueillirTexte(*choisi);
+    if (const auto genre = choisi ? rtfTexte.LoadFile(EnChemin(*choisi), true) : std::nullopt) {
+        AccueillirTexte(*choisi, *genre);
         return;
     }
     état.TexteModifié = false; // even after a cancel
@@ -433,9 +441,10 @@ void frmEnseignant::mnuOuvrir_Click()
 }
 
 // What follows the loading of a text. From here on nothing is asked about changes of the one before.
-void frmEnseignant::AccueillirTexte(const Texte& fichier)
+void frmEnseignant::AccueillirTexte(const Texte& fichier, GenreDeTexte genre)
 {
     PrendreNoms(fichier);
+    àNePasRemplacer_ = AccueilleDuTexteRiche(fichier, genre) ? Texte{} : Rogner(fichier);
     Caption = état.NomFichierTexte;
     AjouterRécent();
     ChargerRécents();
@@ -465,7 +474,7 @@ frmEnseignant::Issue frmEnseignant::Enregistrer()
 {
     CorrigerTexte();
     état.NomFichierTexte = Rogner(état.NomFichierTexte);
-    if (état.NomFichierTexte.empty()) {
+    if (état.NomFichierTexte.empty() || état.NomFichierTexte == àNePasRemplacer_) {
         if (const auto issue = EnregistrerSous(); issue != Issue::Enregistré)
             return issue;
     } else {
@@ -486,11 +495,11 @@ void frmEnseignant::mnuEnregistrerSous_Click()
 frmEnseignant::Issue frmEnseignant::EnregistrerSous()
 {
     CorrigerTexte();
-    const auto choisi = application_.plateforme.DemanderFichierAEnregistrer(
-        {.Filtre = u"Texte mis en forme (*.rtf)|*.rtf",
-         .Dossier = état.CheminAppli,
-         .NomFichier = état.NomFichierTexte.empty() ? NomProposé(rtfTexte.Text()) : état.NomFichierTexte,
-         .Extension = u"rtf"});
+    const auto choisi =
+        application_.plateforme.DemanderFichierAEnregistrer({.Filtre = u"Texte mis en forme (*.rtf)|*.rtf",
+                                                             .Dossier = état.CheminAppli,
+                                                             .NomFichier = NomAProposer(),
+                                                             .Extension = u"rtf"});
     if (!choisi)
         return Issue::Annulé;
     auto fichier = *choisi;
@@ -499,6 +508,7 @@ frmEnseignant::Issue frmEnseignant::EnregistrerSous()
     if (!Ecrire(fichier))
         return Issue::Echec;
     PrendreNoms(fichier);
+    àNePasRemplacer_.clear();
     if (état.TitreFichierTexte.empty())
         état.TitreFichierTexte = TitreDe(fichier);
     Caption = état.NomFichierTexte;
@@ -508,6 +518,15 @@ frmEnseignant::Issue frmEnseignant::EnregistrerSous()
     return Issue::Enregistré;
 }
 
+Texte frmEnseignant::NomAProposer() const
+{
+    if (état.NomFichierTexte.empty())
+        return NomProposé(rtfTexte.Text());
+    if (état.NomFichierTexte == àNePasRemplacer_)
+        return état.CheminTextes + état.TitreFichierTexte + u".rtf";
+    return état.NomFichierTexte;
+}
+
 // False when the file could not be written: the user has been told, and the text is still to be saved.
 bool frmEnseignant::Ecrire(const Texte& fichier)
 {
@@ -515,7 +534,7 @@ bool frmEnseignant::Ecrire(const Texte& fichier)
     if (!échec)
         return true;
     état.TexteModifié = true;
-    Avertir(MessageEchec(*échec, fichier));
+    Avertir(MessageEchec(*échec, fichier, Enjeu::Document));
     return false;
 }
 
@@ -565,9 +584,7 @@ void frmEnseignant::mnuQuitter_Click()
 void frmEnseignant::AjouterRécent()
 {
     MettreEnTête(accueil_.lstFichiers, état.NomFichierTexte);
-    // A convenience: a list that can't be written is no reason to stop the teacher.
-    static_cast<void>(application_.plateforme.Réécrire(EnChemin(FichierRécents(état.CheminAppli)),
-                                                       ComposerRécents(accueil_.lstFichiers)));
+    EcrireRécents(application_.plateforme, accueil_.lstFichiers, FichierRécents(état.CheminAppli));
 }
 
 void frmEnseignant::ChargerRécents()
@@ -588,11 +605,12 @@ void frmEnseignant::mnuRécent_Click(int i)
     const auto fichier = CheminDeLEntrée(mnuRécent(i).Caption); // a save puts another one there
     if (!DemanderEnregistrement())
         return;
-    if (!rtfTexte.LoadFile(EnChemin(fichier), true)) {
+    const auto genre = rtfTexte.LoadFile(EnChemin(fichier), true);
+    if (!genre) {
         Avertir(u"Je ne trouve pas le fichier sélectionné !", u"Fichier non trouvé");
         return;
     }
-    AccueillirTexte(fichier);
+    AccueillirTexte(fichier, *genre);
 }
 
 // ---- Editing -----------------------------------------------------------------------------------------------------

@@ -141,9 +141,10 @@ private:
 
     Issue Enregistrer();
     Issue EnregistrerSous();
+    [[nodiscard]] Texte NomAProposer() const;
     [[nodiscard]] bool Ecrire(const Texte& fichier);
     void CorrigerTexte();
-    void AccueillirTexte(const Texte& fichier);
+    void AccueillirTexte(const Texte& fichier, GenreDeTexte genre);
     void PrendreNoms(const Texte& fichier);
     void OublierNoms();
     void OuvrirOutil(std::string_view nom);
@@ -151,6 +152,7 @@ private:
 
     frmTirelune& accueil_;
     ListePolices liste_;
+    Texte àNePasRemplacer_; // the file read, when it is of a kind that a save would destroy
 };
 
 } // namespace tirelune

@@ -3,7 +3,7 @@
 #include "core/Ecran.h"
 #include "core/Fichiers.h"
 #include "core/LecteurRtf.h"
-#include "core/Windows1252.h"
+#include "core/TexteSimple.h"
 
 #include <algorithm>
 
@@ -52,19 +52,20 @@ void RichTextBox::Text(VueTexte texte)
     TextRTF(TexteRiche{NormaliserLignes(texte), format});
 }
 
-bool RichTextBox::LoadFile(const Chemin& fichier, bool texteSimple)
+std::optional<GenreDeTexte> RichTextBox::LoadFile(const Chemin& fichier, bool texteSimple)
 {
     const auto octets = LireFichier(fichier);
     if (!octets)
-        return false;
+        return std::nullopt;
     if (auto texte = LireRtf(*octets)) {
         TextRTF(std::move(*texte));
-        return true;
+        return GenreDeTexte::Riche;
     }
-    if (!texteSimple)
-        return false;
-    Text(DepuisWindows1252(*octets));
-    return true;
+    const auto texte = texteSimple ? LireTexteSimple(*octets) : std::nullopt;
+    if (!texte)
+        return std::nullopt;
+    Text(*texte);
+    return GenreDeTexte::Simple;
 }
 
 void RichTextBox::SelStart(std::size_t début)

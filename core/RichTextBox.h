@@ -7,6 +7,8 @@ namespace tirelune {
 
 class RichTextBox;
 
+enum class GenreDeTexte { Riche, Simple };
+
 // A format of the selection: mixed values read as nothing; what is assigned goes to the whole selection. With an
 // empty selection it is the format at the caret, and what is assigned goes to the next text inserted there. Behind a
 // marked word the caret isn't struck through.
@@ -68,8 +70,9 @@ public:
     void Text(VueTexte texte);
     [[nodiscard]] std::size_t Longueur() const { return texte_.Longueur(); }
 
-    // False when the file can't be read: RTF as rich text; anything else as plain text when `texteSimple` says so.
-    [[nodiscard]] bool LoadFile(const Chemin& fichier, bool texteSimple = false);
+    // Takes RTF as rich text, other text as plain text when `texteSimple` says so, and tells which it was. Nothing,
+    // and the box stays as it is, when the file can't be read or is no text.
+    [[nodiscard]] std::optional<GenreDeTexte> LoadFile(const Chemin& fichier, bool texteSimple = false);
 
     // Cut to the text; a new start empties the selection.
     [[nodiscard]] std::size_t SelStart() const { return début_; }

@@ -119,6 +119,11 @@ TEST(FichiersRécents, UnCheminQuiNeTientPasSurUneLigneAnsiEstLaisséDeCôté)
     récents.liste.AddItem(u"/t/deux\nlignes.rtf");
     récents.liste.AddItem(u"/t/chat.rtf");
     EXPECT_EQ(ComposerRécents(récents.liste), "/t/chat.rtf\r\n");
+    const auto fichier = DepuisChemin(récents.banc.dossier / "liste");
+    EcrireRécents(récents.banc.plateforme, récents.liste, fichier);
+    EXPECT_EQ(récents.banc.Lire("liste"), "/t/chat.rtf\r\n");
+    EXPECT_TRUE(LireRécents(récents.liste, fichier));
+    EXPECT_EQ(récents.liste.ListCount(), 3); // it stays in the menu while the program runs
 }
 
 } // namespace tirelune

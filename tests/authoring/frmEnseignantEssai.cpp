@@ -226,7 +226,7 @@ TEST_P(Départ, NAPasLieuQuandLEnregistrementVouluEchoue)
     banc.Taper(u"Le chat");
     banc.plateforme.échecEcriture = [](const Chemin&) { return EchecFichier::Ecriture; };
     banc.AnnoncerBoîte(Question, Réponse::Oui);
-    banc.AnnoncerBoîte(MessageEchec(EchecFichier::Ecriture, banc.CheminDe("chat.rtf")));
+    banc.AnnoncerBoîte(MessageEchec(EchecFichier::Ecriture, banc.CheminDe("chat.rtf"), Enjeu::Document));
     Partir(banc.écran);
     EXPECT_TRUE(banc.écran.EstChargé());
     EXPECT_EQ(banc.écran.rtfTexte.Text(), u"Le chat");
@@ -241,7 +241,7 @@ TEST_P(Départ, NAPasLieuQuandLePremierEnregistrementEchoue)
     const auto visé = banc.CheminDe("absent/chat.rtf");
     banc.AnnoncerBoîte(Question, Réponse::Oui);
     banc.AnnoncerFichier(visé);
-    banc.AnnoncerBoîte(MessageEchec(EchecFichier::Ouverture, visé));
+    banc.AnnoncerBoîte(MessageEchec(EchecFichier::Ouverture, visé, Enjeu::Document));
     Partir(banc.écran);
     EXPECT_TRUE(banc.écran.EstChargé());
     EXPECT_EQ(banc.écran.rtfTexte.Text(), u"Le chat");
@@ -503,7 +503,7 @@ TEST(Editeur, NouveauGardeLeTexteQueLEnregistrementNAPasPuEcrire)
     banc.Taper(u"Le chat");
     banc.plateforme.échecEcriture = [](const Chemin&) { return EchecFichier::Ouverture; };
     banc.AnnoncerBoîte(Question, Réponse::Oui);
-    banc.AnnoncerBoîte(MessageEchec(EchecFichier::Ouverture, banc.CheminDe("chat.rtf")));
+    banc.AnnoncerBoîte(MessageEchec(EchecFichier::Ouverture, banc.CheminDe("chat.rtf"), Enjeu::Document));
     banc.écran.mnuNouveau.Cliquer();
     EXPECT_EQ(banc.écran.rtfTexte.Text(), u"Le chat");
     EXPECT_TRUE(banc.état.TexteModifié);
@@ -634,6 +634,59 @@ TEST(Editeur, UnTexteSimpleOuvertEtEnregistréDevientDuRtfSousSonNom)
     EXPECT_EQ(LireRtf(octets)->Caractères(), u"L'été\r\nœuf");
 }
 
+TEST(Editeur, UnFichierQuiNEstPasDuTexteEstRefusé)
+{
+    BancEditeur banc;
+    banc.Nommer("ancien.rtf");
+    banc.Taper(u"Le chat");
+    banc.Ecrire("lettre.docx", "PK\x03\x04");
+    banc.AnnoncerFichier(banc.CheminDe("lettre.docx"));
+    banc.AnnoncerBoîte(u"Impossible de lire ce format de fichier !");
+    banc.écran.mnuOuvrir.Cliquer();
+    EXPECT_EQ(banc.écran.rtfTexte.Text(), u"Le chat");
+    banc.écran.mnuEnregistrer.Cliquer();
+    EXPECT_EQ(banc.Lire("lettre.docx"), "PK\x03\x04");
+    EXPECT_TRUE(banc.Existe("ancien.rtf"));
+}
+
+TEST(Editeur, CeQuiNEstPasUnTexteDuProgrammeNeSeRemplacePasSansDemander)
+{
+    for (const auto* nom : {"page.html", "Léa.bil", "MAJ.QST"}) {
+        BancEditeur banc;
+        banc.écran.mnuAuto.Checked = false;
+        banc.Ecrire(nom, "\"abc\"");
+        banc.AnnoncerFichier(banc.CheminDe(nom));
+        banc.écran.mnuOuvrir.Cliquer();
+        banc.Taper(u"x");
+
+        banc.AnnoncerFichier(std::nullopt);
+        banc.écran.mnuEnregistrer.Cliquer();
+        EXPECT_EQ(banc.Lire(nom), "\"abc\"");
+        EXPECT_EQ(banc.plateforme.dialogues.back().NomFichier,
+                  banc.CheminDe(Chemin{nom}.replace_extension("rtf").string()));
+        EXPECT_TRUE(banc.état.TexteModifié);
+
+        banc.AnnoncerFichier(banc.CheminDe("texte.rtf"));
+        banc.écran.mnuEnregistrer.Cliquer();
+        banc.Taper(u"y");
+        banc.écran.mnuEnregistrer.Cliquer();
+        EXPECT_EQ(LireRtf(banc.Lire("texte.rtf").value_or(""))->Caractères(), u"xy\"abc\"");
+        EXPECT_EQ(banc.Lire(nom), "\"abc\"");
+    }
+}
+
+TEST(Editeur, DuTexteRicheSousUnAutreNomSEnregistreTelQuel)
+{
+    BancEditeur banc;
+    banc.écran.mnuAuto.Checked = false;
+    banc.Ecrire("chat.doc", "{\\rtf1 chat}");
+    banc.AnnoncerFichier(banc.CheminDe("chat.doc"));
+    banc.écran.mnuOuvrir.Cliquer();
+    banc.Taper(u"x");
+    banc.écran.mnuEnregistrer.Cliquer();
+    EXPECT_EQ(LireRtf(banc.Lire("chat.doc").value_or(""))->Caractères(), u"xchat");
+}
+
 // ---- Save --------------------------------------------------------------------------------------------------------
 
 TEST(Editeur, EnregistrerEcritSousLeNomConnu)
@@ -654,7 +707,7 @@ TEST(Editeur, EnregistrerUneSecondeFoisRéussitAprèsUnEchec)
     banc.Nommer("chat.rtf");
     banc.Taper(u"Le chat");
     banc.plateforme.échecEcriture = [](const Chemin&) { return EchecFichier::Ecriture; };
-    banc.AnnoncerBoîte(MessageEchec(EchecFichier::Ecriture, banc.CheminDe("chat.rtf")));
+    banc.AnnoncerBoîte(MessageEchec(EchecFichier::Ecriture, banc.CheminDe("chat.rtf"), Enjeu::Document));
     banc.écran.mnuEnregistrer.Cliquer();
     EXPECT_TRUE(banc.état.TexteModifié);
     EXPECT_EQ(banc.accueil.lstFichiers.ListCount(), 0);
@@ -670,7 +723,7 @@ TEST(Editeur, UnTexteSansChangementQuiNAPasPuEtreEcritEstAEnregistrer)
 {
     BancEditeur banc;
     banc.Nommer("parti/chat.rtf");
-    banc.AnnoncerBoîte(MessageEchec(EchecFichier::Ouverture, banc.CheminDe("parti/chat.rtf")));
+    banc.AnnoncerBoîte(MessageEchec(EchecFichier::Ouverture, banc.CheminDe("parti/chat.rtf"), Enjeu::Document));
     banc.écran.mnuEnregistrer.Cliquer();
     EXPECT_TRUE(banc.état.TexteModifié);
 }
@@ -680,7 +733,7 @@ TEST(Editeur, UnDossierDisparuEstDit)
     BancEditeur banc;
     banc.Nommer("parti/chat.rtf");
     banc.Taper(u"Le chat");
-    banc.AnnoncerBoîte(MessageEchec(EchecFichier::Ouverture, banc.CheminDe("parti/chat.rtf")));
+    banc.AnnoncerBoîte(MessageEchec(EchecFichier::Ouverture, banc.CheminDe("parti/chat.rtf"), Enjeu::Document));
     banc.écran.mnuEnregistrer.Cliquer();
     EXPECT_TRUE(banc.état.TexteModifié);
     EXPECT_EQ(banc.écran.rtfTexte.Text(), u"Le chat");
@@ -837,7 +890,7 @@ TEST(Editeur, UnEchecDEnregistrerSousEstDitEtLaisseLesNoms)
     banc.Taper(u"Le chat");
     const auto visé = banc.CheminDe("absent/chien.rtf");
     banc.AnnoncerFichier(visé);
-    banc.AnnoncerBoîte(MessageEchec(EchecFichier::Ouverture, visé));
+    banc.AnnoncerBoîte(MessageEchec(EchecFichier::Ouverture, visé, Enjeu::Document));
     banc.écran.mnuEnregistrerSous.Cliquer();
     EXPECT_TRUE(banc.état.TexteModifié);
     EXPECT_EQ(banc.écran.rtfTexte.Text(), u"Le chat");
@@ -905,6 +958,31 @@ TEST(Editeur, LeDixièmeFichierPousseLePlusAncienHorsDuMenuEtDuFichier)
     for (int i = 10; i >= 2; --i)
         attendu += (banc.dossier / NomNuméroté(i)).string() + "\r\n";
     EXPECT_EQ(LireFichier(banc.Récents()), attendu);
+}
+
+TEST(Editeur, UneListeQuiNeSEcritPasResteAuMenu)
+{
+    BancEditeur banc;
+    banc.plateforme.échecEcriture = [&](const Chemin& fichier) {
+        return fichier == banc.Récents() ? std::optional{EchecFichier::Ouverture} : std::nullopt;
+    };
+    for (const auto* nom : {"a.rtf", "b.rtf"}) {
+        banc.AnnoncerFichier(banc.CheminDe(nom));
+        banc.écran.mnuEnregistrerSous.Cliquer();
+    }
+    EXPECT_EQ(banc.écran.mnuRécent(0).Caption, Entrée(1, banc.CheminDe("b.rtf")));
+    EXPECT_EQ(banc.écran.mnuRécent(1).Caption, Entrée(2, banc.CheminDe("a.rtf")));
+    frmEnseignant suivant{banc.accueil}; // for the whole run
+    suivant.Charger();
+    EXPECT_EQ(suivant.mnuRécent(1).Caption, Entrée(2, banc.CheminDe("a.rtf")));
+    suivant.Décharger();
+
+    banc.plateforme.échecEcriture = {};
+    banc.AnnoncerFichier(banc.CheminDe("c.rtf"));
+    banc.écran.mnuEnregistrerSous.Cliquer();
+    banc.EcrireRécents("/t/a.rtf\r\n"); // whole on the disk: the file leads again
+    banc.écran.ChargerRécents();
+    EXPECT_EQ(banc.écran.mnuRécent(0).Caption, Entrée(1, u"/t/a.rtf"));
 }
 
 TEST(Editeur, UnRécentSOuvreEtPasseEnTête)
@@ -981,7 +1059,7 @@ TEST(Editeur, UnRécentNePerdPasLeTexteQuiNAPasPuEtreEcrit)
     banc.Taper(u"b");
     banc.plateforme.échecEcriture = [](const Chemin&) { return EchecFichier::Ouverture; };
     banc.AnnoncerBoîte(Question, Réponse::Oui);
-    banc.AnnoncerBoîte(MessageEchec(EchecFichier::Ouverture, banc.CheminDe("a.rtf")));
+    banc.AnnoncerBoîte(MessageEchec(EchecFichier::Ouverture, banc.CheminDe("a.rtf"), Enjeu::Document));
     banc.écran.mnuRécent(0).Cliquer();
     EXPECT_EQ(banc.écran.rtfTexte.Text(), u"ba");
     EXPECT_TRUE(banc.état.TexteModifié);
@@ -1024,7 +1102,7 @@ TEST(Editeur, UnCheminQueLaListeNePeutGarderSOuvreQuandMême)
     banc.écran.mnuOuvrir.Cliquer();
     EXPECT_EQ(banc.écran.rtfTexte.Text(), u"a");
     EXPECT_EQ(banc.état.TitreFichierTexte, u"日本");
-    EXPECT_FALSE(banc.écran.mnuRécent(0).Visible);
+    EXPECT_TRUE(banc.écran.mnuRécent(0).Visible); // while the program runs
 }
 
 // ---- Editing -----------------------------------------------------------------------------------------------------

@@ -197,4 +197,27 @@ TEST(RichTextBox, UnFichierQuiNEstPasDuRtfVeutEtreDemandé)
     EXPECT_EQ(boîte.rtf.Text(), u"été\r\n");
 }
 
+TEST(RichTextBox, ChargeUnTexteSelonSonGenre)
+{
+    BoîteÉcoutée boîte;
+    EXPECT_EQ(boîte.rtf.LoadFile(boîte.banc.Ecrire("a.rtf", "{\\rtf1 un}"), true), GenreDeTexte::Riche);
+    EXPECT_EQ(boîte.rtf.Text(), u"un");
+    EXPECT_EQ(boîte.rtf.LoadFile(boîte.banc.Ecrire("a.txt", "\xC3\xA9t\xC3\xA9\n\xC5\x93uf"), true), GenreDeTexte::Simple);
+    EXPECT_EQ(boîte.rtf.Text(), u"été\r\nœuf");
+}
+
+TEST(RichTextBox, GardeSonTexteQuandLeFichierNEnEstPasUn)
+{
+    BoîteÉcoutée boîte;
+    boîte.rtf.Text(u"chat");
+    for (const auto& octets : {std::string("PK\x03\x04"), std::string("a\0b", 3)}) {
+        const auto fichier = boîte.banc.Ecrire("a.docx", octets);
+        EXPECT_FALSE(boîte.rtf.LoadFile(fichier, true));
+        EXPECT_FALSE(boîte.rtf.LoadFile(fichier));
+    }
+    EXPECT_FALSE(boîte.rtf.LoadFile(boîte.banc.Ecrire("a.txt", "texte simple")));
+    EXPECT_FALSE(boîte.rtf.LoadFile(boîte.banc.dossier, true));
+    EXPECT_EQ(boîte.rtf.Text(), u"chat");
+}
+
 } // namespace tirelune
