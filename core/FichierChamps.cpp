@@ -9,9 +9,6 @@ namespace tirelune {
 
 namespace {
 
-constexpr std::uintmax_t TailleMaximale = 64U << 20U; // bytes of a file
-constexpr std::size_t ChampsMaximum = 1'000'000;      // in a file, so that damage can't take all the memory
-
 // One pass: each byte is looked at a fixed number of times, whatever the file holds.
 class Découpage {
 public:
@@ -137,15 +134,20 @@ std::vector<Texte> DécouperChamps(std::string_view octets, Valeurs valeurs)
     return *Découper(octets, valeurs, octets.size()); // no field without a byte
 }
 
-Lecture<std::vector<Texte>> LireChamps(const Chemin& fichier, Valeurs valeurs)
+Lecture<std::vector<Texte>> DécouperFichier(std::string_view octets, Valeurs valeurs)
 {
-    const auto octets = LireFichier(fichier, TailleMaximale);
-    if (!octets)
-        return octets.Echec;
-    auto champs = Découper(*octets, valeurs, ChampsMaximum);
+    auto champs = Découper(octets, valeurs, ChampsDUnFichier);
     if (!champs)
         return EchecLecture::TropGrand;
     return std::move(*champs);
+}
+
+Lecture<std::vector<Texte>> LireChamps(const Chemin& fichier, Valeurs valeurs)
+{
+    const auto octets = LireFichier(fichier, TailleDUnFichierDeChamps);
+    if (!octets)
+        return octets.Echec;
+    return DécouperFichier(*octets, valeurs);
 }
 
 std::optional<std::string> ComposerChamps(const std::vector<Texte>& champs)

@@ -26,7 +26,12 @@ enum class Valeurs {
 // What was read, written and read again is the same, whatever the bytes were.
 std::vector<Texte> DécouperChamps(std::string_view octets, Valeurs valeurs = Valeurs::SurPlusieursLignes);
 
-// The same of a file.
+// What a file may hold, so that a damaged one can't take all the memory.
+inline constexpr std::uintmax_t TailleDUnFichierDeChamps = 64U << 20U; // bytes
+inline constexpr std::size_t ChampsDUnFichier = 500'000;
+
+// The same of a file, and of the bytes of one. Too large with more bytes or fields than a file may hold.
+Lecture<std::vector<Texte>> DécouperFichier(std::string_view octets, Valeurs valeurs = Valeurs::SurPlusieursLignes);
 Lecture<std::vector<Texte>> LireChamps(const Chemin& fichier, Valeurs valeurs = Valeurs::SurPlusieursLignes);
 
 // The file's bytes. Nothing when a character has no place in Windows-1252.

@@ -143,9 +143,9 @@ TEST(FichierChamps, UnFichierTropGrandEstRefusé)
 {
     Banc banc;
     const auto fichier = banc.Ecrire("a.dat", "\"a\"\r\n");
-    std::filesystem::resize_file(fichier, 64U << 20U);
+    std::filesystem::resize_file(fichier, TailleDUnFichierDeChamps);
     EXPECT_EQ(LireChamps(fichier, Valeurs::SurUneLigne)->size(), 2U); // the rest is a value of NULs
-    std::filesystem::resize_file(fichier, (64U << 20U) + 1);
+    std::filesystem::resize_file(fichier, TailleDUnFichierDeChamps + 1);
     EXPECT_EQ(LireChamps(fichier).Echec, EchecLecture::TropGrand);
 }
 
@@ -153,9 +153,9 @@ TEST(FichierChamps, TropDeChampsPourLaMémoireSontRefusés)
 {
     Banc banc;
     std::string octets;
-    for (int i = 0; i < 1'000'000; ++i)
+    for (std::size_t i = 0; i < ChampsDUnFichier; ++i)
         octets += "*\n";
-    EXPECT_EQ(LireChamps(banc.Ecrire("a.dat", octets))->size(), 1'000'000U);
+    EXPECT_EQ(LireChamps(banc.Ecrire("a.dat", octets))->size(), ChampsDUnFichier);
     const auto lus = LireChamps(banc.Ecrire("b.dat", octets + "*"));
     EXPECT_FALSE(lus);
     EXPECT_EQ(lus.Echec, EchecLecture::TropGrand);
