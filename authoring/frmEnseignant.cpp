@@ -534,7 +534,7 @@ bool frmEnseignant::Ecrire(const Texte& fichier)
     if (!échec)
         return true;
     état.TexteModifié = true;
-    Avertir(MessageEchec(*échec, fichier, Enjeu::Document));
+    Avertir(MessageEchec(*échec, fichier));
     return false;
 }
 

@@ -1,6 +1,5 @@
 #include "core/FichierChamps.h"
 
-#include "core/Plateforme.h"
 #include "core/Windows1252.h"
 
 #include <algorithm>
@@ -160,13 +159,6 @@ std::optional<std::string> ComposerChamps(const std::vector<Texte>& champs)
         octets += '"' + *valeur + "\"\r\n";
     }
     return octets;
-}
-
-std::optional<EchecFichier> RéécrireChamps(Plateforme& plateforme, const Chemin& fichier,
-                                           const std::vector<Texte>& champs)
-{
-    const auto octets = ComposerChamps(champs);
-    return octets ? plateforme.Réécrire(fichier, *octets) : EchecFichier::Contenu;
 }
 
 bool TientDansUnChamp(VueTexte valeur)

@@ -11,8 +11,6 @@
 
 namespace tirelune {
 
-class Plateforme;
-
 inline constexpr VueTexte Marqueur = u"*";
 
 enum class Valeurs {
@@ -36,10 +34,6 @@ Lecture<std::vector<Texte>> LireChamps(const Chemin& fichier, Valeurs valeurs = 
 
 // The file's bytes. Nothing when a character has no place in Windows-1252.
 std::optional<std::string> ComposerChamps(const std::vector<Texte>& champs);
-
-// Rewrites a file with these fields. Where they can't be composed, the file stays as it is.
-std::optional<EchecFichier> RéécrireChamps(Plateforme& plateforme, const Chemin& fichier,
-                                           const std::vector<Texte>& champs);
 
 // True when a value comes back as it was: no double quote, every character in Windows-1252.
 bool TientDansUnChamp(VueTexte valeur);

@@ -109,62 +109,42 @@ std::optional<EchecFichier> RéécrireFichier(const Chemin& fichier, std::string
     return std::nullopt;
 }
 
-namespace {
-
-VueTexte Cause(EchecFichier échec)
+VueTexte CauseDe(EchecFichier échec)
 {
     switch (échec) {
     case EchecFichier::Ouverture:
-        return u"Son dossier n'existe pas, n'est plus accessible, ou il est interdit d'y écrire.";
+        return u"Vérifiez que son dossier existe et que vous avez le droit d'y écrire.";
     case EchecFichier::Ecriture:
         return u"Le disque est peut-être plein ou n'est plus accessible.";
     case EchecFichier::Contenu:
         break;
     }
-    return u"Un caractère ne peut pas y être enregistré. Le fichier est resté comme il était.";
+    return u"Il ne peut pas garder un des caractères.";
 }
 
-VueTexte Cause(EchecLecture échec)
+Texte MessageEchec(EchecFichier échec, VueTexte fichier)
 {
-    switch (échec) {
-    case EchecLecture::Absent:
-        return u"Il n'existe pas, ou son dossier n'est plus accessible.";
-    case EchecLecture::PasUnFichier:
-        return u"Ce n'est pas un fichier ordinaire.";
-    case EchecLecture::TropGrand:
-        return u"Il est trop grand.";
-    case EchecLecture::Illisible:
-        break;
-    }
-    return u"Le disque n'est plus accessible, ou il est interdit de lire ce fichier.";
-}
-
-VueTexte Suite(Enjeu enjeu)
-{
-    switch (enjeu) {
-    case Enjeu::Document:
-        return u"Rien n'est perdu tant que le texte reste ouvert : recommencez quand ce sera réparé, ou enregistrez "
-               u"ailleurs.";
-    case Enjeu::Résultats:
-        return u"Tes résultats restent en mémoire tant que tu ne quittes pas le choix des exercices. Préviens ton "
-               u"enseignant.";
-    case Enjeu::Réglage:
-        break;
-    }
-    return u"Recommencez quand ce sera réparé.";
-}
-
-} // namespace
-
-Texte MessageEchec(EchecFichier échec, VueTexte fichier, Enjeu enjeu)
-{
-    Texte message = u"Impossible d'enregistrer le fichier\n" + Texte{fichier} + u"\n\n";
-    return message.append(Cause(échec)).append(u"\n").append(Suite(enjeu));
+    return (u"Impossible d'enregistrer le fichier\n" + Texte{fichier} + u"\n\n").append(CauseDe(échec)) +
+           u"\nRien n'est perdu tant que le texte reste ouvert : recommencez quand ce sera réparé, ou enregistrez "
+           u"ailleurs.";
 }
 
 Texte MessageLecture(EchecLecture échec, VueTexte fichier)
 {
-    return (u"Impossible de lire le fichier\n" + Texte{fichier} + u"\n\n").append(Cause(échec));
+    const auto cause = [échec]() -> VueTexte {
+        switch (échec) {
+        case EchecLecture::Absent:
+            return u"Il n'existe pas, ou son dossier n'est plus accessible.";
+        case EchecLecture::PasUnFichier:
+            return u"Ce n'est pas un fichier ordinaire.";
+        case EchecLecture::TropGrand:
+            return u"Il est trop grand.";
+        case EchecLecture::Illisible:
+            break;
+        }
+        return u"Le disque n'est plus accessible, ou il est interdit de lire ce fichier.";
+    };
+    return (u"Impossible de lire le fichier\n" + Texte{fichier} + u"\n\n").append(cause());
 }
 
 } // namespace tirelune

@@ -44,15 +44,13 @@ Lecture<std::string> LireFichier(const Chemin& fichier, std::uintmax_t limite = 
 // Deletes the file, then writes it anew in one piece, flushed to the disk, with the permissions that it had.
 std::optional<EchecFichier> RéécrireFichier(const Chemin& fichier, std::string_view contenu);
 
-// What could not be saved, and so what is true of it now.
-enum class Enjeu {
-    Document,  // the editor holds it, and can save it elsewhere
-    Résultats, // the chooser holds them; it is a pupil who reads the message
-    Réglage,   // a code, a folder, a new pupil: given once more
-};
+// Why it could not be written, and what to look at.
+VueTexte CauseDe(EchecFichier échec);
 
-// The messages for a file that could not be written or read; they name the file and say what to do.
-Texte MessageEchec(EchecFichier échec, VueTexte fichier, Enjeu enjeu);
+// For a text that could not be written: its editor still holds it, and can save it elsewhere.
+Texte MessageEchec(EchecFichier échec, VueTexte fichier);
+
+// For whatever could not be read: names the file and says why.
 Texte MessageLecture(EchecLecture échec, VueTexte fichier);
 
 } // namespace tirelune

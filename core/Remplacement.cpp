@@ -1,5 +1,6 @@
 #include "core/Remplacement.h"
 
+#include "core/FichierChamps.h"
 #include "core/Plateforme.h"
 
 namespace tirelune {
@@ -26,12 +27,17 @@ std::optional<EchecRemplacement> RemplacerFichier(Plateforme& plateforme, const 
     return std::nullopt;
 }
 
+std::optional<EchecRemplacement> RemplacerChamps(Plateforme& plateforme, const Chemin& fichier,
+                                                 const std::vector<Texte>& champs)
+{
+    const auto octets = ComposerChamps(champs);
+    return octets ? RemplacerFichier(plateforme, fichier, *octets) : EchecRemplacement{EchecFichier::Contenu, true};
+}
+
 Texte MessageEchec(const EchecRemplacement& échec, VueTexte fichier)
 {
-    Texte message = u"Impossible d'enregistrer le fichier\n" + Texte{fichier} + u"\n\n";
-    message += échec.Cause == EchecFichier::Ouverture
-                   ? u"Vérifiez que son dossier existe et que vous avez le droit d'y écrire."
-                   : u"Le disque est peut-être plein ou n'est plus accessible.";
+    const auto message =
+        (u"Impossible d'enregistrer le fichier\n" + Texte{fichier} + u"\n\n").append(CauseDe(échec.Cause));
     return message + (échec.CommeAvant ? u"\nRien n'a changé : recommencez quand ce sera réparé."
                                        : u"\nSon ancien contenu n'a pas pu être remis : recommencez dès que possible.");
 }

@@ -4,6 +4,7 @@
 
 #include <optional>
 #include <string_view>
+#include <vector>
 
 namespace tirelune {
 
@@ -17,6 +18,10 @@ struct EchecRemplacement {
 // Writes the file anew. A failure puts back what it held; a file that there wasn't leaves nothing half made.
 std::optional<EchecRemplacement> RemplacerFichier(Plateforme& plateforme, const Chemin& fichier,
                                                   std::string_view contenu);
+
+// The same of a file of these fields. Where they can't be composed, the file isn't touched.
+std::optional<EchecRemplacement> RemplacerChamps(Plateforme& plateforme, const Chemin& fichier,
+                                                 const std::vector<Texte>& champs);
 
 // For a grown-up: names the file, says what to do and what has become of it.
 Texte MessageEchec(const EchecRemplacement& échec, VueTexte fichier);

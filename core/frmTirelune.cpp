@@ -126,8 +126,7 @@ void frmTirelune::DéfinirCode(const Texte& fichier)
     txtVérificationCode.SetFocus();
     if (txtVérificationCode.Text != txtCodeEnseignant.Text)
         return;
-    const auto contenu = ComposerChamps({txtCodeEnseignant.Text});
-    if (const auto échec = RemplacerFichier(application_.plateforme, EnChemin(fichier), *contenu)) {
+    if (const auto échec = RemplacerChamps(application_.plateforme, EnChemin(fichier), {txtCodeEnseignant.Text})) {
         Avertir(MessageEchec(*échec, fichier));
         return;
     }

@@ -55,11 +55,16 @@ LectureBilan LireBilan(Plateforme& plateforme, const Texte& fichier)
 {
     LectureBilan lecture;
     const auto âge = plateforme.AgeFichier(EnChemin(fichier));
-    lecture.Octets = LireFichier(EnChemin(fichier));
+    lecture.Octets = LireFichier(EnChemin(fichier), TailleDUnFichierDeChamps);
     lecture.Mouvant = !lecture.Octets || !âge || std::chrono::abs(*âge) < AgeDUnEnregistrement;
     if (!lecture.Octets)
         return lecture;
-    lecture.Champs = DécouperChamps(*lecture.Octets, Valeurs::SurUneLigne);
+    auto champs = DécouperFichier(*lecture.Octets, Valeurs::SurUneLigne);
+    if (!champs) {
+        lecture.Octets.reset();
+        return lecture;
+    }
+    lecture.Champs = std::move(*champs);
     lecture.Entier = !lecture.Champs.empty() && FinitUneLigne(*lecture.Octets) && FinitUneFiche(lecture.Champs);
     return lecture;
 }

@@ -290,8 +290,7 @@ void frmGestionEleves::txtVérif_Change()
         return;
     }
     const auto fichier = Joindre(état.CheminAppli, u"Code.txt");
-    if (const auto échec =
-            RemplacerFichier(application_.plateforme, EnChemin(fichier), *ComposerChamps({txtCode.Text}))) {
+    if (const auto échec = RemplacerChamps(application_.plateforme, EnChemin(fichier), {txtCode.Text})) {
         ViderCode();
         QuitterLeCode();
         Avertir(MessageEchec(*échec, fichier));
@@ -344,7 +343,7 @@ void frmGestionEleves::cmdValiderCheminRéseau_Click()
         return;
     }
     const auto fichier = Joindre(état.CheminAppli, u"Chemin.txt");
-    if (const auto échec = RemplacerFichier(application_.plateforme, EnChemin(fichier), *ComposerChamps({dossier}))) {
+    if (const auto échec = RemplacerChamps(application_.plateforme, EnChemin(fichier), {dossier})) {
         Avertir(MessageEchec(*échec, fichier)); // the choice would be gone at the next start: the old one holds
         return;
     }

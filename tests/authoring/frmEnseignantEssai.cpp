@@ -226,7 +226,7 @@ TEST_P(Départ, NAPasLieuQuandLEnregistrementVouluEchoue)
     banc.Taper(u"Le chat");
     banc.plateforme.échecEcriture = [](const Chemin&) { return EchecFichier::Ecriture; };
     banc.AnnoncerBoîte(Question, Réponse::Oui);
-    banc.AnnoncerBoîte(MessageEchec(EchecFichier::Ecriture, banc.CheminDe("chat.rtf"), Enjeu::Document));
+    banc.AnnoncerBoîte(MessageEchec(EchecFichier::Ecriture, banc.CheminDe("chat.rtf")));
     Partir(banc.écran);
     EXPECT_TRUE(banc.écran.EstChargé());
     EXPECT_EQ(banc.écran.rtfTexte.Text(), u"Le chat");
@@ -241,7 +241,7 @@ TEST_P(Départ, NAPasLieuQuandLePremierEnregistrementEchoue)
     const auto visé = banc.CheminDe("absent/chat.rtf");
     banc.AnnoncerBoîte(Question, Réponse::Oui);
     banc.AnnoncerFichier(visé);
-    banc.AnnoncerBoîte(MessageEchec(EchecFichier::Ouverture, visé, Enjeu::Document));
+    banc.AnnoncerBoîte(MessageEchec(EchecFichier::Ouverture, visé));
     Partir(banc.écran);
     EXPECT_TRUE(banc.écran.EstChargé());
     EXPECT_EQ(banc.écran.rtfTexte.Text(), u"Le chat");
@@ -503,7 +503,7 @@ TEST(Editeur, NouveauGardeLeTexteQueLEnregistrementNAPasPuEcrire)
     banc.Taper(u"Le chat");
     banc.plateforme.échecEcriture = [](const Chemin&) { return EchecFichier::Ouverture; };
     banc.AnnoncerBoîte(Question, Réponse::Oui);
-    banc.AnnoncerBoîte(MessageEchec(EchecFichier::Ouverture, banc.CheminDe("chat.rtf"), Enjeu::Document));
+    banc.AnnoncerBoîte(MessageEchec(EchecFichier::Ouverture, banc.CheminDe("chat.rtf")));
     banc.écran.mnuNouveau.Cliquer();
     EXPECT_EQ(banc.écran.rtfTexte.Text(), u"Le chat");
     EXPECT_TRUE(banc.état.TexteModifié);
@@ -707,7 +707,7 @@ TEST(Editeur, EnregistrerUneSecondeFoisRéussitAprèsUnEchec)
     banc.Nommer("chat.rtf");
     banc.Taper(u"Le chat");
     banc.plateforme.échecEcriture = [](const Chemin&) { return EchecFichier::Ecriture; };
-    banc.AnnoncerBoîte(MessageEchec(EchecFichier::Ecriture, banc.CheminDe("chat.rtf"), Enjeu::Document));
+    banc.AnnoncerBoîte(MessageEchec(EchecFichier::Ecriture, banc.CheminDe("chat.rtf")));
     banc.écran.mnuEnregistrer.Cliquer();
     EXPECT_TRUE(banc.état.TexteModifié);
     EXPECT_EQ(banc.accueil.lstFichiers.ListCount(), 0);
@@ -723,7 +723,7 @@ TEST(Editeur, UnTexteSansChangementQuiNAPasPuEtreEcritEstAEnregistrer)
 {
     BancEditeur banc;
     banc.Nommer("parti/chat.rtf");
-    banc.AnnoncerBoîte(MessageEchec(EchecFichier::Ouverture, banc.CheminDe("parti/chat.rtf"), Enjeu::Document));
+    banc.AnnoncerBoîte(MessageEchec(EchecFichier::Ouverture, banc.CheminDe("parti/chat.rtf")));
     banc.écran.mnuEnregistrer.Cliquer();
     EXPECT_TRUE(banc.état.TexteModifié);
 }
@@ -733,7 +733,7 @@ TEST(Editeur, UnDossierDisparuEstDit)
     BancEditeur banc;
     banc.Nommer("parti/chat.rtf");
     banc.Taper(u"Le chat");
-    banc.AnnoncerBoîte(MessageEchec(EchecFichier::Ouverture, banc.CheminDe("parti/chat.rtf"), Enjeu::Document));
+    banc.AnnoncerBoîte(MessageEchec(EchecFichier::Ouverture, banc.CheminDe("parti/chat.rtf")));
     banc.écran.mnuEnregistrer.Cliquer();
     EXPECT_TRUE(banc.état.TexteModifié);
     EXPECT_EQ(banc.écran.rtfTexte.Text(), u"Le chat");
@@ -890,7 +890,7 @@ TEST(Editeur, UnEchecDEnregistrerSousEstDitEtLaisseLesNoms)
     banc.Taper(u"Le chat");
     const auto visé = banc.CheminDe("absent/chien.rtf");
     banc.AnnoncerFichier(visé);
-    banc.AnnoncerBoîte(MessageEchec(EchecFichier::Ouverture, visé, Enjeu::Document));
+    banc.AnnoncerBoîte(MessageEchec(EchecFichier::Ouverture, visé));
     banc.écran.mnuEnregistrerSous.Cliquer();
     EXPECT_TRUE(banc.état.TexteModifié);
     EXPECT_EQ(banc.écran.rtfTexte.Text(), u"Le chat");
@@ -1059,7 +1059,7 @@ TEST(Editeur, UnRécentNePerdPasLeTexteQuiNAPasPuEtreEcrit)
     banc.Taper(u"b");
     banc.plateforme.échecEcriture = [](const Chemin&) { return EchecFichier::Ouverture; };
     banc.AnnoncerBoîte(Question, Réponse::Oui);
-    banc.AnnoncerBoîte(MessageEchec(EchecFichier::Ouverture, banc.CheminDe("a.rtf"), Enjeu::Document));
+    banc.AnnoncerBoîte(MessageEchec(EchecFichier::Ouverture, banc.CheminDe("a.rtf")));
     banc.écran.mnuRécent(0).Cliquer();
     EXPECT_EQ(banc.écran.rtfTexte.Text(), u"ba");
     EXPECT_TRUE(banc.état.TexteModifié);

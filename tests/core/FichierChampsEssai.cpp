@@ -161,16 +161,6 @@ TEST(FichierChamps, TropDeChampsPourLaMémoireSontRefusés)
     EXPECT_EQ(lus.Echec, EchecLecture::TropGrand);
 }
 
-TEST(FichierChamps, CeQuiNeSeComposePasLaisseLeFichier)
-{
-    Banc banc;
-    const auto fichier = banc.Ecrire("a.dat", "ancien");
-    EXPECT_EQ(RéécrireChamps(banc.plateforme, fichier, {u"a", u"Ω"}), EchecFichier::Contenu);
-    EXPECT_EQ(banc.Lire("a.dat"), "ancien");
-    EXPECT_FALSE(RéécrireChamps(banc.plateforme, fichier, {u"a"}));
-    EXPECT_EQ(banc.Lire("a.dat"), "\"a\"\r\n");
-}
-
 TEST(FichierChamps, CeQuiTientDansUnChamp)
 {
     EXPECT_TRUE(TientDansUnChamp(u""));

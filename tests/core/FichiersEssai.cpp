@@ -172,30 +172,15 @@ TEST(Fichiers, LeMessageNommeLeFichierEtSaCause)
 {
     std::set<Texte> messages;
     for (const auto échec : {EchecFichier::Ouverture, EchecFichier::Ecriture, EchecFichier::Contenu}) {
-        for (const auto enjeu : {Enjeu::Document, Enjeu::Résultats, Enjeu::Réglage}) {
-            const auto message = MessageEchec(échec, u"/a/b.bil", enjeu);
-            EXPECT_NE(message.find(u"/a/b.bil"), Texte::npos);
-            EXPECT_TRUE(messages.insert(message).second);
-        }
+        const auto message = MessageEchec(échec, u"/a/b.bil");
+        EXPECT_TRUE(message.starts_with(u"Impossible d'enregistrer le fichier\n/a/b.bil\n\n"));
+        EXPECT_TRUE(messages.insert(message).second);
     }
     for (const auto échec :
          {EchecLecture::Absent, EchecLecture::PasUnFichier, EchecLecture::TropGrand, EchecLecture::Illisible}) {
         const auto message = MessageLecture(échec, u"/a/b.bil");
         EXPECT_TRUE(message.starts_with(u"Impossible de lire le fichier\n/a/b.bil\n\n"));
         EXPECT_TRUE(messages.insert(message).second);
-    }
-}
-
-TEST(Fichiers, SeulLEditeurPeutEnregistrerAilleurs)
-{
-    const auto dit = [](Enjeu enjeu, VueTexte mots) {
-        return MessageEchec(EchecFichier::Ecriture, u"a", enjeu).find(mots) != Texte::npos;
-    };
-    EXPECT_TRUE(dit(Enjeu::Document, u"enregistrez ailleurs"));
-    EXPECT_TRUE(dit(Enjeu::Document, u"Rien n'est perdu tant que"));
-    for (const auto enjeu : {Enjeu::Résultats, Enjeu::Réglage}) {
-        EXPECT_FALSE(dit(enjeu, u"ailleurs"));
-        EXPECT_FALSE(dit(enjeu, u"Rien n'est perdu"));
     }
 }
 

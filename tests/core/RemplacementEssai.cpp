@@ -83,4 +83,18 @@ TEST(Remplacement, LeMessageDitCeQuIlEnEst)
               u"droit d'y écrire.\nSon ancien contenu n'a pas pu être remis : recommencez dès que possible.");
 }
 
+TEST(Remplacement, DesChampsQuiNeSeComposentPasLaissentLeFichier)
+{
+    Banc banc;
+    const auto fichier = banc.Ecrire("a.dat", "ancien");
+    const auto échec = RemplacerChamps(banc.plateforme, fichier, {u"a", u"Ω"});
+    ASSERT_TRUE(échec);
+    EXPECT_EQ(échec->Cause, EchecFichier::Contenu);
+    EXPECT_TRUE(échec->CommeAvant);
+    EXPECT_NE(MessageEchec(*échec, u"a.dat").find(u"Rien n'a changé"), Texte::npos);
+    EXPECT_EQ(banc.Lire("a.dat"), "ancien");
+    EXPECT_FALSE(RemplacerChamps(banc.plateforme, fichier, {u"a"}));
+    EXPECT_EQ(banc.Lire("a.dat"), "\"a\"\r\n");
+}
+
 } // namespace tirelune

@@ -202,7 +202,8 @@ TEST(RichTextBox, ChargeUnTexteSelonSonGenre)
     BoîteÉcoutée boîte;
     EXPECT_EQ(boîte.rtf.LoadFile(boîte.banc.Ecrire("a.rtf", "{\\rtf1 un}"), true), GenreDeTexte::Riche);
     EXPECT_EQ(boîte.rtf.Text(), u"un");
-    EXPECT_EQ(boîte.rtf.LoadFile(boîte.banc.Ecrire("a.txt", "\xC3\xA9t\xC3\xA9\n\xC5\x93uf"), true), GenreDeTexte::Simple);
+    EXPECT_EQ(boîte.rtf.LoadFile(boîte.banc.Ecrire("a.txt", "\xC3\xA9t\xC3\xA9\n\xC5\x93uf"), true),
+              GenreDeTexte::Simple);
     EXPECT_EQ(boîte.rtf.Text(), u"été\r\nœuf");
 }
 
