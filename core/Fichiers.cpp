@@ -109,6 +109,17 @@ std::optional<EchecFichier> RéécrireFichier(const Chemin& fichier, std::string
     return std::nullopt;
 }
 
+void PousserDossier([[maybe_unused]] const Chemin& dossier)
+{
+#if __has_include(<unistd.h>)
+    const int ouvert = ::open(dossier.c_str(), O_RDONLY | O_CLOEXEC);
+    if (ouvert < 0)
+        return;
+    static_cast<void>(::fsync(ouvert)); // some shares can't
+    ::close(ouvert);
+#endif
+}
+
 VueTexte CauseDe(EchecFichier échec)
 {
     switch (échec) {

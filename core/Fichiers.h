@@ -44,6 +44,9 @@ Lecture<std::string> LireFichier(const Chemin& fichier, std::uintmax_t limite = 
 // Deletes the file, then writes it anew in one piece, flushed to the disk, with the permissions that it had.
 std::optional<EchecFichier> RéécrireFichier(const Chemin& fichier, std::string_view contenu);
 
+// Makes the list of a folder's files outlast a power cut, where the system has a way to.
+void PousserDossier(const Chemin& dossier);
+
 // Why it could not be written, and what to look at.
 VueTexte CauseDe(EchecFichier échec);
 

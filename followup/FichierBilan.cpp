@@ -80,8 +80,10 @@ std::optional<Copie> MettreDeCôté(Plateforme& plateforme, const Texte& fichier
                 return Copie{std::move(copie), false};
             continue;
         }
-        if (!plateforme.Réécrire(chemin, octets))
+        if (!plateforme.Réécrire(chemin, octets)) {
+            PousserDossier(chemin.parent_path());
             return Copie{std::move(copie), true};
+        }
         std::error_code ignorée; // half a copy would look like a whole one
         std::filesystem::remove(chemin, ignorée);
         return std::nullopt;

@@ -145,24 +145,20 @@ void frmExercices::ListerElèves()
 void frmExercices::cmdOk_Click()
 {
     état.NomElève = cmbNoms.Text;
-    LectureBilan lecture;
-    lecture.Octets.emplace();
     const auto fichier = FichierMontré(listeBil, cmbNoms, état.CheminBilans);
-    if (cmbNoms.ListCount() > 0) {
-        auto lue = LireBilanPosé(fichier);
-        if (!lue)
-            return; // closed meanwhile
-        lecture = std::move(*lue);
-    }
-    if (!lecture.Octets) {
+    const bool listé = cmbNoms.ListCount() > 0;
+    auto lecture = listé ? LireBilanPosé(fichier) : LireBilan(application_.plateforme, fichier);
+    if (!lecture)
+        return; // closed meanwhile
+    if (listé && !lecture->Octets) {
         DireIllisible(fichier);
         return; // the first save would replace what can't be read now
     }
     BilansConnus[état.CheminBilans] = {fichier};
     AjouterNomElève();
-    const bool toutRangé = ChargerBilan(std::move(lecture.Champs));
-    if (!toutRangé || lecture.Coupé())
-        GarderBilanAbîmé(fichier, *lecture.Octets);
+    const bool toutRangé = ChargerBilan(std::move(lecture->Champs));
+    if (!toutRangé || lecture->Coupé())
+        GarderBilanAbîmé(fichier, *lecture->Octets);
     frameElève.Visible = false;
 }
 

@@ -148,6 +148,16 @@ TEST(Exercices, SansElèveLeDitEtSeConnecteSansNom)
     EXPECT_FALSE(choix.frameElève.Visible);
 }
 
+TEST(Exercices, SansElèveCeQuiAEtéEnregistréSansNomSeRetrouve)
+{
+    Banc banc;
+    banc.EcrireChamps(".bil", Fiche(u"A", u"90"));
+    banc.AnnoncerBoîte(u"Il n'y a aucun fichier élève enregistré !");
+    auto& choix = banc.Ouvrir<frmExercices>();
+    choix.cmdOk.Cliquer();
+    EXPECT_EQ(choix.fgRésultats.Rows(), 2);
+}
+
 TEST(Exercices, PremierDépartSansCheminListeLeDossierDuProgramme)
 {
     Banc banc;
