@@ -8,6 +8,7 @@
 #include <QTimerEvent>
 
 #include <algorithm>
+#include <cmath>
 #include <utility>
 
 namespace tirelune {
@@ -106,7 +107,7 @@ void MiseEnPage::Mettre(const QTextBlock& bloc, int rang) const
     paragraphe.Mis = EnAccord();
     if (hauteur == paragraphe.Hauteur)
         return;
-    if (HautDe(rang) + paragraphe.Hauteur <= Haut())
+    if (HautDe(rang) + paragraphe.Hauteur <= Haut() + décalage_)
         décalage_ += hauteur - paragraphe.Hauteur;
     paragraphe.Hauteur = hauteur;
     justes_ = std::min(justes_, static_cast<std::size_t>(rang));
@@ -231,9 +232,12 @@ void MiseEnPage::Annoncer()
 {
     if (!std::exchange(tailleChangée_, false))
         return;
+    const int haut = Haut(); // the scroll bar may move by itself when its range changes
+    const auto décalage = static_cast<int>(std::lround(décalage_));
+    décalage_ -= décalage; // less than a pixel is for the next time
     emit documentSizeChanged(documentSize());
-    if (const double décalage = std::exchange(décalage_, 0); décalage != 0)
-        Décalé(décalage);
+    if (décalage != 0)
+        Défiler(haut + décalage);
 }
 
 // ---- Painting and pointing ---------------------------------------------------------------------------------------

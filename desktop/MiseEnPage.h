@@ -25,9 +25,9 @@ public:
     explicit MiseEnPage(QTextDocument* document) : QAbstractTextDocumentLayout(document) {}
 
     std::function<Habillage(const QTextBlock&)> Habiller;
-    std::function<bool()> EnAccord;     // false: text and formats are being changed, what is laid out now won't last
-    std::function<double()> Haut;       // the top of what is in sight
-    std::function<void(double)> Décalé; // what is in sight stands that much lower than it did
+    std::function<bool()> EnAccord;   // false: text and formats are being changed, what is laid out now won't last
+    std::function<int()> Haut;        // the top of what is in sight
+    std::function<void(int)> Défiler; // brings that height to the top of what is in sight
 
     // Formats or measures of these paragraphs have changed.
     void Périmer(int premier, int dernier);

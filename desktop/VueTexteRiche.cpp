@@ -17,7 +17,6 @@
 #include <QTextLayout>
 
 #include <algorithm>
-#include <cmath>
 #include <utility>
 
 namespace tirelune {
@@ -189,7 +188,10 @@ protected:
             ensureCursorVisible();
             return;
         }
+        const int avant = textCursor().position();
         QTextEdit::keyPressEvent(événement);
+        if (textCursor().position() != avant)
+            vue_.MontrerCurseur();
     }
 
     void insertFromMimeData(const QMimeData* source) override
@@ -287,11 +289,8 @@ VueTexteRiche::VueTexteRiche(Hôte& hôte, RichTextBox& boîte, QWidget* parent)
 {
     mise_.Habiller = [this](const QTextBlock& bloc) { return Habiller(bloc); };
     mise_.EnAccord = [this] { return retouches_.Vides() && !enRetouche_; };
-    mise_.Haut = [this] { return zone_.verticalScrollBar()->value(); };
-    mise_.Décalé = [this](double de) {
-        auto* barre = zone_.verticalScrollBar();
-        barre->setValue(barre->value() + static_cast<int>(std::lround(de)));
-    };
+    mise_.Haut = [barre = zone_.verticalScrollBar()] { return barre->value(); };
+    mise_.Défiler = [barre = zone_.verticalScrollBar()](int haut) { barre->setValue(haut); };
     zone_.document()->setDocumentLayout(&mise_);
     if (boîte.UneLigne)
         static_cast<Page&>(zone_).MettreEnLigne();

@@ -35,6 +35,19 @@ protected:
         Zone().document()->documentLayout()->blockBoundingRect(bloc);
         return *bloc.layout();
     }
+    // Where the text ends once every paragraph has its lines; nothing before that.
+    double HauteurPosée()
+    {
+        double bas = Zone().document()->documentMargin();
+        for (auto bloc = Zone().document()->firstBlock(); bloc.isValid(); bloc = bloc.next()) {
+            const auto* lignes = bloc.layout();
+            if (lignes->lineCount() == 0)
+                return 0;
+            const auto dernière = lignes->lineAt(lignes->lineCount() - 1);
+            bas += dernière.y() + dernière.height();
+        }
+        return bas;
+    }
     // The middle of the left or right half of a character.
     QPoint Moitié(int position, bool droite)
     {
@@ -344,6 +357,40 @@ TEST_F(TexteRicheAffiché, CollerDonneDuTexteSimple)
         Coller(QStringLiteral("l\u2019été\u202F!\nfin"));
         EXPECT_EQ(écran.rtf.Text(), u"[l'été !\r\nfin]");
         VérifierAccord(VueRtf(), écran.rtf);
+    });
+}
+
+TEST_F(TexteRicheAffiché, CollerSuitLaMêmeRèglePartout)
+{
+    Avec(écran, [&] {
+        Zone().setFocus();
+        const auto collé = QStringLiteral("a\u000Bb\u0001c\u2028d\re\tf") + QChar{GlypheMasque};
+        Coller(collé);
+        EXPECT_EQ(écran.rtf.Text(), u"a\r\nbc\r\nd\r\ne\tf");
+        EXPECT_EQ(Montré(), u"a\nbc\nd\ne\tf");
+    });
+}
+
+// What is far off is laid out little by little, and nothing in sight moves for it.
+TEST_F(TexteRicheAffiché, UnTexteLongSeMetEnPageSansBouger)
+{
+    Texte texte;
+    for (int i = 0; i < 3000; ++i)
+        texte += Texte(static_cast<std::size_t>(i % 7) * 40, u'a') + u" fin\r\n";
+    écran.rtf.Text(texte + u"fin");
+    Avec(écran, [&] {
+        Zone().setFocus();
+        QTest::keyClick(&Zone(), Qt::Key_End, Qt::ControlModifier);
+        Mettre();
+        const auto curseur = Zone().cursorRect();
+        EXPECT_TRUE(Zone().viewport()->rect().contains(curseur.center()));
+        const auto bas = [&] {
+            const auto dernier = Zone().document()->lastBlock();
+            return Zone().document()->documentLayout()->blockBoundingRect(dernier).bottom();
+        };
+        EXPECT_TRUE(QTest::qWaitFor([&] { return bas() == HauteurPosée(); }));
+        EXPECT_EQ(Zone().cursorRect(), curseur) << "ce qui se met en page plus haut ne pousse rien";
+        EXPECT_EQ(Zone().verticalScrollBar()->value(), Zone().verticalScrollBar()->maximum());
     });
 }
 
