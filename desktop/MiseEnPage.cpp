@@ -90,8 +90,9 @@ QRectF MiseEnPage::blockBoundingRect(const QTextBlock& bloc) const
     if (!bloc.isValid() || rang >= Nombre())
         return {};
     Mettre(bloc, rang);
-    return {document()->documentMargin(), HautDe(rang), Largeur(),
-            paragraphes_[static_cast<std::size_t>(rang)].Hauteur};
+    const QPointF coin{document()->documentMargin(), HautDe(rang)};
+    bloc.layout()->setPosition(coin); // where assistive tools look for its letters
+    return {coin, QSizeF{Largeur(), paragraphes_[static_cast<std::size_t>(rang)].Hauteur}};
 }
 
 // ---- Laying out --------------------------------------------------------------------------------------------------
@@ -248,8 +249,7 @@ void MiseEnPage::draw(QPainter* peintre, const PaintContext& contexte)
     peintre->setPen(contexte.palette.color(QPalette::Text));
     auto bloc = document()->findBlockByNumber(RangSous(vu.top()));
     for (; bloc.isValid(); bloc = bloc.next()) {
-        const auto lieu = blockBoundingRect(bloc).topLeft();
-        if (lieu.y() > vu.bottom())
+        if (blockBoundingRect(bloc).top() > vu.bottom())
             break;
         QList<QTextLayout::FormatRange> choisis;
         for (const auto& sélection : contexte.selections) {
@@ -259,7 +259,7 @@ void MiseEnPage::draw(QPainter* peintre, const PaintContext& contexte)
                 choisis.push_back({début, fin - début, sélection.format});
         }
         const auto* lignes = bloc.layout();
-        lignes->draw(peintre, lieu, choisis, vu);
+        lignes->draw(peintre, {}, choisis, vu);
         int curseur = contexte.cursorPosition;
         if (bloc.contains(curseur))
             curseur -= bloc.position();
@@ -267,7 +267,7 @@ void MiseEnPage::draw(QPainter* peintre, const PaintContext& contexte)
             curseur = lignes->preeditAreaPosition() - (curseur + 2);
         else
             continue;
-        lignes->drawCursor(peintre, lieu, curseur, std::max(1, property("cursorWidth").toInt()));
+        lignes->drawCursor(peintre, {}, curseur, std::max(1, property("cursorWidth").toInt()));
     }
     if (tailleChangée_ && !suite_.isActive())
         suite_.start(Pause, this); // the scroll bar hears of it after the painting
