@@ -217,6 +217,7 @@ TEST(LecteurRtf, LesPairesDOctetsDAsieNeDéraillentPas)
                    "b\\'b0\\'5cc}"),
               u"a\uFFFDb\uFFFDc");
     EXPECT_EQ(Brut("{\\rtf1\\ansi\\ansicpg950 a\\'a4\\b b\\'a4}"), u"a\uFFFDb\uFFFD");
+    EXPECT_EQ(Brut("{\\rtf1\\ansi\\ansicpg950 a\\'a4 b\\'a4\\'20c}"), u"a\uFFFD b\uFFFD c"); // no second byte: it stays
 }
 
 TEST(LecteurRtf, LUtf8DUnDocumentSeLit)
