@@ -364,6 +364,14 @@ TEST(LecteurRtf, LesTaillesImpossiblesSontIgnorées)
     EXPECT_EQ(texte.FormatEn(5).Taille, 12);
 }
 
+TEST(LecteurRtf, UneSecondeTableDeCouleursRemplaceLaPremière)
+{
+    const auto texte = LireRtf("{\\rtf1{\\colortbl;\\red255;\\red9;}{\\colortbl;\\blue255;}\\cf1 a\\cf2 b}");
+    ASSERT_TRUE(texte);
+    EXPECT_EQ(texte->FormatEn(0).Teinte, Bleu);
+    EXPECT_EQ(texte->FormatEn(1).Teinte, CouleurAuto);
+}
+
 TEST(LecteurRtf, LesCouleursViennentDeLeurTable)
 {
     const auto texte = Lire("\\cf1 a\\cf2 b\\cf0 c\\cf77 d\\cf-1 e");

@@ -187,10 +187,10 @@ TEST(TexteRiche, FormaterRetoucheChaqueTrancheUneFois)
 
 TEST(TexteRiche, FormaterUneÉtendueVideNeToucheARien)
 {
-    TexteRiche texte{u"un deux"};
+    TexteRiche texte{u"un\r\ndeux"};
     const auto avant = texte;
     int retouches = 0;
-    for (const auto& [début, longueur] : {std::pair{0, 0}, {3, 0}, {7, 0}, {7, 5}, {100, 5}})
+    for (const auto& [début, longueur] : {std::pair{0, 0}, {3, 0}, {5, 0}, {8, 0}, {8, 5}, {100, 5}})
         texte.Formater(static_cast<std::size_t>(début), static_cast<std::size_t>(longueur), [&](Format& format) {
             format.Gras = true;
             ++retouches;
