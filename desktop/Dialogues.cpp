@@ -13,6 +13,7 @@
 #include <QFileInfo>
 #include <QFontDatabase>
 #include <QFontDialog>
+#include <QGroupBox>
 #include <QKeyEvent>
 #include <QLibraryInfo>
 #include <QLineEdit>
@@ -236,6 +237,9 @@ public:
         // Strike-through is the mark of words, and underlining has its own button.
         for (auto* effet : findChildren<QCheckBox*>())
             effet->parentWidget()->hide();
+        static constexpr int LignesExemple = 5; // the sample's row was as high as what has gone
+        for (auto* cadre : findChildren<QGroupBox*>())
+            cadre->setMinimumHeight(LignesExemple * fontMetrics().height());
         départ_ = currentFont();
     }
 
