@@ -163,6 +163,7 @@ TEST(Questionnaire, LectureSansDuréeSeRefait)
     écran.cmdOk.Cliquer();
     EXPECT_EQ(Vitesse(banc), u"");
     EXPECT_TRUE(écran.frameConsigne.Visible);
+    EXPECT_FALSE(écran.cmdOk.Visible);
     écran.cmdCommencer.Cliquer();
     banc.Avancer(60s);
     écran.cmdOk.Cliquer();
@@ -415,6 +416,34 @@ TEST(Questionnaire, QuestionSurPlusieursLignesEtDrapeauAbîmé)
     EXPECT_EQ(écran.lblOuiNon.Caption, u"Mauvaise Réponse");
 }
 
+TEST(Questionnaire, RienNeSeTapeEtUnClicNeLaissePasDeSélection)
+{
+    Banc banc;
+    Questionnaire(banc, 1);
+    auto& écran = Lu(banc);
+    EXPECT_TRUE(écran.Text1.Locked);
+    EXPECT_TRUE(écran.txtQuestion.Locked);
+    EXPECT_TRUE(écran.rtfTexte.Locked);
+    for (auto& choix : écran.txtChoix)
+        EXPECT_TRUE(choix.Locked);
+    écran.txtChoix(0).SelLength = 2;
+    écran.txtChoix(0).Click();
+    EXPECT_EQ(écran.txtChoix(0).SelLength, 0U);
+}
+
+TEST(Questionnaire, RedimensionnerRepeintLeBoutonDeDépartTantQuIlEstLà)
+{
+    Banc banc;
+    Questionnaire(banc, 1);
+    auto& écran = Ouvrir(banc, 0);
+    const int avant = banc.plateforme.repeints;
+    écran.Dimensionner(15000, 10000);
+    EXPECT_EQ(banc.plateforme.repeints, avant + 1);
+    écran.cmdCommencer.Visible = false;
+    écran.Dimensionner(14000, 10000);
+    EXPECT_EQ(banc.plateforme.repeints, avant + 1);
+}
+
 TEST(Questionnaire, RedimensionnerSuitLaFenêtre)
 {
     Banc banc;
@@ -440,6 +469,8 @@ TEST(Questionnaire2, MontreTexteEtQuestionsEnsemble)
     EXPECT_TRUE(écran.rtfTexte.Visible && écran.frameQuestions.Visible && écran.lblConseil.Visible &&
                 écran.cmdInitialise.Visible);
     EXPECT_FALSE(écran.frameConsigne.Visible || écran.cmdOk.Visible);
+    EXPECT_GT(écran.frameQuestions.Width, 0);
+    EXPECT_GT(écran.frameQuestions.Height, 0);
     EXPECT_EQ(écran.frameQuestions.Left, écran.rtfTexte.Left + 1000);
     EXPECT_EQ(écran.frameQuestions.Top, 1000);
     Répondre(écran, {0});

@@ -358,6 +358,21 @@ TEST(Photographier, VingtRéponsesFaussesDonnentZéro)
     EXPECT_EQ(banc.Note(IndexPhotographier), u"0");
 }
 
+TEST(Photographier, BoutonDeSortieEstPeintAussitôtEtALeClavier)
+{
+    Banc banc;
+    auto& écran = Ouvrir(banc, Mots(12));
+    TirerVarié(banc);
+    bool peint = false;
+    banc.plateforme.auRepeint = [&](Ecran&) { peint = écran.cmdQuitter.Visible; };
+    for (int i = 0; i < 20; ++i) {
+        EXPECT_FALSE(peint);
+        Répondre(écran, true);
+    }
+    EXPECT_TRUE(peint);
+    EXPECT_EQ(écran.Focus(), &écran.cmdQuitter);
+}
+
 TEST(Photographier, VingtRéponsesJustesDonnentDixEtLeBilanEstEcrit)
 {
     Banc banc;

@@ -158,6 +158,7 @@ TEST(Série, CasesSontToutesAussiLargesQueLeMotLePlusLong)
         EXPECT_EQ(écran.lblRéponse(i).Top, écran.lblMot(i).Top);
         EXPECT_EQ(écran.lblMot(i).Caption, u"");
     }
+    EXPECT_GT(écran.lblMot(0).Height, 0);
     EXPECT_GT(écran.lblMot(1).Top, écran.lblMot(0).Top + écran.lblMot(0).Height);
 }
 
@@ -282,6 +283,60 @@ TEST(Série, ErreurMontreLeMotAttenduEtFinitLaSérie)
     EXPECT_EQ(écran.lblPoints(0).Caption, u"0");
 }
 
+TEST(Série, CeQuiChangeSeVoitAussitôt)
+{
+    Banc banc;
+    TirerVarié(banc);
+    auto& écran = Ouvrir(banc, Mots(12));
+    bool voir = false;
+    bool suite = false;
+    bool effacée = false;
+    banc.plateforme.auRepeint = [&](Ecran&) {
+        voir = écran.cmdVoir.Visible;
+        suite = écran.cmdContinuer.Visible && écran.lblRéponse(0).Visible;
+        effacée = voir && !écran.cmdContinuer.Visible && !écran.frameChoix.Visible && !écran.lblRéponse(0).Visible &&
+                  écran.lblChoix(0).Caption().empty();
+    };
+    Répéter(écran, 1);
+    EXPECT_TRUE(voir) << "la suite est redite, à voir avec un mot de plus";
+    écran.cmdVoir.Cliquer();
+    Choix(écran, écran.lblRéponse(0).Caption, false).Cliquer();
+    EXPECT_TRUE(suite) << "le mot attendu et le bouton de la série suivante";
+    écran.cmdContinuer.Cliquer();
+    EXPECT_TRUE(effacée) << "l'ancienne série n'est plus là quand la nouvelle se tire";
+}
+
+TEST(Série, CasesVidéesEtListeSontPeintesAprèsLAffichage)
+{
+    Banc banc;
+    TirerVarié(banc);
+    auto& écran = Ouvrir(banc, Mots(5));
+    Répéter(écran, 1);
+    bool vidées = false;
+    bool liste = false;
+    banc.plateforme.auRepeint = [&](Ecran&) {
+        const bool vides = écran.lblMot(0).Visible && écran.lblMot(1).Visible && écran.lblMot(0).Caption().empty() &&
+                           écran.lblMot(1).Caption().empty();
+        vidées = vidées || (vides && !écran.frameChoix.Visible);
+        liste = vides && écran.frameChoix.Visible && écran.lblMot(0).BackColor == Jaune && écran.lblConsigne.Visible;
+    };
+    écran.cmdVoir.Cliquer();
+    EXPECT_TRUE(vidées);
+    EXPECT_TRUE(liste);
+}
+
+TEST(Série, ClicSansCaseARemplirRepartDuDébut)
+{
+    Banc banc;
+    TirerVarié(banc);
+    auto& écran = Ouvrir(banc, Mots(5));
+    Répéter(écran, 1);
+    écran.cmdVoir.Visible = false; // neither told of nor reached by a click: no slot waits
+    écran.lblChoix(3).Cliquer();
+    EXPECT_EQ(écran.lblMot(0).BackColor, Jaune);
+    EXPECT_FALSE(écran.cmdVoir.Visible);
+}
+
 TEST(Série, SérieSuivanteRepartDeZéroSaufLeMeilleurScore)
 {
     Banc banc;
@@ -297,6 +352,7 @@ TEST(Série, SérieSuivanteRepartDeZéroSaufLeMeilleurScore)
     EXPECT_EQ(CasesVisibles(écran), 0);
     for (int i = 0; i < 10; ++i) {
         EXPECT_EQ(écran.lblMot(i).BackColor, Blanc);
+        EXPECT_EQ(écran.lblMot(i).Caption, u"");
         EXPECT_EQ(écran.lblRéponse(i).BackColor, Blanc);
         EXPECT_FALSE(écran.lblRéponse(i).Visible);
         EXPECT_NE(écran.lblRéponse(i).Caption, u"");

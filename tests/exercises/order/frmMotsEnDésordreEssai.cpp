@@ -517,6 +517,7 @@ TEST_F(MotsEnDésordreEssai, TroisPhrasesJustesPuisLaSortieValentDix)
     banc.plateforme.toujours = [] { return 0.0; };
     écran.cmdSuivant.Cliquer();
     EXPECT_TRUE(écran.notice.Cadre.Visible);
+    EXPECT_EQ(écran.lblCorrigé.Caption, u"");
     écran.notice.Bouton.Cliquer();
     EXPECT_FALSE(écran.EstChargé());
     EXPECT_EQ(banc.Note(MotsEnDésordre), u"10");

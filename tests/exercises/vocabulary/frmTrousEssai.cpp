@@ -66,6 +66,8 @@ TEST(Trous, LesPointsOntLeursCouleursEtLesBoutonsLeurLégende)
     EXPECT_EQ(écran.fin.Bouton.Caption, u"&Quitter");
     EXPECT_FALSE(écran.Image1.Picture().Formes.empty());
     EXPECT_TRUE(écran.cmbTrous.Sorted);
+    EXPECT_TRUE(écran.rtfTrous.Locked) << "le texte ne se tape pas";
+    EXPECT_TRUE(écran.fin.Message.Locked);
 }
 
 TEST(Trous, LaLacuneEstNoireSansBarreNiSoulignement)
@@ -76,10 +78,10 @@ TEST(Trous, LaLacuneEstNoireSansBarreNiSoulignement)
     format.Souligné = true;
     format.Gras = true;
     format.Teinte = Rouge;
-    TexteRiche texte{u"Un "};
-    texte.Ajouter(u"mot", format, {});
     Format souligné;
     souligné.Souligné = true;
+    TexteRiche texte{u"Un ", souligné};
+    texte.Ajouter(u"mot", format, {});
     texte.Ajouter(u" rare", souligné, {});
     banc.ChargerTexte(texte);
     auto& écran = banc.Ouvrir<frmTrous>();
@@ -90,6 +92,7 @@ TEST(Trous, LaLacuneEstNoireSansBarreNiSoulignement)
     EXPECT_FALSE(lacune.Souligné);
     EXPECT_TRUE(lacune.Gras);
     EXPECT_FALSE(écran.rtfTrous.TextRTF().FormatEn(7).Souligné);
+    EXPECT_FALSE(écran.rtfTrous.TextRTF().FormatEn(0).Souligné);
     EXPECT_TRUE(banc.Choix().rtfTexte.TextRTF().FormatEn(4).Barré) << "le texte de l'élève ne change pas";
 }
 
