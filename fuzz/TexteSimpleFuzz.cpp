@@ -4,6 +4,7 @@
 #include "core/FichierChamps.h"
 #include "core/LecteurRtf.h"
 #include "core/RichTextBox.h"
+#include "core/TexteSimple.h"
 #include "core/Windows1252.h"
 #include "fuzz/Agrandir.h"
 #include "fuzz/Gestes.h"
@@ -37,6 +38,20 @@ bool LignesEnCrLf(VueTexte texte)
             return false;
     }
     return true;
+}
+
+// The same text in each encoding that carries its mark reads back equal; a NUL makes it no text.
+void VérifierEncodages(const Texte& texte)
+{
+    std::string petit = "\xFF\xFE";
+    std::string grand = "\xFE\xFF";
+    for (const char16_t c : texte) {
+        petit += {static_cast<char>(c & 0xFFU), static_cast<char>(c >> 8U)};
+        grand += {static_cast<char>(c >> 8U), static_cast<char>(c & 0xFFU)};
+    }
+    const auto attendu = Contient(texte, u'\0') ? std::nullopt : std::optional{texte};
+    for (const auto& octets : {petit, grand, "\xEF\xBB\xBF" + EnUtf8(texte)})
+        Exiger(LireTexteSimple(octets) == attendu);
 }
 
 void VérifierCollage(VueTexte collé)
@@ -73,6 +88,7 @@ void Essayer(EcranLecture& écran, const PlateformeFuzz& plateforme, std::string
     Exiger(DepuisUtf8(EnUtf8(texte)) == texte);
     const auto latin = DepuisWindows1252(octets);
     Exiger(latin.size() == octets.size() && EnWindows1252(latin) == octets);
+    VérifierEncodages(texte);
     VérifierCollage(texte);
     VérifierCollage(latin);
 
