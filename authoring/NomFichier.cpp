@@ -26,8 +26,7 @@ Texte NomProposé(VueTexte texte)
 {
     const auto début = std::min(texte.find_first_not_of(u' '), texte.size());
     // The blanks that end the text are trimmed with the name.
-    const auto mots = Rogner(CouperNomFichier(texte.substr(début, LongueurProposée)));
-    return mots.empty() ? Texte{DocumentParDéfaut} : mots + u".rtf";
+    return Rogner(CouperNomFichier(texte.substr(début, LongueurProposée))) + u".rtf";
 }
 
 } // namespace tirelune

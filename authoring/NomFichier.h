@@ -8,9 +8,7 @@ namespace tirelune {
 // capitals with accents cut the name too.
 Texte CouperNomFichier(VueTexte nom);
 
-inline constexpr VueTexte DocumentParDéfaut = u"document.rtf";
-
-// The opening words of a text, with ".rtf"; "document.rtf" where there are none.
+// The opening words of a text, with ".rtf"; ".rtf" alone where there are none.
 Texte NomProposé(VueTexte texte);
 
 } // namespace tirelune

@@ -504,7 +504,7 @@ frmEnseignant::Issue frmEnseignant::EnregistrerSous()
         return Issue::Annulé;
     auto fichier = *choisi;
     if (TitreDe(fichier).empty())
-        fichier = Joindre(fichier.empty() ? état.CheminAppli : fichier, DocumentParDéfaut);
+        fichier = Joindre(fichier.empty() ? état.CheminAppli : fichier, u"document.rtf");
     if (!Ecrire(fichier))
         return Issue::Echec;
     PrendreNoms(fichier);

@@ -160,6 +160,17 @@ public:
 
 } // namespace
 
+namespace {
+
+// A name that is all extension would make a file that nobody sees again.
+QString NomVisible(const QString& nom)
+{
+    const QFileInfo fichier{nom};
+    return fichier.completeBaseName().isEmpty() ? QStringLiteral("document") + fichier.fileName() : nom;
+}
+
+} // namespace
+
 QStringList TraduireFiltre(const Texte& filtre)
 {
     QStringList filtres;
@@ -182,7 +193,7 @@ std::unique_ptr<QFileDialog> CréerDialogueFichier(const DialogueFichier& demand
     dialogue->setDirectory(EnQString(demande.Dossier));
     dialogue->setDefaultSuffix(EnQString(demande.Extension));
     if (!demande.NomFichier.empty() && !Contient(demande.NomFichier, u'*'))
-        dialogue->selectFile(EnQString(demande.NomFichier));
+        dialogue->selectFile(NomVisible(EnQString(demande.NomFichier)));
     dialogue->setLabelText(QFileDialog::Accept,
                            enregistrer ? QStringLiteral("&Enregistrer") : QStringLiteral("&Ouvrir"));
     dialogue->setLabelText(QFileDialog::Reject, QStringLiteral("Annuler"));

@@ -33,13 +33,13 @@ TEST(NomFichier, ProposeLesPremiersMots)
     EXPECT_EQ(NomProposé(u"Le chat \r\ndort"), u"Le chat.rtf");
 }
 
-TEST(NomFichier, TexteVideOuSansDébutSAppelleDocument)
+TEST(NomFichier, TexteVideOuSansDébutNAQueLExtension)
 {
-    EXPECT_EQ(NomProposé(u""), u"document.rtf");
-    EXPECT_EQ(NomProposé(u"     "), u"document.rtf");
-    EXPECT_EQ(NomProposé(u"\r\nLe chat"), u"document.rtf");
-    EXPECT_EQ(NomProposé(u"\tLe chat"), u"document.rtf");
-    EXPECT_EQ(NomProposé(u"1er jour"), u"document.rtf");
+    EXPECT_EQ(NomProposé(u""), u".rtf");
+    EXPECT_EQ(NomProposé(u"     "), u".rtf");
+    EXPECT_EQ(NomProposé(u"\r\nLe chat"), u".rtf");
+    EXPECT_EQ(NomProposé(u"\tLe chat"), u".rtf");
+    EXPECT_EQ(NomProposé(u"1er jour"), u".rtf");
 }
 
 } // namespace tirelune

