@@ -1,8 +1,10 @@
 // Every row of the table of screens, opened by its real opener with real widgets.
 #include "TableEcrans.h"
 #include "authoring/frmEnseignant.h"
+#include "core/FichierChamps.h"
 #include "core/frmTirelune.h"
 #include "followup/EnregistrerNotes.h"
+#include "followup/GrilleRésultats.h"
 #include "followup/frmExercices.h"
 #include "tests/desktop/Atelier.h"
 
@@ -76,7 +78,9 @@ Ecrans::Ecrans()
     application.état.CheminAppli = chemin;
     application.état.CheminBilans = chemin;
     const auto bilan = EnChemin(Joindre(chemin, u"Léa.bil"));
-    std::ofstream{bilan}.flush();
+    std::vector<Texte> fiche(1 + NombreColonnes); // a file that is whole is read at once
+    fiche[0] = Marqueur;
+    std::ofstream{bilan} << ComposerChamps(fiche).value();
     std::filesystem::last_write_time(bilan, std::filesystem::file_time_type::clock::now() - 24h); // nobody is at it
     for (const auto* suffixe : {".rtf", ".qst"}) {
         const auto nom = std::string{"La course des escargots"} + suffixe;
