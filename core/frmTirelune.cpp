@@ -8,6 +8,10 @@ namespace tirelune {
 
 namespace {
 
+constexpr VueTexte Conseil =
+    u"     Tirelune nécessite un affichage de 800x600, avec 65 000 couleurs (24 bits) ou plus pour un "
+    u"meilleur confort.                    Pour gagner de la place, faites disparaître la barre des tâches "
+    u"du système : clic droit sur la barre, Propriétés, option Masquer automatiquement.";
 constexpr std::size_t LongueurCode = 6;
 constexpr int LignesBlanches = 7; // the editor shows its fonts seven at a time
 
@@ -29,10 +33,7 @@ EtatInitial frmTirelune::CodeCaché(bool visible)
 frmTirelune::frmTirelune(Application& application)
     : Ecran(application, "frmTirelune", u"Tirelune"),
       Label2(*this, "Label2",
-             {u"     Tirelune nécessite un affichage de 800x600, avec 65 000 couleurs (24 bits) ou plus pour un "
-              u"meilleur confort.                    Pour gagner de la place, faites disparaître la barre des tâches "
-              u"du système : clic droit sur la barre, Propriétés, option Masquer automatiquement.",
-              u"Une banque de textes régulièrement mise à jour est disponible sur le site suivant :",
+             {Texte{Conseil}, u"Une banque de textes régulièrement mise à jour est disponible sur le site suivant :",
               Texte{SiteDeLEcole}, u"Pour nous écrire : " + Texte{ContactDeLEcole}, Texte{}})
 {
     mnuElève.Click = [this] { Ouvrir("frmExercices"); };

@@ -124,10 +124,10 @@ QFont AjusterPolice(const QFont& police, const QString& texte, QSize place, int 
 
 TexteEnPlace FaireTenir(const QFont& police, const QString& texte, QSize place, int drapeaux)
 {
-    const auto tenu = Réduire(police, texte, place, drapeaux, EssaisJusquALaMoitié);
+    auto tenu = Réduire(police, texte, place, drapeaux, EssaisJusquALaMoitié);
     if (tenu.Entier)
         return tenu;
-    const auto enLignes = Réduire(police, texte, place, drapeaux | Qt::TextWordWrap, EssaisEntreLesMots);
+    auto enLignes = Réduire(police, texte, place, drapeaux | Qt::TextWordWrap, EssaisEntreLesMots);
     if (enLignes.Entier)
         return enLignes;
     return Réduire(police, texte, place, (drapeaux & ~Qt::TextWordWrap) | Qt::TextWrapAnywhere, EssaisJusquAuBout);

@@ -224,11 +224,10 @@ Bâtisseur::Place Bâtisseur::BâtirToile(const Arrangement& place, QWidget* par
         if (auto* trait = dynamic_cast<Line*>(enfant.Occupant)) {
             vues_.Ajouter(std::make_unique<VueTrait>(hôte_, *trait, *toile));
             toile->Ajouter(*trait);
-            continue;
-        }
-        Bâtir(enfant, toile, false);
-        if (enfant.Occupant != nullptr)
+        } else if (enfant.Occupant != nullptr) {
+            Bâtir(enfant, toile, false);
             toile->Ajouter(*vues_.VueDe(*enfant.Occupant));
+        }
     }
     return {toile, nullptr};
 }
