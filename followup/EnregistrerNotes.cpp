@@ -79,8 +79,7 @@ Texte MessageNonEnregistré(EchecFichier échec, const Texte& fichier)
            (échec == EchecFichier::Ouverture ? u"Son dossier n'est pas accessible."
                                              : u"Le disque est peut-être plein, ou n'est plus accessible.") +
            u"\nIls restent en mémoire tant que tu ne quittes pas le choix des exercices, et seront enregistrés avec "
-           u"les "
-           u"prochains. Préviens ton enseignant.";
+           u"les prochains. Préviens ton enseignant.";
 }
 
 // The file could not be opened: asks where to go on. False: nowhere.
