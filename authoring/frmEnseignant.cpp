@@ -47,7 +47,7 @@ TexteRiche Extrait(const TexteRiche& texte, std::size_t début, std::size_t long
 // A recent file in the menu, where an "&" alone marks the access key.
 Texte Entrée(int rang, const Texte& chemin)
 {
-    Texte entrée = u" " + EnTexte(static_cast<long long>(rang)) + u" - ";
+    Texte entrée = u" " + EnTexte(rang) + u" - ";
     for (const char16_t c : chemin)
         entrée.append(c == u'&' ? 2 : 1, c);
     return entrée;
