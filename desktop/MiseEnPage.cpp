@@ -38,6 +38,11 @@ QList<QTextLayout::FormatRange> AutourDe(const QTextLayout& lignes, QList<QTextL
     return lettres;
 }
 
+int EnPixels(double hauteur)
+{
+    return static_cast<int>(std::ceil(hauteur));
+}
+
 } // namespace
 
 // ---- Heights -----------------------------------------------------------------------------------------------------
@@ -64,14 +69,14 @@ int MiseEnPage::RangSous(double y) const
     return std::max(0, static_cast<int>(suivant - hauts_.begin()) - 1);
 }
 
-double MiseEnPage::Estimer(const QTextBlock& bloc) const
+int MiseEnPage::Estimer(const QTextBlock& bloc) const
 {
     if (hauteurLigne_ <= 0) {
         const QFontMetricsF mesure{document()->defaultFont()};
         hauteurLigne_ = mesure.lineSpacing();
         lettresParLigne_ = std::max(1.0, Largeur() / std::max(1.0, mesure.averageCharWidth()));
     }
-    return hauteurLigne_ * (1 + static_cast<int>((bloc.length() - 1) / std::max(1.0, lettresParLigne_)));
+    return EnPixels(hauteurLigne_ * (1 + static_cast<int>((bloc.length() - 1) / std::max(1.0, lettresParLigne_))));
 }
 
 QSizeF MiseEnPage::documentSize() const
@@ -92,7 +97,7 @@ QRectF MiseEnPage::blockBoundingRect(const QTextBlock& bloc) const
     Mettre(bloc, rang);
     const QPointF coin{document()->documentMargin(), HautDe(rang)};
     bloc.layout()->setPosition(coin); // where assistive tools look for its letters
-    return {coin, QSizeF{Largeur(), paragraphes_[static_cast<std::size_t>(rang)].Hauteur}};
+    return {coin, QSizeF{Largeur(), static_cast<double>(paragraphes_[static_cast<std::size_t>(rang)].Hauteur)}};
 }
 
 // ---- Laying out --------------------------------------------------------------------------------------------------
@@ -103,7 +108,7 @@ void MiseEnPage::Mettre(const QTextBlock& bloc, int rang) const
     if ((paragraphe.Mis && bloc.layout()->lineCount() > 0) || Largeur() <= 0 || enMise_)
         return;
     enMise_ = true;
-    const double hauteur = PoserLignes(bloc, Habiller(bloc));
+    const int hauteur = PoserLignes(bloc, Habiller(bloc));
     enMise_ = false;
     paragraphe.Mis = EnAccord();
     if (hauteur == paragraphe.Hauteur)
@@ -115,7 +120,7 @@ void MiseEnPage::Mettre(const QTextBlock& bloc, int rang) const
     tailleChangée_ = true;
 }
 
-double MiseEnPage::PoserLignes(const QTextBlock& bloc, const Habillage& habillage) const
+int MiseEnPage::PoserLignes(const QTextBlock& bloc, const Habillage& habillage) const
 {
     auto& lignes = *bloc.layout();
     auto option = document()->defaultTextOption();
@@ -138,11 +143,11 @@ double MiseEnPage::PoserLignes(const QTextBlock& bloc, const Habillage& habillag
     }
     lignes.endLayout();
     if (bloc.length() <= 1)
-        return QFontMetricsF{habillage.Vide.font()}.lineSpacing();
+        return EnPixels(QFontMetricsF{habillage.Vide.font()}.lineSpacing());
     hauteurLigne_ = y / lignes.lineCount();
     if (lignes.lineCount() > 1)
         lettresParLigne_ = lignes.lineAt(1).textStart();
-    return y;
+    return EnPixels(y);
 }
 
 void MiseEnPage::documentChanged(int de, int /*retirés*/, int ajoutés)
@@ -156,7 +161,7 @@ void MiseEnPage::documentChanged(int de, int /*retirés*/, int ajoutés)
     const int dernier = texte->findBlock(std::min(de + ajoutés, dernièrePlace)).blockNumber();
     const int nouveaux = texte->blockCount() - Nombre();
     const bool unSeul = nouveaux == 0 && premier == dernier;
-    const double hauteur = unSeul ? paragraphes_[static_cast<std::size_t>(premier)].Hauteur : 0;
+    const int hauteur = unSeul ? paragraphes_[static_cast<std::size_t>(premier)].Hauteur : 0;
 
     const auto place = paragraphes_.begin() + premier;
     if (nouveaux > 0)
@@ -234,8 +239,7 @@ void MiseEnPage::Annoncer()
     if (!std::exchange(tailleChangée_, false))
         return;
     const int haut = Haut(); // the scroll bar may move by itself when its range changes
-    const auto décalage = static_cast<int>(std::lround(décalage_));
-    décalage_ -= décalage; // less than a pixel is for the next time
+    const int décalage = std::exchange(décalage_, 0);
     emit documentSizeChanged(documentSize());
     if (décalage != 0)
         Défiler(haut + décalage);

@@ -49,7 +49,7 @@ protected:
 
 private:
     struct Paragraphe {
-        double Hauteur = 0; // a guess, until it is laid out
+        int Hauteur = 0; // in whole pixels, so that scrolling can make up for it; a guess, until it is laid out
         bool Mis = false;
     };
 
@@ -57,18 +57,18 @@ private:
     [[nodiscard]] int Nombre() const { return static_cast<int>(paragraphes_.size()); }
     [[nodiscard]] double HautDe(int rang) const;
     [[nodiscard]] int RangSous(double y) const;
-    [[nodiscard]] double Estimer(const QTextBlock& bloc) const;
+    [[nodiscard]] int Estimer(const QTextBlock& bloc) const;
     void Mettre(const QTextBlock& bloc, int rang) const;
-    [[nodiscard]] double PoserLignes(const QTextBlock& bloc, const Habillage& habillage) const;
+    [[nodiscard]] int PoserLignes(const QTextBlock& bloc, const Habillage& habillage) const;
     void Annoncer();
 
     // Laying out on demand changes what is known of the text, and nothing of the text.
     mutable std::vector<Paragraphe> paragraphes_;
-    mutable std::vector<double> hauts_{0}; // of each paragraph, and the end; right up to `justes_`
+    mutable std::vector<int> hauts_{0}; // of each paragraph, and the end; right up to `justes_`
     mutable std::size_t justes_ = 0;
     mutable double hauteurLigne_ = 0;    // of the last paragraph laid out
     mutable double lettresParLigne_ = 0; // of the last one of several lines
-    mutable double décalage_ = 0;
+    mutable int décalage_ = 0;           // how far what is in sight was pushed, and has yet to be scrolled
     mutable bool tailleChangée_ = false;
     mutable bool enMise_ = false;
     int prochain_ = 0; // those before it are laid out
