@@ -12,7 +12,8 @@ A session is a file seance-*.py:
 
     sys.exit(pilote.lancer("ma-seance", seance))
 
-Widgets are found by the name that assistive tools see: the element's own name, "cmdOk" or "lblExo(3)".
+Widgets are found by their object name, which is the element's own, "cmdOk" or "lblExo(3)"; values of lists, menus and
+boxes by what assistive tools hear.
 Each step waits until the screen is ready for it, and fails when that takes too long; nothing sleeps and hopes.
 A name is looked for in the active window, so that the same name in a window below is not taken for it.
 """
@@ -32,6 +33,8 @@ import traceback
 
 SOURCES = os.path.dirname(os.path.dirname(os.path.dirname(os.path.abspath(__file__))))
 PROGRAMME = os.environ.get("TIRELUNE_PROGRAMME", os.path.join(SOURCES, "build", "release", "desktop", "tirelune"))
+# The toolkit's bridge tells no object names: a plugin that only the sessions load does.
+GREFFONS = os.environ.get("TIRELUNE_GREFFONS", os.path.join(SOURCES, "build", "release", "tests", "greffon"))
 CAPTURES = os.path.join(SOURCES, "build", "seance")
 DELAI = 20.0  # seconds, for anything that is to happen
 PAS = 0.03    # between two looks
@@ -128,26 +131,45 @@ class Ecran:
         arreter(self.serveur)
 
 
-class Element:
-    """A widget as assistive tools see it."""
+class Noms:
+    """The object names in a running program, told by tests/greffon; they never change."""
 
-    def __init__(self, accessible):
+    def __init__(self, numero):
+        self.service = f"fr.tirelune.p{numero}"
+        self.bus = Gio.bus_get_sync(Gio.BusType.SESSION)
+        self.connus = {}
+
+    def nom(self, chemin):
+        if chemin not in self.connus:
+            numero = chemin.rpartition("/")[2]
+            self.connus[chemin] = self._demander(int(numero)) if numero.isdigit() else ""
+        return self.connus[chemin]
+
+    def _demander(self, numero):
+        return self.bus.call_sync(self.service, "/noms", "fr.tirelune.Noms", "nom", GLib.Variant("(u)", (numero,)),
+                                  GLib.VariantType("(s)"), Gio.DBusCallFlags.NONE, 15000).unpack()[0]
+
+
+class Element:
+    """A widget as assistive tools see it, and its object name."""
+
+    def __init__(self, accessible, noms=None):
         self.accessible = accessible
+        self.noms = noms
+
+    @property
+    def identifiant(self):
+        """The object name; none for what is no widget, as an item of a list."""
+        return self.noms.nom(self.accessible.path) if self.noms else ""
 
     @property
     def nom(self):
+        """What is heard."""
         return self.accessible.get_name()
 
     @property
     def role(self):
         return self.accessible.get_role_name()
-
-    @property
-    def noms(self):
-        """A drop-down list's name is its value: the toolkit leaves its own name only in the description."""
-        if self.role == "combo box":
-            return (self.nom, *self.accessible.get_description().split()[:1])
-        return (self.nom,)
 
     def etat(self, nom):
         """nom: "SHOWING", "SENSITIVE", "CHECKED"... as in AT-SPI."""
@@ -169,7 +191,7 @@ class Element:
         for i in range(self.accessible.get_child_count()):
             enfant = self.accessible.get_child_at_index(i)
             if enfant is not None:
-                resultat.append(Element(enfant))
+                resultat.append(Element(enfant, self.noms))
         return resultat
 
     @property
@@ -221,6 +243,8 @@ class Pilote:
         subprocess.run([os.path.join(SOURCES, "tools", "disposer"), PROGRAMME, self.racine], check=True)
         if preparer:
             preparer(self.racine)
+        if not os.path.isdir(os.path.join(GREFFONS, "generic")):
+            raise Absent(f"the plugin in {GREFFONS}: build the target noms of the preset release")
         self.maison = tempfile.mkdtemp(prefix="tirelune-")
         self.ecran = self.bus = self.programme = self.application = None
         self.journal = os.path.join(self.captures, "messages.txt")
@@ -238,7 +262,8 @@ class Pilote:
         # Nothing of the machine's user comes in, nothing goes out.
         environnement.update(HOME=self.maison, XDG_RUNTIME_DIR=self.maison, XDG_CONFIG_HOME=self.maison,
                              XDG_DATA_HOME=self.maison, XDG_CACHE_HOME=self.maison, LC_ALL="C.UTF-8",
-                             QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1", NO_AT_BRIDGE="0")
+                             QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1", NO_AT_BRIDGE="0",
+                             QT_PLUGIN_PATH=GREFFONS, QT_QPA_GENERIC_PLUGINS="tirelune-noms")
         lire, ecrire = os.pipe()
         self.bus = demarrer(["dbus-daemon", "--session", "--nofork", f"--print-address={ecrire}"],
                             pass_fds=[ecrire], env=environnement, stdout=subprocess.DEVNULL,
@@ -263,7 +288,7 @@ class Pilote:
             raise Absent(f"the program ended at once, with code {self.programme.returncode}")
         for application in Element(Atspi.get_desktop(0)).enfants:
             if application.accessible.get_process_id() == self.programme.pid and application.enfants:
-                return application
+                return Element(application.accessible, Noms(self.programme.pid))
         return None
 
     def fermer(self):
@@ -311,19 +336,28 @@ class Pilote:
                 return une
         return fenetres[-1] if fenetres else None
 
-    def chercher(self, nom, role=None, partout=False):
-        """The shown widget of that name, or None. partout: in all windows, the last one opened first."""
-        racines = list(reversed(self.fenetres())) if partout else [self.fenetre()]
-        for racine in racines:
+    def _premier(self, convient, partout):
+        for racine in reversed(self.fenetres()) if partout else [self.fenetre()]:
             if racine is None:
                 continue
             for element in [racine, *racine.descendants()]:
-                if nom in element.noms and element.visible and role in (None, element.role):
+                if convient(element) and element.visible:
                     return element
         return None
 
-    def attendre(self, nom, delai=DELAI, role=None, partout=False):
-        return self.jusqu_a(lambda: self.chercher(nom, role, partout), f"{nom!r} is shown", delai)
+    def chercher(self, nom, partout=False):
+        """The shown widget of that name, or None. partout: in all windows, the last one opened first."""
+        return self._premier(lambda element: element.identifiant == nom, partout)
+
+    def chercher_valeur(self, valeur):
+        """The shown item of a list that reads so, or None."""
+        return self._premier(lambda element: element.role == "list item" and element.nom == valeur, True)
+
+    def attendre(self, nom, delai=DELAI, partout=False):
+        return self.jusqu_a(lambda: self.chercher(nom, partout), f"{nom!r} is shown", delai)
+
+    def attendre_valeur(self, valeur, delai=DELAI):
+        return self.jusqu_a(lambda: self.chercher_valeur(valeur), f"the value {valeur!r} is shown", delai)
 
     def attendre_disparition(self, nom, delai=DELAI):
         self.jusqu_a(lambda: self.chercher(nom) is None, f"{nom!r} has gone", delai)
@@ -332,11 +366,13 @@ class Pilote:
         """The active window of that name: a dialog by the start of its title, a screen of the program by its name."""
         def active():
             une = self.fenetre()
-            return une if une and une.etat("ACTIVE") and une.nom.startswith(titre) else None
+            if une is None or not une.etat("ACTIVE"):
+                return None
+            return une if une.identifiant == titre or une.nom.startswith(titre) else None
         return self.jusqu_a(active, f"the window {titre!r} is in front", delai)
 
     def attendre_titre(self, titre, delai=DELAI):
-        """The window in front shows that title: assistive tools know the program's screens by their names instead."""
+        """The window in front shows that title."""
         def lu():
             reponse = subprocess.run(["xdotool", "getactivewindow", "getwindowname"], stdout=subprocess.PIPE,
                                      stderr=subprocess.DEVNULL, timeout=60)
@@ -348,7 +384,7 @@ class Pilote:
 
     def elements(self):
         """All that the active window is made of, by name: to be kept where much is to be looked at or clicked."""
-        return {element.nom: element for element in self.fenetre().descendants()}
+        return {element.identifiant: element for element in self.fenetre().descendants()}
 
     def attendre_texte(self, nom, texte, delai=DELAI):
         """The widget shows that text, blanks at the ends apart."""
@@ -375,7 +411,7 @@ class Pilote:
                 return place
             precedente.append(place)
             return None
-        x, y, l, h = self.jusqu_a(immobile, f"{element.nom!r} can be clicked")
+        x, y, l, h = self.jusqu_a(immobile, f"{element.identifiant or element.nom!r} can be clicked")
         return x + l // 2, y + h // 2
 
     def _cible(self, cible):
@@ -449,7 +485,7 @@ class Pilote:
     def choisir(self, liste, valeur):
         """Open a drop-down list and click one of its values."""
         self.clic(liste)
-        self.clic(self.attendre(valeur, role="list item", partout=True))
+        self.clic(self.attendre_valeur(valeur))
         self.attendre_texte_liste(liste, valeur)
 
     def attendre_texte_liste(self, liste, valeur, delai=DELAI):
@@ -571,7 +607,7 @@ class Pilote:
         lignes = []
         for enfant in (element.enfants if element else self.fenetres()):
             if enfant.visible:
-                lignes.append(" " * retrait + f"{enfant.nom!r} {enfant.role} {enfant.place} {enfant.texte!r}")
+                lignes.append(" " * retrait + f"{enfant.identifiant} {enfant.role} {enfant.nom!r} {enfant.place} {enfant.texte!r}")
                 lignes += self.arbre(enfant, retrait + 2)
         return lignes
 
@@ -593,11 +629,11 @@ def champs(donnees):
 
 def preparer_atspi():
     """Only once the session's bus is known: the library connects as soon as it is used."""
-    global Atspi, GLib
+    global Atspi, Gio, GLib
     import gi
     gi.require_version("Atspi", "2.0")
-    from gi.repository import Atspi as atspi, GLib as glib
-    Atspi, GLib = atspi, glib
+    from gi.repository import Atspi as atspi, Gio as gio, GLib as glib
+    Atspi, Gio, GLib = atspi, gio, glib
     Atspi.init()
     Atspi.set_timeout(3000, 15000)
     # Without an event loop nobody would refresh what the library keeps.

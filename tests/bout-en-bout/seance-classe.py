@@ -42,10 +42,10 @@ def noms(p, liste):
     """The values of a drop-down list, closed again."""
     premier = p.valeur(liste)
     p.clic(liste)
-    p.attendre(premier, role="list item", partout=True)
+    p.attendre_valeur(premier)
     trouves = [e.nom for e in p.attendre(liste, partout=True).descendants() if e.role == "list item"]
     p.touche("Escape")
-    p.jusqu_a(lambda: p.chercher(premier, role="list item", partout=True) is None, f"the list {liste!r} is closed")
+    p.jusqu_a(lambda: p.chercher_valeur(premier) is None, f"the list {liste!r} is closed")
     return trouves
 
 

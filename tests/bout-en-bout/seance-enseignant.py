@@ -106,7 +106,7 @@ def un_mauvais_code(p):
     p.taper(CODE.lower())
     p.touche("Return")
     p.attendre_disparition("txtCodeEnseignant")
-    p.verifier(p.fenetre().nom == "frmTirelune" and len(p.fenetres()) == 1, "a wrong code opens nothing")
+    p.verifier(p.fenetre().identifiant == "frmTirelune" and len(p.fenetres()) == 1, "a wrong code opens nothing")
 
 
 def mesurer_la_vitesse(p, chemin):
