@@ -1,5 +1,6 @@
 #include "desktop/Apparence.h"
 
+#include "core/Enseigne.h"
 #include "desktop/Conversions.h"
 
 #include <QApplication>
@@ -72,6 +73,10 @@ void InstallerApparence()
     QApplication::setPalette(palette);
     QApplication::setFont(PolicePour({}, 0, false, 1));
     QApplication::setQuitOnLastWindowClosed(false);
+    QIcon icône;
+    for (const int côté : {16, 32, 48, 128})
+        icône.addPixmap(EnImage(IcôneDuProgramme(), côté));
+    QApplication::setWindowIcon(icône);
 }
 
 double EchellePour(QSize taille)
@@ -220,6 +225,15 @@ QRectF Proportionné(const Dessin& dessin, const QRectF& place)
     const QSizeF taille{dessin.Largeur * facteur, dessin.Hauteur * facteur};
     return {place.x() + (place.width() - taille.width()) / 2, place.y() + (place.height() - taille.height()) / 2,
             taille.width(), taille.height()};
+}
+
+QPixmap EnImage(const Dessin& dessin, int côté)
+{
+    QPixmap image{côté, côté};
+    image.fill(Qt::transparent);
+    QPainter peintre{&image};
+    Peindre(peintre, dessin, Proportionné(dessin, QRectF{image.rect()}));
+    return image;
 }
 
 } // namespace tirelune

@@ -11,6 +11,7 @@
 
 class QPainter;
 class QPalette;
+class QPixmap;
 
 namespace tirelune {
 
@@ -56,5 +57,7 @@ QSize TailleTexte(const QFont& police, const QString& texte, int drapeaux, int l
 void Peindre(QPainter& peintre, const Dessin& dessin, const QRectF& place);
 // The largest rectangle of the drawing's proportion, in the middle of the place.
 QRectF Proportionné(const Dessin& dessin, const QRectF& place);
+// A square picture of the drawing, on nothing.
+QPixmap EnImage(const Dessin& dessin, int côté);
 
 } // namespace tirelune
