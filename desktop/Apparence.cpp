@@ -1,20 +1,17 @@
 #include "desktop/Apparence.h"
 
-#include "core/Enseigne.h"
 #include "desktop/Conversions.h"
 
-#include <QApplication>
 #include <QFontMetrics>
 #include <QIcon>
+#include <QIconEngine>
 #include <QPainter>
 #include <QPainterPath>
-#include <QPalette>
 #include <QPixmap>
-#include <QPolygon>
-#include <QProxyStyle>
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace tirelune {
 
@@ -23,60 +20,11 @@ namespace {
 constexpr double TailleUsuelle = 12; // points, on an 800 x 600 display
 const QString PolicePropre = QStringLiteral("Comic Sans MS");
 
-// What the toolkit asks of a style and a palette can't say.
-class Manières final : public QProxyStyle {
-public:
-    using QProxyStyle::QProxyStyle;
-    int styleHint(StyleHint question, const QStyleOption* option, const QWidget* widget,
-                  QStyleHintReturn* réponse) const override
-    {
-        if (question == SH_LineEdit_PasswordCharacter)
-            return u'*';
-        return QProxyStyle::styleHint(question, option, widget, réponse);
-    }
-    // Every menu bar asks for this one; the style's own is a file, and reading it loads all image formats.
-    QIcon standardIcon(StandardPixmap icône, const QStyleOption* option, const QWidget* widget) const override
-    {
-        if (icône != SP_ToolBarHorizontalExtensionButton)
-            return QProxyStyle::standardIcon(icône, option, widget);
-        QPixmap image{16, 16};
-        image.fill(Qt::transparent);
-        QPainter peintre{&image};
-        peintre.setPen(QPen{Teinte::Encre, 2});
-        for (const int x : {3, 8})
-            peintre.drawPolyline(QPolygon{{QPoint{x, 4}, QPoint{x + 4, 8}, QPoint{x, 12}}});
-        return QIcon{image};
-    }
-};
-
 } // namespace
 
-void InstallerApparence()
+void RemplacerPolicePropre()
 {
-    QApplication::setStyle(new Manières{QStringLiteral("fusion")});
-    // Texts keep the name of the font; only the picture changes where the machine lacks it.
     QFont::insertSubstitution(PolicePropre, QStringLiteral("Comic Neue"));
-
-    QPalette palette{Teinte::Bouton, Teinte::Fond};
-    palette.setColor(QPalette::WindowText, Teinte::Encre);
-    palette.setColor(QPalette::Text, Teinte::Encre);
-    palette.setColor(QPalette::ButtonText, Teinte::Encre);
-    palette.setColor(QPalette::PlaceholderText, Teinte::Encre);
-    palette.setColor(QPalette::Base, Teinte::Panneau);
-    palette.setColor(QPalette::Button, QColor{0xE4, 0xEE, 0xF8});
-    palette.setColor(QPalette::Highlight, Teinte::Sélection);
-    palette.setColor(QPalette::HighlightedText, Teinte::Encre);
-    palette.setColor(QPalette::ToolTipBase, QColor{0xFF, 0xF8, 0xDC});
-    palette.setColor(QPalette::ToolTipText, Teinte::Encre);
-    for (const auto rôle : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
-        palette.setColor(QPalette::Disabled, rôle, Teinte::EncreEteinte);
-    QApplication::setPalette(palette);
-    QApplication::setFont(PolicePour({}, 0, false, 1));
-    QApplication::setQuitOnLastWindowClosed(false);
-    QIcon icône;
-    for (const int côté : {16, 32, 48, 128})
-        icône.addPixmap(EnImage(IcôneDuProgramme(), côté));
-    QApplication::setWindowIcon(icône);
 }
 
 double EchellePour(QSize taille)
@@ -227,13 +175,38 @@ QRectF Proportionné(const Dessin& dessin, const QRectF& place)
             taille.width(), taille.height()};
 }
 
-QPixmap EnImage(const Dessin& dessin, int côté)
+namespace {
+
+class MoteurDessin final : public QIconEngine {
+public:
+    explicit MoteurDessin(Dessin dessin) : dessin_(std::move(dessin)) {}
+
+    void paint(QPainter* peintre, const QRect& place, QIcon::Mode mode, QIcon::State /*état*/) override
+    {
+        static constexpr double Eteinte = 0.35;
+        peintre->setOpacity(mode == QIcon::Disabled ? Eteinte : 1);
+        Peindre(*peintre, dessin_, Proportionné(dessin_, QRectF{place}));
+        peintre->setOpacity(1);
+    }
+    [[nodiscard]] QPixmap pixmap(const QSize& taille, QIcon::Mode mode, QIcon::State état) override
+    {
+        QPixmap image{taille};
+        image.fill(Qt::transparent);
+        QPainter peintre{&image};
+        paint(&peintre, image.rect(), mode, état);
+        return image;
+    }
+    [[nodiscard]] QIconEngine* clone() const override { return new MoteurDessin{dessin_}; }
+
+private:
+    Dessin dessin_;
+};
+
+} // namespace
+
+QIcon EnIcône(Dessin dessin)
 {
-    QPixmap image{côté, côté};
-    image.fill(Qt::transparent);
-    QPainter peintre{&image};
-    Peindre(peintre, dessin, Proportionné(dessin, QRectF{image.rect()}));
-    return image;
+    return QIcon{new MoteurDessin{std::move(dessin)}};
 }
 
 } // namespace tirelune

@@ -10,8 +10,7 @@
 #include <QString>
 
 class QPainter;
-class QPalette;
-class QPixmap;
+class QIcon;
 
 namespace tirelune {
 
@@ -19,6 +18,8 @@ namespace Teinte {
 inline const QColor Fond{0xEF, 0xF5, 0xFB};
 inline const QColor Encre{0x1B, 0x27, 0x45};
 inline const QColor Panneau{0xFF, 0xFF, 0xFF};
+inline const QColor BordChamp{0xB9, 0xC4, 0xDD};
+inline const QColor BordActif{0x6F, 0x86, 0xB8}; // of what is typed into
 inline const QColor BordPanneau{0x8F, 0xB3, 0xDB};
 inline const QColor Bouton{0xFF, 0xE2, 0x8A};
 inline const QColor BoutonSurvolé{0xFF, 0xED, 0xB5};
@@ -30,8 +31,8 @@ inline const QColor Anneau{0x0B, 0x5C, 0xC4}; // around what has the keyboard
 inline const QColor Sélection{0xFF, 0xD5, 0x4F};
 } // namespace Teinte
 
-// Palette, fonts and manners of the whole program.
-void InstallerApparence();
+// Texts keep the name of the font; only the picture changes where the machine lacks it.
+void RemplacerPolicePropre();
 
 // How much larger than on an 800 x 600 display things are drawn.
 double EchellePour(QSize taille);
@@ -57,7 +58,7 @@ QSize TailleTexte(const QFont& police, const QString& texte, int drapeaux, int l
 void Peindre(QPainter& peintre, const Dessin& dessin, const QRectF& place);
 // The largest rectangle of the drawing's proportion, in the middle of the place.
 QRectF Proportionné(const Dessin& dessin, const QRectF& place);
-// A square picture of the drawing, on nothing.
-QPixmap EnImage(const Dessin& dessin, int côté);
+// Drawn anew for each size and each kind of display.
+QIcon EnIcône(Dessin dessin);
 
 } // namespace tirelune

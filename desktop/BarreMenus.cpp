@@ -7,6 +7,7 @@
 #include <QAction>
 #include <QFontMetrics>
 #include <QMenu>
+#include <QStyle>
 
 namespace tirelune {
 
@@ -63,6 +64,7 @@ void BarreMenus::Remplir(Hôte& hôte, JeuDeVues& vues, QWidget& où, const std:
             action->setSeparator(true);
         if (!entrée.Sous.empty()) {
             sous = new QMenu{&où};
+            menus_.push_back(sous);
             action->setMenu(sous);
             Remplir(hôte, vues, *sous, entrée.Sous);
         }
@@ -77,18 +79,25 @@ void BarreMenus::Remplir(Hôte& hôte, JeuDeVues& vues, QWidget& où, const std:
 
 void BarreMenus::Ajuster(double échelle, int largeur)
 {
-    const auto police = PolicePour({}, 0, false, échelle);
+    // A bar whose entries lead straight on is all that its screen has to press: it is written larger.
+    static constexpr double GrandesLettres = 16; // points
+    const auto police = PolicePour({}, menus_.empty() ? GrandesLettres : 0, false, échelle);
     if (font() != police)
         setFont(police);
+    for (auto* menu : menus_) { // a window of its own, to which the font doesn't come down
+        if (menu->font() != police)
+            menu->setFont(police);
+    }
     const QFontMetrics mesure{police};
-    const int bord = 2 * (mesure.averageCharWidth() + 2);
     int voulue = 0;
-    for (const auto& [option, action] : entrées_)
-        voulue += mesure.size(Qt::TextShowMnemonic, EnAffichage(option->Caption())).width() + bord;
+    for (const auto& [option, action] : entrées_) {
+        const auto texte = mesure.size(Qt::TextShowMnemonic, EnAffichage(option->Caption()));
+        voulue += style()->sizeFromContents(QStyle::CT_MenuBarItem, nullptr, texte, this).width();
+    }
     // The blanks around captions spread the menus out; where there is no room they go first.
     for (const auto& [option, action] : entrées_) {
         const auto entière = EnAffichage(option->Caption());
-        const auto montrée = voulue <= largeur ? entière : QStringLiteral("  %1  ").arg(entière.trimmed());
+        const auto montrée = voulue <= largeur ? entière : entière.trimmed();
         if (action->text() != montrée)
             action->setText(montrée);
     }

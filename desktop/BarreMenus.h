@@ -23,6 +23,7 @@ private:
     void Remplir(Hôte& hôte, JeuDeVues& vues, QWidget& où, const std::vector<Menu>& entrées);
 
     std::vector<std::pair<MenuOption*, QAction*>> entrées_; // of the bar itself
+    std::vector<QMenu*> menus_;                             // below it
 };
 
 } // namespace tirelune

@@ -33,7 +33,7 @@ private:
             const int largeur = maximum > 0 && maximum <= Court
                                     ? fontMetrics().horizontalAdvance(u'M') * (static_cast<int>(maximum) + 2)
                                     : naturelle.width();
-            return {largeur, naturelle.height() + font().pixelSize() / 3};
+            return {largeur, naturelle.height()};
         }
 
     protected:

@@ -2,8 +2,8 @@
 #include "TableEcrans.h"
 #include "core/Application.h"
 #include "core/frmTirelune.h"
-#include "desktop/Apparence.h"
 #include "desktop/PlateformeQt.h"
+#include "desktop/Style.h"
 
 #include <QApplication>
 

@@ -5,10 +5,10 @@
 // Usage: banc-paragraphes [--sans-limite] [paragraphs]
 #include "authoring/frmEnseignant.h"
 #include "core/EcrivainRtf.h"
-#include "desktop/Apparence.h"
 #include "desktop/Conversions.h"
 #include "desktop/Fenetre.h"
 #include "desktop/PlateformeQt.h"
+#include "desktop/Style.h"
 
 #include <QApplication>
 #include <QKeyEvent>

@@ -1,21 +1,49 @@
 // The look that all windows share.
 #include "tests/desktop/Atelier.h"
 
+#include <QCheckBox>
+#include <QComboBox>
 #include <QIcon>
+#include <QListWidget>
+#include <QMenu>
+#include <QMenuBar>
+#include <QScrollBar>
+#include <QStyle>
 
 namespace tirelune {
 
 namespace {
 
-struct EcranUn final : EcranEssai {
+struct EcranFamille final : EcranEssai {
     using EcranEssai::EcranEssai;
-    Button cmdOk{*this, "cmdOk", u"&Ok"};
-    Arrangement Disposer() override { return Colonne{cmdOk}; }
+    TextBox txtNom{*this, "txtNom"};
+    ComboBox cmbNoms{*this, "cmbNoms"};
+    ComboBox cmbTaille{*this, "cmbTaille", {.Saisie = true}};
+    ListBox lstMots{*this, "lstMots"};
+    CheckBox chkRéponse{*this, "chkRéponse", u"En mai."};
+    MenuOption mnuFichier{*this, "mnuFichier", u"&Fichier"};
+    MenuOption mnuOuvrir{*this, "mnuOuvrir", u"&Ouvrir"};
+    bool avecSousMenu = true;
+
+    Arrangement Disposer() override { return Colonne{txtNom, cmbNoms, cmbTaille, chkRéponse, Extensible(lstMots)}; }
+    std::vector<Menu> Menus() override
+    {
+        return avecSousMenu ? std::vector<Menu>{{&mnuFichier, {{&mnuOuvrir}}}} : std::vector<Menu>{{&mnuFichier}};
+    }
 };
+
+constexpr QSize Usuelle{1366, 768};
+constexpr int Moindre = 40; // pixels: what a hand that is not yet sure can hit
 
 class Manières : public Atelier {
 protected:
-    EcranUn écran{application};
+    EcranFamille écran{application};
+
+    void Agrandir(QSize taille)
+    {
+        Devant().resize(taille);
+        Mettre();
+    }
 };
 
 } // namespace
@@ -30,6 +58,80 @@ TEST_F(Manières, ChaqueFenêtrePorteLIcôneDuProgramme)
             EXPECT_LT(image.pixelColor(0, 0).alpha(), 128) << "round corners";
             EXPECT_EQ(image.pixelColor(côté / 2, côté - 2).alpha(), 255);
         }
+    });
+}
+
+TEST_F(Manières, ChampsEtListesOntLaMêmeHauteurQuiCroîtAvecLaFenêtre)
+{
+    Avec(écran, [&] {
+        Agrandir({800, 600});
+        const int petite = Widget(écran.txtNom).height();
+        Agrandir(Usuelle);
+        const int hauteur = Widget(écran.txtNom).height();
+        EXPECT_GE(hauteur, Moindre);
+        EXPECT_GT(hauteur, petite);
+        EXPECT_EQ(Widget(écran.cmbNoms).height(), hauteur);
+        EXPECT_EQ(Widget(écran.cmbTaille).height(), hauteur);
+    });
+}
+
+TEST_F(Manières, CasesRangéesEtOptionsSontAssezGrandes)
+{
+    écran.lstMots.AddItem(u"phare");
+    Avec(écran, [&] {
+        Agrandir(Usuelle);
+        const auto& case_ = Widget<QCheckBox>(écran.chkRéponse);
+        EXPECT_GE(case_.style()->pixelMetric(QStyle::PM_IndicatorHeight, nullptr, &case_), 28);
+        const auto& liste = Widget<QListWidget>(écran.lstMots);
+        EXPECT_GE(liste.visualItemRect(liste.item(0)).height(), Moindre);
+        auto* menu = Devant().findChild<QMenu*>();
+        ASSERT_NE(menu, nullptr);
+        EXPECT_GE(menu->actionGeometry(menu->actions().front()).height(), Moindre);
+        const auto* barre = Devant().findChild<QMenuBar*>();
+        EXPECT_GE(barre->actionGeometry(barre->actions().front()).height(), Moindre);
+    });
+}
+
+TEST_F(Manières, UneBarreQuiMèneDroitAuButEstEcritePlusGrand)
+{
+    écran.avecSousMenu = false;
+    Avec(écran, [&] {
+        Agrandir(Usuelle);
+        EXPECT_GT(Devant().findChild<QMenuBar*>()->font().pixelSize(), Widget(écran.txtNom).font().pixelSize());
+    });
+}
+
+TEST_F(Manières, UneListeSOuvreSousSaBoîteEtYChoisitParLesFlèches)
+{
+    écran.cmbNoms.AddItems({u"Léa", u"Tom"});
+    Avec(écran, [&] {
+        auto& boîte = Widget<QComboBox>(écran.cmbNoms);
+        boîte.showPopup();
+        auto* vue = boîte.view();
+        EXPECT_GE(vue->mapToGlobal(QPoint{}).y(), boîte.mapToGlobal(QPoint{0, boîte.height()}).y());
+        const auto place = vue->visualRect(boîte.model()->index(1, 0));
+        EXPECT_GE(place.height(), boîte.height() * 3 / 4);
+        QTest::keyClick(vue, Qt::Key_Down);
+        QTest::keyClick(vue, Qt::Key_Return);
+        EXPECT_EQ(écran.cmbNoms.Text(), u"Tom");
+    });
+}
+
+TEST_F(Manières, LeCurseurDUneBarreSuitLaSouris)
+{
+    for (int i = 0; i < 200; ++i)
+        écran.lstMots.AddItem(u"mot");
+    Avec(écran, [&] {
+        auto* barre = Widget<QListWidget>(écran.lstMots).verticalScrollBar();
+        QTest::mousePress(barre, Qt::LeftButton, {}, QPoint{barre->width() / 2, 8});
+        QTest::mouseMove(barre, QPoint{barre->width() / 2, barre->height() / 2});
+        EXPECT_GT(barre->value(), barre->maximum() / 4);
+        EXPECT_LT(barre->value(), barre->maximum());
+        QTest::mouseMove(barre, QPoint{barre->width() / 2, barre->height() + 100});
+        EXPECT_EQ(barre->value(), barre->maximum());
+        QTest::mouseRelease(barre, Qt::LeftButton, {}, QPoint{barre->width() / 2, barre->height()});
+        QTest::mouseClick(barre, Qt::LeftButton, {}, QPoint{barre->width() / 2, 4});
+        EXPECT_LT(barre->value(), barre->maximum()) << "a click beside it goes a page back";
     });
 }
 

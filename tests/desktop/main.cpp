@@ -1,4 +1,4 @@
-#include "desktop/Apparence.h"
+#include "desktop/Style.h"
 
 #include <QApplication>
 #include <QTemporaryDir>
