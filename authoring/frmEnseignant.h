@@ -47,12 +47,14 @@ public:
     MenuOption mnuArrêter{*this, "mnuArrêter", u"               A&ccueil               "};
 
     Toolbar tlbBoutons;
-    Tableau<TextBox> txtPolices{*this, "txtPolices",
-                                ListePolices::NombreLignes + 1}; // 0: the current font; then the list's lines
+    Tableau<TextBox> txtPolices{*this,
+                                "txtPolices",
+                                ListePolices::NombreLignes + 1,
+                                {.Libellé = u"Police"}}; // 0: the current font; then the list's lines
     Button flèchePolice{*this, "flèchePolice", {.Caption = u"▼", .ToolTipText = u"Choisir une police"}};
     ComboBox cmbFontSize{*this, "cmbFontSize", {.ToolTipText = u"Taille des caractères", .Saisie = true}};
     Frame framePolices{*this, "framePolices", {.Visible = false}};
-    ScrollBar scrlPolices{*this, "scrlPolices"};
+    ScrollBar scrlPolices{*this, "scrlPolices", {.Libellé = u"Polices"}};
 
     RichTextBox rtfTexte{*this, "rtfTexte", {.Police = u"Comic Sans MS"}};
     RichTextBox rtfSauve{*this, "rtfSauve", {.Visible = false}}; // what btnAnnuler brings back

@@ -13,7 +13,7 @@ public:
     Label lblRechercher{*this, "lblRechercher", u"Rechercher :"};
     TextBox txtRechercher{*this, "txtRechercher"};
     Label lblRemplacer{*this, "lblRemplacer", u"Remplacer par :"};
-    TextBox txtRemplacer{*this, "txtRemplacer"};
+    TextBox txtRemplacer{*this, "txtRemplacer", {.Libellé = u"Remplacer par"}};
     Button cmdSuivant{*this, "cmdSuivant", u"Rec&hercher"};
     Button cmdRemplacer{*this, "cmdRemplacer", u"&Remplacer"};
     Button cmdToutRemplacer{*this, "cmdToutRemplacer", u"&Tout Remplacer"};

@@ -21,6 +21,7 @@ Elément::Elément(Ecran& écran, std::string_view nom, const EtatInitial& initi
       FontSize(*this, initial.FontSize),
       Police(*this, initial.Police),
       Gras(*this, initial.Gras),
+      Libellé(initial.Libellé),
       écran_(écran)
 {
     écran.Inscrire(*this);

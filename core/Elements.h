@@ -25,6 +25,7 @@ struct EtatInitial {
     bool Visible = true;
     bool Enabled = true;
     Texte ToolTipText{};
+    Texte Libellé{}; // what it is called where no caption or label stands by it; nobody draws it
     Couleur BackColor = CouleurAuto;
     Couleur ForeColor = CouleurAuto;
     double FontSize = 0; // points; 0: the usual size
@@ -90,6 +91,7 @@ public:
     // In a Libre: stands over another element, in its place and size, wherever that one is.
     Propriété<const Elément*> PoséSur{*this, nullptr};
     Texte Tag; // a mark of the screen's own; nobody draws it
+    const Texte Libellé;
 
     std::function<void()> GotFocus; // the keyboard has come to the element
     std::function<void()> LostFocus;

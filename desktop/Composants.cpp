@@ -307,7 +307,6 @@ void Panneau::Titrer(const QString& titre)
         return;
     const bool marges = titre.isEmpty() != titre_.isEmpty();
     titre_ = titre;
-    setWindowTitle(titre); // what assistive tools read as the group's title
     if (marges)
         AjusterMarges();
     update();

@@ -1,5 +1,6 @@
 #include "desktop/Fenetre.h"
 
+#include "desktop/Accessibilite.h"
 #include "desktop/Apparence.h"
 #include "desktop/BarreMenus.h"
 #include "desktop/Contenu.h"
@@ -27,7 +28,6 @@ Fenêtre::Fenêtre(Ecran& écran, const QWidget* dessous)
     : écran_(écran), dessous_(dessous), contenu_(*new Contenu{écran, this}), bâtisseur_(*this, vues_, contenu_)
 {
     setObjectName(EnQString(écran.Nom));
-    setAccessibleName(EnQString(écran.Nom));
     setAttribute(Qt::WA_InputMethodEnabled);
     setWindowModality(Qt::ApplicationModal);
     // The one below has its borders already. Taking their room into account now saves laying everything out twice.
@@ -215,10 +215,14 @@ void Fenêtre::Synchroniser()
         NoterGéométrie();
         if (focusDemandé_)
             DonnerFocus();
+        if (QuelquUnEcoute())
+            NommerChamps(vues_);
     }
     enSynchro_ = dedans;
     if (!ouverte_ || dedans)
         return;
+    if (QuelquUnEcoute())
+        annonces_.Suivre(écran_);
     if (std::exchange(focusÀNoter_, false))
         NoterFocus();
     if (tailleChangée_ && !fermée_) {

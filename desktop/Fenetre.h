@@ -1,6 +1,7 @@
 // The window of a screen: it shows what has changed, and hands back keys, clicks, sizes and its closing.
 #pragma once
 #include "core/Ecran.h"
+#include "desktop/Annonces.h"
 #include "desktop/Batisseur.h"
 #include "desktop/JeuDeVues.h"
 #include "desktop/Vue.h"
@@ -50,6 +51,7 @@ public:
     [[nodiscard]] double Echelle() const override { return échelle_; }
     void Marquer(Vue& vue) override;
     [[nodiscard]] Vue* VueDe(const Elément& élément) const override { return vues_.VueDe(élément); }
+    [[nodiscard]] Vue* VueDuWidget(const QWidget* widget) const override { return vues_.VueDuWidget(widget); }
     [[nodiscard]] Chute TomberEn(QPoint global) const override;
 
 protected:
@@ -75,6 +77,7 @@ private:
     Contenu& contenu_; // under the menus
     BarreMenus* menus_ = nullptr;
     JeuDeVues vues_;
+    Annonces annonces_{*this};
     Bâtisseur bâtisseur_;
     std::vector<Vue*> sales_;
     double échelle_ = 1;

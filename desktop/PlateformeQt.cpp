@@ -1,6 +1,7 @@
 #include "desktop/PlateformeQt.h"
 
 #include "core/Ecran.h"
+#include "desktop/Accessibilite.h"
 #include "desktop/Apparence.h"
 #include "desktop/Conversions.h"
 #include "desktop/Dialogues.h"
@@ -52,6 +53,7 @@ private:
 PlateformeQt::PlateformeQt()
 {
     AmorcerHasard();
+    InstallerAccessibilité();
     qApp->installEventFilter(this);
     QObject::connect(qApp, &QApplication::focusChanged, this, [this] { FocusChangé(); });
 }

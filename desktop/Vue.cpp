@@ -10,7 +10,6 @@ Vue::Vue(Hôte& hôte, Elément& élément_, QWidget* widget_) : élément(élé
     if (widget == nullptr)
         return;
     widget->setObjectName(EnQString(élément.Nom));
-    widget->setAccessibleName(EnQString(élément.Nom));
 }
 
 Vue::~Vue() = default;
@@ -87,10 +86,8 @@ void Vue::Synchroniser()
     const auto police = PolicePour(élément.Police, élément.FontSize, élément.Gras, agrandissement);
     if (widget->font() != police)
         widget->setFont(police);
-    if (const auto bulle = EnQString(élément.ToolTipText()).trimmed(); bulle != widget->toolTip()) {
+    if (const auto bulle = EnQString(élément.ToolTipText()).trimmed(); bulle != widget->toolTip())
         widget->setToolTip(bulle);
-        widget->setAccessibleDescription(bulle);
-    }
     if (widget->testAttribute(Qt::WA_ForceDisabled) == élément.Enabled)
         widget->setEnabled(élément.Enabled);
     if (placeur != nullptr)

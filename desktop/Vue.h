@@ -22,6 +22,8 @@ public:
     // The view waits for its turn to be synced.
     virtual void Marquer(Vue& vue) = 0;
     [[nodiscard]] virtual Vue* VueDe(const Elément& élément) const = 0;
+    // The view of the widget, or of the nearest around it.
+    [[nodiscard]] virtual Vue* VueDuWidget(const QWidget* widget) const = 0;
     // Where something falls that is dropped at a point of the display: on a rich text, or on the screen (no target);
     // in pixels inside it.
     struct Chute {

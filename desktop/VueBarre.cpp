@@ -127,8 +127,7 @@ public:
             auto* outil = new BoutonBarre{widget};
             const auto bulle = EnQString(bouton.ToolTipText).trimmed();
             outil->setObjectName(EnQString(bouton.Clé));
-            outil->setAccessibleName(EnQString(bouton.Clé));
-            outil->setAccessibleDescription(bulle);
+            outil->setAccessibleName(bulle);
             outil->setToolTip(bulle);
             outil->setIcon(IcôneDe(bouton.Icône, bulle));
             outil->setAutoRaise(true);

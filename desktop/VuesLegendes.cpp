@@ -62,9 +62,6 @@ public:
         }
         MettrePointeur();
         Vue::Synchroniser();
-        // Assistive tools read what it says, rather than its tip: a label has nothing else to be read by.
-        if (étiquette_.accessibleDescription() != étiquette_.text())
-            étiquette_.setAccessibleDescription(étiquette_.text());
     }
 
 private:

@@ -14,14 +14,6 @@ namespace tirelune {
 
 namespace {
 
-// The toolkit gives the value of a drop-down list as its accessible name: its own name goes into its description.
-void Nommer(QComboBox& liste)
-{
-    const auto description = (liste.objectName() + u' ' + liste.toolTip()).trimmed();
-    if (liste.accessibleDescription() != description)
-        liste.setAccessibleDescription(description);
-}
-
 class VueCombo final : public Vue {
 public:
     VueCombo(Hôte& hôte, ComboBox& combo, QWidget* parent)
@@ -81,7 +73,6 @@ public:
             liste_.update();
         }
         Vue::Synchroniser();
-        Nommer(liste_);
     }
 
 private:
@@ -176,7 +167,6 @@ public:
         liste_.addItems(textes);
         liste_.setCurrentIndex(static_cast<int>(textes.indexOf(EnQString(source_.Drive()))));
         Vue::Synchroniser();
-        Nommer(liste_);
     }
 
 private:

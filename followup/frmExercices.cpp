@@ -61,7 +61,7 @@ frmExercices::frmExercices(Application& application)
                   .Centré = true,
                   .Bordure = true}),
       imgCourbes(*this, "imgCourbes", static_cast<int>(Groupes.size()),
-                 {.ToolTipText = u" Cliquer ici pour voir les courbes de progression. "}),
+                 {.ToolTipText = u" Cliquer ici pour voir les courbes de progression. ", .Libellé = u"Courbes"}),
       lblConsigne(*this, "lblConsigne",
                   u"            AVERTISSEMENT                    Afficher les résultats ne charge pas le texte en "
                   u"mémoire.                       Pour cela, vous devez cliquer sur le bouton \"Charger un fichier "

@@ -9,12 +9,15 @@ class frmGestionEleves final : public Ecran {
 public:
     explicit frmGestionEleves(Application& application);
 
-    ComboBox cmbNoms{*this, "cmbNoms", {.FontSize = 14}};
+    ComboBox cmbNoms{*this, "cmbNoms", {.Libellé = u"Elèves", .FontSize = 14}};
     Button cmdAjouter{*this, "cmdAjouter", {.Caption = u"&Ajouter", .ToolTipText = u" Ajouter un élève. "}};
     Button cmdSupprimer{
         *this, "cmdSupprimer", {.Caption = u"&Supprimer", .ToolTipText = u" Supprimer un fichier élève "}};
 
-    TextBox txtNom{*this, "txtNom", {.Visible = false, .ToolTipText = u" Entrée pour valider ", .FontSize = 14}};
+    TextBox txtNom{
+        *this,
+        "txtNom",
+        {.Visible = false, .ToolTipText = u" Entrée pour valider ", .Libellé = u"Nom de l'élève", .FontSize = 14}};
     Label lblConsigne{*this, "lblConsigne", {.Caption = u"Entrée pour valider", .Visible = false}};
     Button cmdAnnuler{*this, "cmdAnnuler", {.Caption = u"A&nnuler", .Visible = false}};
 
@@ -24,12 +27,16 @@ public:
                     {.Visible = false,
                      .ToolTipText = u" Entrez votre code à 6 chiifres (votre date de naissance par exemple) et retenez "
                                     u"bien ce code. ",
+                     .Libellé = u"Code",
                      .FontSize = 14,
                      .MaxLength = LongueurCode}};
-    TextBox txtVérif{
-        *this,
-        "txtVérif",
-        {.Visible = false, .ToolTipText = u" Confirmez votre code ici. ", .FontSize = 14, .MaxLength = LongueurCode}};
+    TextBox txtVérif{*this,
+                     "txtVérif",
+                     {.Visible = false,
+                      .ToolTipText = u" Confirmez votre code ici. ",
+                      .Libellé = u"Code à nouveau",
+                      .FontSize = 14,
+                      .MaxLength = LongueurCode}};
 
     Label Label2{*this, "Label2", u"Chemin Réseau actuel pour les bilans des élèves :"};
     Label lblRéseau{*this, "lblRéseau", {.Gras = true, .Bordure = true}};
@@ -40,8 +47,8 @@ public:
                            "cmdCheminRéseau",
                            {.Caption = u"Travailler en réseau",
                             .ToolTipText = u" Un chemin réseau regroupe tous les résultats sur un seul ordinateur. "}};
-    DriveListBox drvLecteurs{*this, "drvLecteurs", {.Visible = false}};
-    DirListBox dirLecteurs{*this, "dirLecteurs", {.Visible = false}};
+    DriveListBox drvLecteurs{*this, "drvLecteurs", {.Visible = false, .Libellé = u"Lecteurs"}};
+    DirListBox dirLecteurs{*this, "dirLecteurs", {.Visible = false, .Libellé = u"Dossiers"}};
     Button cmdValiderCheminRéseau{
         *this,
         "cmdValiderCheminRéseau",

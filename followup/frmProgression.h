@@ -16,7 +16,7 @@ public:
     Label Label1;
     Tableau<Line> Line3{*this, "Line3", 7, {.Visible = false}};
     Tableau<Label> lblLégende;
-    Image imgCourbes{*this, "imgCourbes"};
+    Image imgCourbes{*this, "imgCourbes", {.Libellé = u"Courbes"}};
 
     Label Label3;
     Button cmdQuitter{*this, "cmdQuitter", u"&Quitter"};

@@ -11,7 +11,9 @@ public:
 
     RichTextBox rtfClosures{*this, "rtfClosures"};
     ComboBox cmbClosures{
-        *this, "cmbClosures", {.Caption = u" Liste des mots enlevés ", .FontSize = 16, .Sorted = true}};
+        *this,
+        "cmbClosures",
+        {.Caption = u" Liste des mots enlevés ", .Libellé = u"Mots enlevés", .FontSize = 16, .Sorted = true}};
     Button cmdOk{*this, "cmdOk", {.Caption = u"&Ok", .FontSize = 16}};
     Tableau<Label> lblPoints{*this, "lblPoints", EtatsDesPoints()};
     FinDeTexte fin{*this};

@@ -37,10 +37,10 @@ public:
                            .Gras = true,
                            .Centré = true,
                            .Bordure = true}};
-    TextBox txtPhrase{*this, "txtPhrase", {.FontSize = 22, .MultiLine = true}};
+    TextBox txtPhrase{*this, "txtPhrase", {.Libellé = u"Ta phrase", .FontSize = 22, .MultiLine = true}};
     Label lblPlace{*this, "lblPlace", {.ForeColor = VertFoncé, .FontSize = 14}}; // what the next click works on
     Frame frameAide{*this, "frameAide", {.Visible = false, .BackColor = BleuClair}};
-    TextBox txtAide{*this, "txtAide", {.FontSize = 16, .MultiLine = true}};
+    TextBox txtAide{*this, "txtAide", {.Libellé = u"Aide", .FontSize = 16, .MultiLine = true}};
     Button cmdTerminé{*this, "cmdTerminé", {.Caption = u"J'ai &fini", .FontSize = 16}};
     Button cmdSuivant{*this, "cmdSuivant", {.Caption = u"&Suivant", .Visible = false, .FontSize = 16}};
 

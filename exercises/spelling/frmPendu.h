@@ -18,7 +18,7 @@ public:
         {.Caption = u"Choisis un caractère en cliquant sur la lettre ou en utilisant le clavier.", .FontSize = 14}};
     Tableau<Label> lblPoints{*this, "lblPoints", EtatsDesPoints()};
     Tableau<Line> Ligne{*this, "Ligne", 10, {.Visible = false}};
-    Image imgVisage{*this, "imgVisage"};
+    Image imgVisage{*this, "imgVisage", {.Libellé = u"Visage du pendu"}};
     Tableau<Image> imgRéf{*this, "imgRéf", NombreVisages, {.Visible = false}};
     Label lblMot{*this, "lblMot", {.FontSize = 28, .Gras = true, .Police = u"Comic Sans MS", .Centré = true}};
     Label lblMotMaj{*this, "lblMotMaj", {.FontSize = 28, .Gras = true, .Police = u"Comic Sans MS", .Centré = true}};

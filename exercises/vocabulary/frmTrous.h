@@ -12,7 +12,10 @@ public:
     explicit frmTrous(frmExercices& choix);
 
     RichTextBox rtfTrous{*this, "rtfTrous", {.Visible = false}};
-    ComboBox cmbTrous{*this, "cmbTrous", {.Caption = u" Liste des mots enlevés ", .FontSize = 16, .Sorted = true}};
+    ComboBox cmbTrous{
+        *this,
+        "cmbTrous",
+        {.Caption = u" Liste des mots enlevés ", .Libellé = u"Mots enlevés", .FontSize = 16, .Sorted = true}};
     Button cmdOk{*this, "cmdOk", {.Caption = u"&Ok", .FontSize = 16}};
     Tableau<Label> lblPoints{*this, "lblPoints", EtatsDesPoints()};
     FinDeTexte fin{*this};

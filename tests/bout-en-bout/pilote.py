@@ -141,13 +141,18 @@ class Noms:
 
     def nom(self, chemin):
         if chemin not in self.connus:
-            numero = chemin.rpartition("/")[2]
-            self.connus[chemin] = self._demander(int(numero)) if numero.isdigit() else ""
+            self.connus[chemin] = self._demander("nom", chemin) or ""
         return self.connus[chemin]
 
-    def _demander(self, numero):
-        return self.bus.call_sync(self.service, "/noms", "fr.tirelune.Noms", "nom", GLib.Variant("(u)", (numero,)),
-                                  GLib.VariantType("(s)"), Gio.DBusCallFlags.NONE, 15000).unpack()[0]
+    def montre_la_main(self, chemin):
+        return bool(self._demander("montreLaMain", chemin))
+
+    def _demander(self, quoi, chemin):
+        numero = chemin.rpartition("/")[2]
+        if not numero.isdigit():
+            return None
+        return self.bus.call_sync(self.service, "/noms", "fr.tirelune.Noms", quoi, GLib.Variant("(u)", (int(numero),)),
+                                  None, Gio.DBusCallFlags.NONE, 15000).unpack()[0]
 
 
 class Element:
@@ -166,6 +171,26 @@ class Element:
     def nom(self):
         """What is heard."""
         return self.accessible.get_name()
+
+    @property
+    def description(self):
+        return self.accessible.get_description()
+
+    @property
+    def actions(self):
+        actions = self.accessible.get_action_iface()
+        if actions is None:
+            return []
+        return [Atspi.Action.get_action_name(actions, i) for i in range(Atspi.Action.get_n_actions(actions))]
+
+    def agir(self, action):
+        """What an assistive tool does instead of a click."""
+        Atspi.Action.do_action(self.accessible.get_action_iface(), self.actions.index(action))
+
+    @property
+    def montre_la_main(self):
+        """The pointer says that a click does something."""
+        return self.noms.montre_la_main(self.accessible.path)
 
     @property
     def role(self):
@@ -204,10 +229,8 @@ class Element:
                 return "*" * longueur
             return Atspi.Text.get_text(contenu, 0, longueur)
         if self.role == "combo box":
-            return self.nom
-        if self.role == "label":
-            return self.accessible.get_description()
-        return self.accessible.get_description() or self.nom
+            return self.nom.partition(" : ")[2]  # behind its label
+        return self.nom
 
     def descendants(self):
         """In the order of the tree, leaving out what hides below something that isn't shown."""
@@ -493,11 +516,7 @@ class Pilote:
 
     def valeur(self, liste):
         """The value that a drop-down list shows."""
-        element = self.attendre(liste)
-        for enfant in element.descendants():
-            if enfant.role == "list item" and enfant.etat("SELECTED"):
-                return enfant.nom
-        return element.texte
+        return self.texte(liste)
 
     def attendre_menu(self, libelle, delai=DELAI):
         """The menu of that caption, without its blanks and underlined letter, once its window is in front."""

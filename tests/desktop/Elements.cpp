@@ -69,9 +69,7 @@ TEST_F(Eléments, LeWidgetPorteLeNomEtLaBulleDeLElément)
     Avec(écran, [&] {
         auto& bouton = Widget(écran.cmdOk);
         EXPECT_EQ(bouton.objectName(), "cmdOk");
-        EXPECT_EQ(bouton.accessibleName(), "cmdOk");
         EXPECT_EQ(bouton.toolTip(), "Clique ici.");
-        EXPECT_EQ(bouton.accessibleDescription(), "Clique ici.");
         EXPECT_EQ(Devant().windowTitle(), "Essai");
     });
 }

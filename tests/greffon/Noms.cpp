@@ -1,9 +1,10 @@
-// Loaded by the sessions into the program under test: tells the object names of widgets, which the toolkit's bridge
-// to assistive tools keeps to itself. A widget is named by the number that ends its path on that bridge.
+// Loaded by the sessions into the program under test: tells of its widgets what the toolkit's bridge to assistive
+// tools keeps to itself. A widget is named by the number that ends its path on that bridge.
 #include <QAccessible>
 #include <QCoreApplication>
 #include <QDBusConnection>
 #include <QGenericPlugin>
+#include <QWidget>
 
 class Noms final : public QObject {
     Q_OBJECT
@@ -21,9 +22,22 @@ public slots:
     // Empty for what is no widget: an item of a list, for example.
     QString nom(uint numero) const
     {
-        const auto* accessible = QAccessible::accessibleInterface(numero);
-        const auto* objet = accessible != nullptr ? accessible->object() : nullptr;
+        const auto* objet = objetDe(numero);
         return objet != nullptr ? objet->objectName() : QString{};
+    }
+    // The pointer says that a click does something.
+    bool montreLaMain(uint numero) const
+    {
+        const auto* widget = qobject_cast<QWidget*>(objetDe(numero));
+        return widget != nullptr && widget->isEnabled() && widget->testAttribute(Qt::WA_SetCursor) &&
+               widget->cursor().shape() == Qt::PointingHandCursor;
+    }
+
+private:
+    static QObject* objetDe(uint numero)
+    {
+        const auto* accessible = QAccessible::accessibleInterface(numero);
+        return accessible != nullptr ? accessible->object() : nullptr;
     }
 };
 
