@@ -451,6 +451,10 @@ class Pilote:
     def clic_en(self, x, y, bouton=1, fois=1):
         self._xdotool("mousemove", x, y, "click", "--repeat", fois, "--delay", 40, bouton)
 
+    def ecarter_la_souris(self):
+        """Into the last corner of the display, where it points at nothing that answers."""
+        self._xdotool("mousemove", 9999, 9999)
+
     def glisser(self, depart, arrivee):
         """Drag from one place to another, in several moves as a hand does."""
         self._xdotool("mousemove", *depart, "mousedown", 1)
