@@ -1,6 +1,7 @@
 #include "authoring/frmEnseignant.h"
 
 #include "authoring/CorrigerTexte.h"
+#include "authoring/IcônesOutils.h"
 #include "authoring/MarquerMot.h"
 #include "authoring/NomFichier.h"
 #include "core/Collage.h"
@@ -21,7 +22,8 @@ constexpr double TailleMaximum = 400;
 constexpr int Retrait = 100;             // twips
 constexpr int CôtéMinimum = 1000;        // twips
 constexpr int LargeurListe = 4800;       // twips
-constexpr int HauteurListe = 3600;       // twips
+constexpr int HauteurListe = 5200;       // twips
+constexpr int LargeurPolice = 1900;      // twips
 constexpr std::size_t DébutDuChemin = 5; // in the caption of a recent file
 
 // The size that a typed text stands for, in half points; nothing when it is no size.
@@ -190,8 +192,7 @@ Arrangement frmEnseignant::Disposer()
     for (int i = 1; i <= ListePolices::NombreLignes; ++i)
         lignes.emplace_back(txtPolices(i));
     return Colonne{
-        tlbBoutons,
-        Ligne{AuMoins(LargeurListe, 0, txtPolices(0)), flèchePolice, cmbFontSize, Ressort{}},
+        Ligne{tlbBoutons, Ressort{}, AuMoins(LargeurPolice, 0, txtPolices(0)), flèchePolice, cmbFontSize},
         Extensible(Pile{
             rtfTexte,
             Colonne{Ressort{},
@@ -245,36 +246,34 @@ std::span<const frmEnseignant::ActionBouton> frmEnseignant::Actions()
     static constexpr bool AvecCopie = true;
     static constexpr bool AvecEtat = true;
     static constexpr std::array actions{
-        ActionBouton{"btnNouveau", "document-new", u"Nouveau texte", &F::mnuNouveau_Click},
-        ActionBouton{"btnOuvrir", "document-open", u"Ouvrir un texte", &F::mnuOuvrir_Click},
-        ActionBouton{"btnEnregistrer", "document-save", u"Enregistrer", &F::mnuEnregistrer_Click},
+        ActionBouton{"btnNouveau", u"Nouveau texte", &F::mnuNouveau_Click},
+        ActionBouton{"btnOuvrir", u"Ouvrir un texte", &F::mnuOuvrir_Click},
+        ActionBouton{"btnEnregistrer", u"Enregistrer", &F::mnuEnregistrer_Click},
         ActionBouton{},
-        ActionBouton{"btnSélectionner", "edit-select-all", u"Tout sélectionner", &F::mnuSélectionner_Click},
-        ActionBouton{"btnCouper", "edit-cut", u"Couper", &F::mnuCouper_Click, AvecCopie},
-        ActionBouton{"btnCopier", "edit-copy", u"Copier", &F::mnuCopier_Click},
-        ActionBouton{"btnColler", "edit-paste", u"Coller", &F::mnuColler_Click, AvecCopie},
-        ActionBouton{"btnAnnuler", "edit-undo", u"Annuler la dernière action", &F::btnAnnuler_Click},
+        ActionBouton{"btnSélectionner", u"Tout sélectionner", &F::mnuSélectionner_Click},
+        ActionBouton{"btnCouper", u"Couper", &F::mnuCouper_Click, AvecCopie},
+        ActionBouton{"btnCopier", u"Copier", &F::mnuCopier_Click},
+        ActionBouton{"btnColler", u"Coller", &F::mnuColler_Click, AvecCopie},
+        ActionBouton{"btnAnnuler", u"Annuler la dernière action", &F::btnAnnuler_Click},
         ActionBouton{},
-        ActionBouton{"btnGras", "format-text-bold", u"Gras", &F::mnuGras_Click, AvecCopie, AvecEtat},
-        ActionBouton{"btnSouligné", "format-text-underline", u"Souligné", &F::mnuSouligné_Click, AvecCopie, AvecEtat},
-        ActionBouton{"btnItalique", "format-text-italic", u"Italique", &F::mnuItalique_Click, AvecCopie, AvecEtat},
+        ActionBouton{"btnGras", u"Gras", &F::mnuGras_Click, AvecCopie, AvecEtat},
+        ActionBouton{"btnSouligné", u"Souligné", &F::mnuSouligné_Click, AvecCopie, AvecEtat},
+        ActionBouton{"btnItalique", u"Italique", &F::mnuItalique_Click, AvecCopie, AvecEtat},
         ActionBouton{},
-        ActionBouton{"btnVocabulaire", "format-text-strikethrough", u"Choisir ou retirer un mot des exercices",
-                     &F::btnVocabulaire_Click, AvecCopie},
-        ActionBouton{"btnCouleurC", "tirelune-couleur", u"Couleur des caractères", &F::btnCouleurC_Click, AvecCopie},
+        ActionBouton{"btnVocabulaire", u"Choisir ou retirer un mot des exercices", &F::btnVocabulaire_Click, AvecCopie},
+        ActionBouton{"btnCouleurC", u"Couleur des caractères", &F::btnCouleurC_Click, AvecCopie},
         ActionBouton{},
-        ActionBouton{"btnGauche", "format-justify-left", u"Aligner à gauche", &F::mnuGauche_Click, AvecCopie, AvecEtat},
-        ActionBouton{"btnDroite", "format-justify-right", u"Aligner à droite", &F::mnuDroite_Click, AvecCopie,
-                     AvecEtat},
-        ActionBouton{"btnCentrer", "format-justify-center", u"Centrer", &F::mnuCentre_Click, AvecCopie, AvecEtat},
+        ActionBouton{"btnGauche", u"Aligner à gauche", &F::mnuGauche_Click, AvecCopie, AvecEtat},
+        ActionBouton{"btnDroite", u"Aligner à droite", &F::mnuDroite_Click, AvecCopie, AvecEtat},
+        ActionBouton{"btnCentrer", u"Centrer", &F::mnuCentre_Click, AvecCopie, AvecEtat},
         ActionBouton{},
-        ActionBouton{"btnChercher", "edit-find", u"Rechercher", &F::mnuRechercher_Click},
-        ActionBouton{"btnRemplacer", "edit-find-replace", u"Remplacer", &F::mnuRemplacer_Click},
+        ActionBouton{"btnChercher", u"Rechercher", &F::mnuRechercher_Click},
+        ActionBouton{"btnRemplacer", u"Remplacer", &F::mnuRemplacer_Click},
         ActionBouton{},
-        ActionBouton{"btnImprimer", "document-print", u"Imprimer", &F::mnuImprimer_Click},
+        ActionBouton{"btnImprimer", u"Imprimer", &F::mnuImprimer_Click},
         ActionBouton{},
-        ActionBouton{"btnQuestion", "tirelune-question", u"Questionnaire du texte", &F::btnQuestion_Click},
-        ActionBouton{"btnLexique", "tirelune-lexique", u"Lexique du texte", &F::btnLexique_Click},
+        ActionBouton{"btnQuestion", u"Questionnaire du texte", &F::btnQuestion_Click},
+        ActionBouton{"btnLexique", u"Lexique du texte", &F::btnLexique_Click},
     };
     return actions;
 }
@@ -284,7 +283,7 @@ std::vector<Toolbar::Bouton> frmEnseignant::Boutons()
     std::vector<Toolbar::Bouton> boutons;
     for (const auto& action : Actions())
         boutons.push_back({.Clé = std::string{action.Clé},
-                           .Icône = std::string{action.Icône},
+                           .Icône = action.Clé.empty() ? Dessin{} : IcôneOutil(action.Clé),
                            .ToolTipText = Texte{action.Bulle},
                            .Basculant = action.Basculant});
     return boutons;
@@ -778,6 +777,7 @@ void frmEnseignant::flèchePolice_Click()
         return;
     }
     txtPolices(0).Text = rtfTexte.SelFontName().value_or(Texte{});
+    framePolices.Left = std::max(0, rtfTexte.Width - framePolices.Width); // below the name of the font
     liste_.Ouvrir(txtPolices(0).Text);
 }
 

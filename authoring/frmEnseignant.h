@@ -81,7 +81,6 @@ private:
     enum class Issue { Enregistré, Annulé, Echec };
     struct ActionBouton {
         std::string_view Clé; // empty: a gap between two groups
-        std::string_view Icône{};
         VueTexte Bulle{};
         void (frmEnseignant::*Faire)() = nullptr;
         bool Copie = false; // the text is copied to rtfSauve first

@@ -419,9 +419,9 @@ class Toolbar final : public Elément {
 public:
     enum class Etat { Relâché, Enfoncé, Mixte };
     struct Bouton {
-        std::string Clé;   // "btnOuvrir"
-        std::string Icône; // freedesktop name; empty: a separator
-        Texte ToolTipText;
+        std::string Clé{}; // "btnOuvrir"; empty: a gap between two groups
+        Dessin Icône{};
+        Texte ToolTipText{};
         Etat Pression = Etat::Relâché;
         bool Basculant = false; // shows a state
     };

@@ -89,7 +89,7 @@ void BarreMenus::Ajuster(double échelle, int largeur)
             menu->setFont(police);
     }
     const QFontMetrics mesure{police};
-    int voulue = 0;
+    int voulue = 2 * style()->pixelMetric(QStyle::PM_MenuBarHMargin, nullptr, this);
     for (const auto& [option, action] : entrées_) {
         const auto texte = mesure.size(Qt::TextShowMnemonic, EnAffichage(option->Caption()));
         voulue += style()->sizeFromContents(QStyle::CT_MenuBarItem, nullptr, texte, this).width();

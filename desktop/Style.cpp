@@ -468,7 +468,7 @@ QSize Style::sizeFromContents(ContentsType genre, const QStyleOption* option, co
     case CT_LineEdit:
         return {contenu.width() + lettre, hauteur};
     case CT_ComboBox:
-        return {contenu.width() + lettre * 9 / 4, hauteur};
+        return {contenu.width() + lettre, hauteur}; // it holds room for a picture, which none has
     case CT_SpinBox:
         return {contenu.width() + lettre * 2, hauteur};
     case CT_PushButton:

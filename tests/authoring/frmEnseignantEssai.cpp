@@ -257,7 +257,7 @@ TEST(Editeur, LaBarreALesBoutonsDansLOrdre)
     BancEditeur banc;
     std::vector<std::string> clés;
     for (const auto& bouton : banc.écran.tlbBoutons.Boutons()) {
-        EXPECT_EQ(bouton.Clé.empty(), bouton.Icône.empty()) << bouton.Clé;
+        EXPECT_EQ(bouton.Clé.empty(), bouton.Icône.Formes.empty()) << bouton.Clé;
         EXPECT_EQ(bouton.Clé.empty(), bouton.ToolTipText.empty()) << bouton.Clé;
         if (!bouton.Clé.empty())
             clés.push_back(bouton.Clé);

@@ -26,7 +26,8 @@ public:
     FileListBox fichiers{*this, "fichiers", u"*.bil"};
     DriveListBox lecteurs{*this, "lecteurs"};
     DirListBox dossiers{*this, "dossiers"};
-    Toolbar barreOutils{*this, "barreOutils", {{"gras", "format-text-bold", u"Gras"}, {"ouvrir", "open", u"Ouvrir"}}};
+    Toolbar barreOutils{
+        *this, "barreOutils", {{.Clé = "gras", .ToolTipText = u"Gras"}, {.Clé = "ouvrir", .ToolTipText = u"Ouvrir"}}};
 
     Frame cadre{*this, "cadre"};
     Button cmdDansCadre{*this, "cmdDansCadre", u"Ok"};
