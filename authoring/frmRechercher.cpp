@@ -8,6 +8,7 @@ frmRechercher::frmRechercher(Application& application, RichTextBox& rtfTexte, Ri
     : Ecran(application, "frmRechercher", u"Rechercher"), rtfTexte_(rtfTexte), rtfSauve_(rtfSauve)
 {
     PetiteFenêtre = true;
+    LaisseVoir = true;
     cmdSuivant.Click = [this] { cmdSuivant_Click(); };
     cmdRemplacer.Click = [this] { cmdRemplacer_Click(); };
     cmdToutRemplacer.Click = [this] { cmdToutRemplacer_Click(); };
@@ -18,16 +19,11 @@ frmRechercher::frmRechercher(Application& application, RichTextBox& rtfTexte, Ri
 
 Arrangement frmRechercher::Disposer()
 {
-    return Colonne{
-        Cadre{frameRechercher,
-              Colonne{
-                  lblRechercher,
-                  AuMoins(6000, 0, txtRechercher),
-                  lblRemplacer,
-                  txtRemplacer,
-              }},
-        Ligne{cmdSuivant, cmdRemplacer, cmdToutRemplacer, cmdFermer},
-    };
+    return Cadre{frameRechercher, // low, so that it covers little
+                 Ligne{
+                     Grille{2, {lblRechercher, AuMoins(3600, 0, txtRechercher), lblRemplacer, txtRemplacer}},
+                     Grille{2, {cmdSuivant, cmdFermer, cmdRemplacer, cmdToutRemplacer}},
+                 }};
 }
 
 void frmRechercher::Load()

@@ -29,6 +29,7 @@ public:
     Propriété<int> Width{*this, 0}; // inner size in twips, once shown
     Propriété<int> Height{*this, 0};
     bool PetiteFenêtre = false; // as large as its contents, not as the display
+    bool LaisseVoir = false;    // a small window that never covers what is chosen in the text below it
 
     // Filled rectangles and lines behind the elements, in a scale of their own: see Dessin.
     Propriété<Dessin> Fond{*this, Dessin{}};

@@ -1,6 +1,7 @@
 #include "core/frmTirelune.h"
 
 #include "core/Dégradé.h"
+#include "core/Enseigne.h"
 #include "core/FichierChamps.h"
 #include "core/Remplacement.h"
 
@@ -13,7 +14,9 @@ constexpr VueTexte Conseil =
     u"meilleur confort.                    Pour gagner de la place, faites disparaître la barre des tâches "
     u"du système : clic droit sur la barre, Propriétés, option Masquer automatiquement.";
 constexpr std::size_t LongueurCode = 6;
-constexpr int LignesBlanches = 7; // the editor shows its fonts seven at a time
+constexpr int CôtéEnseigne = 3000;  // twips
+constexpr int LargeurNotice = 8400; // twips
+constexpr int LignesBlanches = 7;   // the editor shows its fonts seven at a time
 
 // The school's own two lines: to be filled in here and nowhere else.
 constexpr VueTexte SiteDeLEcole = u"[adresse du site : à compléter par l'école]";
@@ -36,6 +39,7 @@ frmTirelune::frmTirelune(Application& application)
              {Texte{Conseil}, u"Une banque de textes régulièrement mise à jour est disponible sur le site suivant :",
               Texte{SiteDeLEcole}, u"Pour nous écrire : " + Texte{ContactDeLEcole}, Texte{}})
 {
+    imgEnseigne.Picture = Enseigne();
     mnuElève.Click = [this] { Ouvrir("frmExercices"); };
     mnuEnseignant.Click = [this] { mnuEnseignant_Click(); };
     mnuQuitter.Click = [this] { application_.plateforme.Terminer(); };
@@ -53,18 +57,19 @@ std::vector<Menu> frmTirelune::Menus()
 Arrangement frmTirelune::Disposer()
 {
     return Colonne{
-        Ressort{},
-        Centré{Cadre{frameCodeEnseignant,
-                     Colonne{
-                         lblCodeEnseignant,
-                         Ligne{txtCodeEnseignant, Label1},
-                         lblVérificationCode,
-                         txtVérificationCode,
-                         lblCodeRappel,
-                         Ligne{Ressort{}, cmdCode, cmdAnnuler},
-                     }}},
-        Ressort{},
-        Centré{Cadre{Frame1, Colonne(Label2)}},
+        Extensible(Pile{
+            Centré{AuMoins(CôtéEnseigne, CôtéEnseigne, imgEnseigne)},
+            Centré{Cadre{frameCodeEnseignant,
+                         Colonne{
+                             lblCodeEnseignant,
+                             Ligne{txtCodeEnseignant, Label1},
+                             lblVérificationCode,
+                             txtVérificationCode,
+                             lblCodeRappel,
+                             Ligne{Ressort{}, cmdCode, cmdAnnuler},
+                         }}},
+        }),
+        Centré{Cadre{Frame1, AuMoins(LargeurNotice, 0, Colonne(Label2))}},
     };
 }
 
@@ -98,6 +103,7 @@ void frmTirelune::mnuEnseignant_Click()
 {
     txtCodeEnseignant.Text = Texte{};
     txtVérificationCode.Text = Texte{};
+    imgEnseigne.Visible = false;
     frameCodeEnseignant.Visible = true;
     txtCodeEnseignant.SetFocus();
 }
@@ -141,6 +147,7 @@ void frmTirelune::CacherCode()
     txtVérificationCode.Visible = false;
     lblCodeRappel.Visible = false;
     frameCodeEnseignant.Visible = false;
+    imgEnseigne.Visible = true;
 }
 
 void frmTirelune::cmdAnnuler_Click()

@@ -16,6 +16,7 @@ public:
     ComboBox cmbPolices{*this, "cmbPolices", {.Visible = false}};  // ends in blank rows, for the editor's list
     ListBox lstFichiers{*this, "lstFichiers", {.Visible = false}}; // the editor's recent files
 
+    Image imgEnseigne{*this, "imgEnseigne", u"Tirelune"};
     Frame Frame1{*this, "Frame1", {.Caption = u"Avertissement"}};
     Tableau<Label> Label2;
 

@@ -20,6 +20,8 @@ namespace tirelune {
 
 namespace {
 
+constexpr int Ecart = 8; // pixels, between a small window and what it leaves in sight
+
 const auto EvénementSynchroniser = static_cast<QEvent::Type>(QEvent::registerEventType());
 
 } // namespace
@@ -99,9 +101,11 @@ void Fenêtre::Ouvrir()
     Synchroniser();
     if (écran_.PetiteFenêtre) {
         const auto taille = sizeHint().boundedTo(libre.size());
-        const auto milieu = (dessous_ != nullptr ? dessous_->geometry() : libre).center();
+        const auto dessous = dessous_ != nullptr ? dessous_->geometry() : libre;
         QRect place{{}, taille};
-        place.moveCenter(milieu);
+        place.moveCenter(dessous.center());
+        if (écran_.LaisseVoir)
+            place.moveTopRight(dessous.topRight() - QPoint{Ecart, -Ecart}); // over bars rather than over text
         setGeometry(place);
         show();
     } else if (!isVisible()) {
@@ -152,6 +156,27 @@ Hôte::Chute Fenêtre::TomberEn(QPoint global) const
             return {&vue->élément, dedans};
     }
     return {nullptr, contenu_.Plan().mapFromGlobal(global)};
+}
+
+void Fenêtre::Dégager(const QRect& lieu)
+{
+    for (auto* fenêtre : QApplication::topLevelWidgets()) {
+        auto* dessus = dynamic_cast<Fenêtre*>(fenêtre);
+        if (dessus != nullptr && dessus->dessous_ == this && dessus->écran_.LaisseVoir && dessus->isVisible())
+            dessus->Eviter(lieu);
+    }
+}
+
+// Below the place, or else above it.
+void Fenêtre::Eviter(const QRect& lieu)
+{
+    const auto cadre = frameGeometry();
+    if (!cadre.intersects(lieu))
+        return;
+    const auto libre = screen()->availableGeometry();
+    const int sous = lieu.bottom() + Ecart;
+    const int sur = std::max(libre.top(), lieu.top() - Ecart - cadre.height());
+    move(cadre.x(), sous + cadre.height() <= libre.bottom() ? sous : sur);
 }
 
 void Fenêtre::OrdonnerTabulation()

@@ -49,6 +49,7 @@ public:
     // For its views.
     [[nodiscard]] bool Fermée() const override { return fermée_; }
     [[nodiscard]] double Echelle() const override { return échelle_; }
+    void Dégager(const QRect& lieu) override;
     void Marquer(Vue& vue) override;
     [[nodiscard]] Vue* VueDe(const Elément& élément) const override { return vues_.VueDe(élément); }
     [[nodiscard]] Vue* VueDuWidget(const QWidget* widget) const override { return vues_.VueDuWidget(widget); }
@@ -59,6 +60,7 @@ protected:
     void closeEvent(QCloseEvent* événement) override;
 
 private:
+    void Eviter(const QRect& lieu);
     void Garnir();
     void OrdonnerTabulation();
     void Observer();

@@ -31,6 +31,8 @@ public:
         QPoint Lieu;
     };
     [[nodiscard]] virtual Chute TomberEn(QPoint global) const = 0;
+    // What is chosen at this place of the display is to be seen.
+    virtual void Dégager(const QRect& lieu) = 0;
 
 protected:
     ~Hôte() = default;

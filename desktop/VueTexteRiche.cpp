@@ -448,6 +448,18 @@ void VueTexteRiche::MettreSélection()
         zone_.verticalScrollBar()->setValue(défilement);
     else
         MontrerCurseur();
+    DégagerSélection();
+}
+
+void VueTexteRiche::DégagerSélection()
+{
+    auto bout = zone_.textCursor();
+    if (!bout.hasSelection())
+        return;
+    auto cadre = zone_.cursorRect(bout);
+    bout.setPosition(bout.anchor());
+    cadre = cadre.united(zone_.cursorRect(bout));
+    hôte_.Dégager({zone_.viewport()->mapToGlobal(cadre.topLeft()), cadre.size()});
 }
 
 // Places far off are guesses: what comes into sight is laid out, and may push the caret out again.

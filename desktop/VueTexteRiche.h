@@ -38,6 +38,7 @@ private:
     [[nodiscard]] Habillage Habiller(const QTextBlock& bloc);
     void Mettre(Retouche retouche);
     void MettreSélection();
+    void DégagerSélection();
     void MontrerCurseur();
     void HausserCurseur();
 

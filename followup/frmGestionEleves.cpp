@@ -57,25 +57,28 @@ Arrangement frmGestionEleves::Disposer()
 {
     return Colonne{
         Extensible(Ligne{
-            Extensible(Colonne{
-                AuMoins(4500, 0, cmbNoms),
-                Ligne{cmdAjouter, cmdSupprimer, Ressort{}},
-                txtNom,
-                Ligne{lblConsigne, Ressort{}, cmdAnnuler},
-                lblCode,
-                Ligne{AuMoins(1800, 0, txtCode), AuMoins(1800, 0, txtVérif), Ressort{}},
-                Ressort{},
-            }),
-            Extensible(Colonne{
-                Label2,
-                lblRéseau,
-                Label1,
-                cmdCheminRéseau,
-                drvLecteurs,
-                Extensible(AuMoins(0, 2400, dirLecteurs)),
-                cmdValiderCheminRéseau,
-                Ressort{},
-            }),
+            Extensible(
+                Cadre{frameElèves,
+                      Colonne{
+                          AuMoins(4500, 0, cmbNoms),
+                          Ligne{cmdAjouter, cmdSupprimer, Ressort{}},
+                          Pile{
+                              Colonne{txtNom, Ligne{lblConsigne, Ressort{}, cmdAnnuler}},
+                              Colonne{lblCode, Ligne{AuMoins(1800, 0, txtCode), AuMoins(1800, 0, txtVérif), Ressort{}}},
+                          },
+                          Ressort{},
+                      }}),
+            Extensible(Cadre{frameRéseau,
+                             Colonne{
+                                 Label2,
+                                 lblRéseau,
+                                 Label1,
+                                 Extensible(Pile{
+                                     Colonne{Ligne{cmdCheminRéseau, Ressort{}}, Ressort{}},
+                                     Colonne{drvLecteurs, Extensible(AuMoins(0, 2400, dirLecteurs)),
+                                             Ligne{cmdValiderCheminRéseau, Ressort{}}},
+                                 }),
+                             }}),
         }),
         lblMisDeCôté,
         Ligne{Ressort{}, cmdQuitter},

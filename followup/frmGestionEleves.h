@@ -9,15 +9,14 @@ class frmGestionEleves final : public Ecran {
 public:
     explicit frmGestionEleves(Application& application);
 
-    ComboBox cmbNoms{*this, "cmbNoms", {.Libellé = u"Elèves", .FontSize = 14}};
+    Frame frameElèves{*this, "frameElèves", {.Caption = u"Elèves", .BackColor = Couleur::Rvb(0x4F, 0x9B, 0xE0)}};
+    ComboBox cmbNoms{*this, "cmbNoms", {.Libellé = u"Elèves"}};
     Button cmdAjouter{*this, "cmdAjouter", {.Caption = u"&Ajouter", .ToolTipText = u" Ajouter un élève. "}};
     Button cmdSupprimer{
         *this, "cmdSupprimer", {.Caption = u"&Supprimer", .ToolTipText = u" Supprimer un fichier élève "}};
 
     TextBox txtNom{
-        *this,
-        "txtNom",
-        {.Visible = false, .ToolTipText = u" Entrée pour valider ", .Libellé = u"Nom de l'élève", .FontSize = 14}};
+        *this, "txtNom", {.Visible = false, .ToolTipText = u" Entrée pour valider ", .Libellé = u"Nom de l'élève"}};
     Label lblConsigne{*this, "lblConsigne", {.Caption = u"Entrée pour valider", .Visible = false}};
     Button cmdAnnuler{*this, "cmdAnnuler", {.Caption = u"A&nnuler", .Visible = false}};
 
@@ -28,16 +27,15 @@ public:
                      .ToolTipText = u" Entrez votre code à 6 chiifres (votre date de naissance par exemple) et retenez "
                                     u"bien ce code. ",
                      .Libellé = u"Code",
-                     .FontSize = 14,
                      .MaxLength = LongueurCode}};
     TextBox txtVérif{*this,
                      "txtVérif",
                      {.Visible = false,
                       .ToolTipText = u" Confirmez votre code ici. ",
                       .Libellé = u"Code à nouveau",
-                      .FontSize = 14,
                       .MaxLength = LongueurCode}};
 
+    Frame frameRéseau{*this, "frameRéseau", {.Caption = u"Réseau", .BackColor = Couleur::Rvb(0x5F, 0xB8, 0x65)}};
     Label Label2{*this, "Label2", u"Chemin Réseau actuel pour les bilans des élèves :"};
     Label lblRéseau{*this, "lblRéseau", {.Gras = true, .Bordure = true}};
     Label Label1{*this, "Label1",
