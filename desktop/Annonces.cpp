@@ -16,12 +16,15 @@ Annonce::Annonce(QWidget* fenêtre) : QWidget(fenêtre), message_(new QLabel{thi
     setAttribute(Qt::WA_TransparentForMouseEvents);
     setGeometry(0, 0, 1, 1);
     lower();
-    show();
 }
 
 void Annonce::Dire(const QString& message)
 {
     message_->setText(message);
+    if (isHidden()) {
+        show(); // which says so
+        return;
+    }
     QAccessibleEvent montrée{this, QAccessible::ObjectShow};
     QAccessible::updateAccessibility(&montrée);
 }

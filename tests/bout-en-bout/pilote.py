@@ -141,18 +141,23 @@ class Noms:
 
     def nom(self, chemin):
         if chemin not in self.connus:
-            self.connus[chemin] = self._demander("nom", chemin) or ""
+            self.connus[chemin] = self._demander_de(chemin, "nom") or ""
         return self.connus[chemin]
 
     def montre_la_main(self, chemin):
-        return bool(self._demander("montreLaMain", chemin))
+        return bool(self._demander_de(chemin, "montreLaMain"))
 
-    def _demander(self, quoi, chemin):
+    def focus(self):
+        """Of what has the keyboard."""
+        return self._demander("focus", None)
+
+    def _demander_de(self, chemin, quoi):
         numero = chemin.rpartition("/")[2]
-        if not numero.isdigit():
-            return None
-        return self.bus.call_sync(self.service, "/noms", "fr.tirelune.Noms", quoi, GLib.Variant("(u)", (int(numero),)),
-                                  None, Gio.DBusCallFlags.NONE, 15000).unpack()[0]
+        return self._demander(quoi, GLib.Variant("(u)", (int(numero),))) if numero.isdigit() else None
+
+    def _demander(self, quoi, arguments):
+        return self.bus.call_sync(self.service, "/noms", "fr.tirelune.Noms", quoi, arguments, None,
+                                  Gio.DBusCallFlags.NONE, 15000).unpack()[0]
 
 
 class Element:
@@ -242,6 +247,28 @@ class Element:
                 if enfant.visible:
                     suivants += enfant.enfants
             attente = suivants
+
+
+class Annonces:
+    """What is read out by itself while this is in use, in order: the words that come up in a notification."""
+
+    def __enter__(self):
+        self.dites = []
+        self.oreille = Atspi.EventListener.new(self._entendre)
+        self.oreille.register("object:state-changed:showing")
+        return self
+
+    def __exit__(self, *echec):
+        self.oreille.deregister("object:state-changed:showing")
+
+    def _entendre(self, evenement, *_):
+        if evenement.detail1 and evenement.source.get_role() == Atspi.Role.NOTIFICATION:
+            self.dites.append(" ".join(enfant.nom for enfant in Element(evenement.source).enfants))
+
+    def entendues(self):
+        while GLib.MainContext.default().iteration(False):
+            pass
+        return self.dites
 
 
 def sans_esperluette(libelle):
@@ -498,9 +525,27 @@ class Pilote:
             elif morceau:
                 self.taper(morceau)
 
-    def touche(self, *noms):
-        """Press keys: "Return", "Escape", "ctrl+a", "alt+F4"..."""
-        self._xdotool("key", "--delay", 30, *noms)
+    def touche(self, *noms, pas=30):
+        """Press keys, so many milliseconds apart: "Return", "Escape", "ctrl+a", "alt+F4"..."""
+        self._xdotool("key", "--delay", pas, *noms)
+
+    def aller(self, nom):
+        """Tab until the widget has the keyboard, which must not take more than once round the window."""
+        self.attendre(nom)
+        focus = self.application.noms.focus
+        vus = []
+        while focus() != nom:
+            ici = focus()
+            if ici and ici in vus[:-1]:
+                raise Absent(f"no Tab leads to {nom!r}: {' '.join(vus)}")
+            vus.append(ici)
+            self.touche("Tab")
+            self.jusqu_a(lambda ici=ici: focus() != ici, f"Tab leads on from {ici!r}")
+
+    def presser(self, nom):
+        """Go to a widget and press it, by keyboard alone."""
+        self.aller(nom)
+        self.touche("space")
 
     def remplir(self, nom, texte):
         """Click into a text box, replace what it holds, and see that it is there."""

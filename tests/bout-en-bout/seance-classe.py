@@ -204,7 +204,8 @@ def photographier(p, mots):
             p.verifier(set(propositions) <= set(mots) and len(set(propositions)) == 10, "ten of the marked words")
             p.capture("propositions")
         juste = rang not in (3, 4)
-        p.clic(reponses[vu if juste else (vu + 1) % 10])
+        choisie = vu if juste else (vu + 1) % 10
+        p.presser(f"lblRéponse({choisie})") if rang == 5 else p.clic(reponses[choisie])
         p.jusqu_a(lambda rang=rang: elements["lblPoints(1)"].texte.strip() == str(rang), f"answer {rang} is judged")
         if rang in (2, 3):
             p.capture("bonne-reponse" if juste else "mauvaise-reponse")

@@ -9,6 +9,7 @@ import pilote
 
 TITRE = "La course des escargots"
 EXERCICES = 27
+QUESTIONNAIRE_2 = 1
 # As elements are called in the sources: "cmdOk", "lblMot(3)", "Label1".
 IDENTIFIANT = re.compile(r"(frm|cmd|lbl|txt|cmb|rtf|mnu|chk|img)\w*(\(\d+\))?|"
                          r"(frame|lst|tlb|btn|drv|dir|scrl|Label|Text|Image|Line)([A-ZÉ0-9]\w*)?(\(\d+\))?")
@@ -88,6 +89,15 @@ def au_choix_des_exercices(p):
     p.clic("cmdQuitter")
 
 
+def entendre_le_verdict(p):
+    """Nothing is ticked, so the answer is wrong."""
+    with pilote.Annonces() as annonces:
+        p.attendre("cmdVérifier").agir("Press")
+        p.jusqu_a(annonces.entendues, "something is read out")
+        verdict = p.texte("lblOuiNon")
+        p.verifier_egal(annonces.dites, [f"0 sur 1. {verdict}"], "the verdict and the points are read out at once")
+
+
 def un_exercice(p, rang):
     """Opened by an assistive tool; one that isn't there yet says so in a box."""
     p.attendre_fenetre("frmExercices")
@@ -97,6 +107,8 @@ def un_exercice(p, rang):
     ouverte = p.jusqu_a(lambda: p.fenetre() if p.fenetre().identifiant != "frmExercices" else None, f"{nom} is open")
     if ouverte.identifiant.startswith("frm"):
         ecouter(p, nom)
+        if rang == QUESTIONNAIRE_2:
+            entendre_le_verdict(p)
         p.touche("alt+F4")
     else:
         p.touche("Return")

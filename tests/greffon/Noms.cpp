@@ -1,7 +1,7 @@
 // Loaded by the sessions into the program under test: tells of its widgets what the toolkit's bridge to assistive
 // tools keeps to itself. A widget is named by the number that ends its path on that bridge.
 #include <QAccessible>
-#include <QCoreApplication>
+#include <QApplication>
 #include <QDBusConnection>
 #include <QGenericPlugin>
 #include <QWidget>
@@ -24,6 +24,12 @@ public slots:
     {
         const auto* objet = objetDe(numero);
         return objet != nullptr ? objet->objectName() : QString{};
+    }
+    // Of what has the keyboard; empty when nothing has.
+    QString focus() const
+    {
+        const auto* widget = QApplication::focusWidget();
+        return widget != nullptr ? widget->objectName() : QString{};
     }
     // The pointer says that a click does something.
     bool montreLaMain(uint numero) const
