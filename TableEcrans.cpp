@@ -41,7 +41,10 @@ std::unique_ptr<Ecran> SurLAccueil(Ecran& ouvreur)
 template <class E>
 std::unique_ptr<Ecran> SurLeChoix(Ecran& ouvreur)
 {
-    return std::make_unique<E>(dynamic_cast<frmExercices&>(ouvreur));
+    auto& choix = dynamic_cast<frmExercices&>(ouvreur);
+    auto écran = std::make_unique<E>(choix);
+    choix.Présenter(*écran);
+    return écran;
 }
 
 // A screen that works on the text of the editor.

@@ -391,8 +391,7 @@ bool frmEnseignant::DemanderEnregistrement()
 {
     if (!état.TexteModifié)
         return true;
-    if (!application_.Demander(u"Les modifications n'ont pas été enregistrées.\nSouhaitez-vous le faire?",
-                               {.Danger = Perte::ParNon}))
+    if (!application_.Demander(u"Les modifications n'ont pas été enregistrées.\nSouhaitez-vous le faire?"))
         return true;
     if (Enregistrer() == Issue::Echec)
         return false;
@@ -557,7 +556,7 @@ void frmEnseignant::mnuAuto_Click()
                                u"au texte saisi (correction à l'enregistrement).\n\n"
                                u"Souhaitez-vous supprimer cette fonction ?\n\n"
                                u"La désactivation pourrait entraîner des problèmes dans le module Elève !!!",
-                               {.Danger = Perte::ParOui, .Titre = u"Espaces et Ponctuation"}))
+                               u"Espaces et Ponctuation"))
         return;
     mnuAuto.Checked = !mnuAuto.Checked;
 }

@@ -21,6 +21,9 @@ enum class Disposition {
     Ressort,    // takes the room that is left
     Centré,     // its child, as small as it is, in the middle of the place
     Cadre,      // a frame element and what it holds
+    Suite,      // more of what a frame element holds, away from it: shown and reached while the frame is
+    Carte,      // its child on a card of its own
+    Page,       // the page of an exercise: see Page
     Couverture, // a frame element that covers the whole screen while it is visible, and what it holds
     Libre,      // children at their own Left, Top, Width, Height, in twips
     Toile,      // children at their own places in a drawing of Largeur x Hauteur, scaled to the place
@@ -28,7 +31,7 @@ enum class Disposition {
 
 struct Arrangement {
     Disposition Genre = Disposition::Vide;
-    Elément* Occupant = nullptr; // of Elément, Cadre and Couverture
+    Elément* Occupant = nullptr; // of Elément, Cadre, Suite and Couverture
     std::vector<Arrangement> Enfants;
     int Colonnes = 0;
     int Largeur = 0; // of a Toile, in its own units; else minimum in twips, 0: as the toolkit likes
@@ -70,11 +73,27 @@ struct Rangée : Ligne {
     template <class T>
     explicit Rangée(Tableau<T>& éléments);
 };
+// Side by side, sharing the whole width.
+struct Partagée : Ligne {
+    template <class T>
+    explicit Partagée(Tableau<T>& éléments);
+};
+// Keys to press, in two rows, all as wide as one another.
+struct Touches : Grille {
+    template <class T>
+    explicit Touches(Tableau<T>& éléments);
+};
 struct Centré : Arrangement {
     Centré(Arrangement un) : Arrangement(Disposition::Centré, {std::move(un)}) {} // NOLINT(google-explicit-constructor)
 };
 struct Cadre : Arrangement {
     Cadre(Elément& cadre, Arrangement contenu) : Arrangement(Disposition::Cadre, {std::move(contenu)})
+    {
+        Occupant = &cadre;
+    }
+    // With an element beside its title.
+    Cadre(Elément& cadre, Arrangement contenu, Elément& enTête)
+        : Arrangement(Disposition::Cadre, {std::move(contenu), enTête})
     {
         Occupant = &cadre;
     }
@@ -84,6 +103,38 @@ struct Couverture : Arrangement {
     {
         Occupant = &cadre;
     }
+};
+struct Suite : Arrangement {
+    Suite(Elément& cadre, Arrangement contenu) : Arrangement(Disposition::Suite, {std::move(contenu)})
+    {
+        Occupant = &cadre;
+    }
+};
+struct Carte : Arrangement {
+    explicit Carte(Arrangement un) : Arrangement(Disposition::Carte, {std::move(un)}) {}
+};
+// The same parts for all exercises, always at the same places. What the work's rules compute from the screen's size
+// knows of the work and the foot alone.
+struct PartiesDePage {
+    Arrangement Consigne{}; // what the pupil has to do
+    Arrangement Points{};
+    Arrangement Travail{};
+    Arrangement Pied{};   // the buttons, the one to press next at the right end
+    Arrangement Dessus{}; // what comes to stand over the work
+};
+struct Page : Arrangement {
+    Page(PartiesDePage parties) // NOLINT(google-explicit-constructor)
+        : Arrangement(Disposition::Page,
+                      {std::move(parties.Consigne), std::move(parties.Points), std::move(parties.Travail),
+                       std::move(parties.Pied), std::move(parties.Dessus)})
+    {
+    }
+    // Places of the parts among the children.
+    static constexpr std::size_t Consigne = 0;
+    static constexpr std::size_t Points = 1;
+    static constexpr std::size_t Travail = 2;
+    static constexpr std::size_t Pied = 3;
+    static constexpr std::size_t Dessus = 4;
 };
 struct Libre : Arrangement {
     Libre(std::initializer_list<Arrangement> e) : Arrangement(Disposition::Libre, e) {}

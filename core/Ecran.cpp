@@ -36,7 +36,7 @@ void Ecran::Charger()
 
 void Ecran::Ranger(const Arrangement& place, const Elément* conteneur)
 {
-    if (place.Occupant != nullptr)
+    if (place.Occupant != nullptr && place.Genre != Disposition::Suite)
         place.Occupant->RangerDans(conteneur);
     if (place.Genre == Disposition::Couverture)
         couvertures_.push_back(place.Occupant);

@@ -16,6 +16,15 @@ struct Menu {
     std::vector<Menu> Sous{};
 };
 
+// How an exercise presents itself above its page.
+struct TitreDePage {
+    Texte Titre{};
+    Texte NomElève{};
+    Dessin Pictogramme{};
+    Couleur Bande = CouleurAuto;
+    Couleur Profonde = CouleurAuto; // for letters and outlines on the band
+};
+
 class Ecran : public Observable {
 public:
     Ecran(Application& application, std::string_view nom, Texte légende);
@@ -30,6 +39,8 @@ public:
     Propriété<int> Height{*this, 0};
     bool PetiteFenêtre = false; // as large as its contents, not as the display
     bool LaisseVoir = false;    // a small window that never covers what is chosen in the text below it
+
+    TitreDePage Présentation; // set by who opens the screen, before it is shown
 
     // Filled rectangles and lines behind the elements, in a scale of their own: see Dessin.
     Propriété<Dessin> Fond{*this, Dessin{}};
@@ -135,6 +146,18 @@ template <class T>
 Grille::Grille(int colonnes, Tableau<T>& éléments) : Arrangement(Disposition::Grille, EnPlaces(éléments))
 {
     Colonnes = colonnes;
+}
+template <class T>
+Partagée::Partagée(Tableau<T>& éléments) : Ligne(éléments)
+{
+    for (auto& un : Enfants)
+        un.Etirement = 1;
+}
+template <class T>
+Touches::Touches(Tableau<T>& éléments) : Grille((éléments.Nombre() + 1) / 2, éléments)
+{
+    for (auto& touche : Enfants)
+        touche.Etirement = 1;
 }
 
 } // namespace tirelune

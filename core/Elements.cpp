@@ -101,7 +101,10 @@ void Légendé::Cliquer()
 }
 
 Label::Label(Ecran& écran, std::string_view nom, const EtatInitial& initial)
-    : Légendé(écran, nom, initial), Bordure(*this, initial.Bordure), Centré(initial.Centré)
+    : Légendé(écran, nom, initial),
+      Bordure(*this, initial.Bordure),
+      Centré(initial.Centré),
+      SensDesCouleurs(initial.SensDesCouleurs)
 {
 }
 

@@ -19,6 +19,13 @@ namespace tirelune {
 
 class Ecran;
 
+// What an element's told colours say. Whoever draws the element says it by a sign as well.
+enum class Sens {
+    Réponse, // a green ground: right; a red one: wrong; a yellow one: chosen
+    Verdict, // dark green letters: right; red ones: wrong
+    Rien,    // nothing of the kind: a count, a score
+};
+
 // What an element is created with; only what differs from the ordinary is written down.
 struct EtatInitial {
     Texte Caption{};
@@ -33,6 +40,7 @@ struct EtatInitial {
     Texte Police{};      // empty: the program's own font
     bool Centré = false; // caption in the middle
     bool Bordure = false;
+    Sens SensDesCouleurs = Sens::Réponse;
     bool Sorted = false;      // of lists
     bool Saisie = false;      // of a combo box: values may be typed
     bool MultiLine = false;   // of a text box
@@ -142,9 +150,12 @@ public:
     }
 
     Propriété<bool> Bordure;
-    Propriété<bool> AutoSize{*this, false}; // as wide as its caption
+    Propriété<bool> AutoSize{*this, false};     // as wide as its caption
+    Propriété<Dessin> Picture{*this, Dessin{}}; // before its caption
+    Propriété<Texte> Plaque{*this, Texte{}};    // a short text at its right end
     Propriété<Pointeur> MousePointer{*this, Pointeur::Normal};
     const bool Centré;
+    const Sens SensDesCouleurs;
 };
 
 class Button final : public Légendé {

@@ -27,6 +27,34 @@ void RemplacerPolicePropre()
     QFont::insertSubstitution(PolicePropre, QStringLiteral("Comic Neue"));
 }
 
+namespace {
+
+// Relative luminance, from 0 to 1: WCAG 2.1.
+double Luminance(const QColor& couleur)
+{
+    const auto linéaire = [](double composante) {
+        return composante <= 0.04045 ? composante / 12.92 : std::pow((composante + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * linéaire(couleur.redF()) + 0.7152 * linéaire(couleur.greenF()) + 0.0722 * linéaire(couleur.blueF());
+}
+
+constexpr double ContrasteVoulu = 4.5;
+
+} // namespace
+
+double Contraste(const QColor& une, const QColor& autre)
+{
+    const auto [sombre, claire] = std::minmax(Luminance(une), Luminance(autre));
+    return (claire + 0.05) / (sombre + 0.05);
+}
+
+QColor EncreSur(const QColor& fond, const QColor& voulue)
+{
+    if (Contraste(fond, voulue) >= ContrasteVoulu)
+        return voulue;
+    return Contraste(fond, Teinte::Encre) >= Contraste(fond, Qt::white) ? Teinte::Encre : QColor{Qt::white};
+}
+
 double EchellePour(QSize taille)
 {
     // Slower than the display grows, or nothing more would find room on a large one.

@@ -15,24 +15,32 @@ class QIcon;
 namespace tirelune {
 
 namespace Teinte {
-inline const QColor Fond{0xEF, 0xF5, 0xFB};
+inline const QColor Fond{0xF5, 0xF7, 0xFD};
 inline const QColor Encre{0x1B, 0x27, 0x45};
 inline const QColor Panneau{0xFF, 0xFF, 0xFF};
 inline const QColor BordChamp{0xB9, 0xC4, 0xDD};
 inline const QColor BordActif{0x6F, 0x86, 0xB8}; // of what is typed into
-inline const QColor BordPanneau{0x8F, 0xB3, 0xDB};
-inline const QColor Bouton{0xFF, 0xE2, 0x8A};
-inline const QColor BoutonSurvolé{0xFF, 0xED, 0xB5};
+inline const QColor BordPanneau{0xD9, 0xDF, 0xEE};
+inline const QColor Tranche{0xCD, 0xD4, 0xE8}; // the lower edge of what is white
+inline const QColor Bouton{0xFF, 0xDB, 0x78};
+inline const QColor BoutonSurvolé{0xFF, 0xE9, 0xA8};
 inline const QColor BoutonEnfoncé{0xF2, 0xC9, 0x4C};
 inline const QColor BordBouton{0xC8, 0x97, 0x1F};
 inline const QColor Eteint{0xE3, 0xE7, 0xEC};
-inline const QColor EncreEteinte{0x76, 0x7F, 0x8E};
+inline const QColor EncreEteinte{0x66, 0x6E, 0x80};
 inline const QColor Anneau{0x0B, 0x5C, 0xC4}; // around what has the keyboard
 inline const QColor Sélection{0xFF, 0xD5, 0x4F};
 } // namespace Teinte
 
 // Texts keep the name of the font; only the picture changes where the machine lacks it.
 void RemplacerPolicePropre();
+
+inline constexpr int Arrondi = 9; // radius of the corners of all that has some, in pixels
+
+// The contrast ratio of two colours, from 1 to 21: WCAG 2.1.
+double Contraste(const QColor& une, const QColor& autre);
+// The ink on that ground: the one asked for, or the program's own, or white, whichever can be read.
+QColor EncreSur(const QColor& fond, const QColor& voulue);
 
 // How much larger than on an 800 x 600 display things are drawn.
 double EchellePour(QSize taille);

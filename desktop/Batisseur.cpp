@@ -1,6 +1,7 @@
 #include "desktop/Batisseur.h"
 
 #include "core/Arrangement.h"
+#include "desktop/Bandeau.h"
 #include "desktop/Composants.h"
 #include "desktop/Contenu.h"
 #include "desktop/Conversions.h"
@@ -16,21 +17,98 @@
 
 namespace tirelune {
 
+namespace {
+
+constexpr int Bord = 8;   // around what a screen shows; pixels of an 800 x 600 display, as all here
+constexpr int Espace = 6; // between two neighbours
+constexpr int HauteurPied = 66;
+
+// Rules compute the places of such work: it has the screen's corner, and nearly its width.
+bool EstPlacéParLesRègles(const Arrangement& travail)
+{
+    const auto libre = [](const Arrangement& un) { return un.Genre == Disposition::Libre; };
+    return libre(travail) ||
+           (travail.Genre == Disposition::Pile && std::any_of(travail.Enfants.begin(), travail.Enfants.end(), libre));
+}
+
+} // namespace
+
 void Bâtisseur::BâtirPlan(const Arrangement& plan)
 {
     auto& cadre = contenu_.Plan();
     Remplir(&cadre, plan);
     if (cadre.layout() == nullptr)
         return;
-    const int bord = plan.Genre == Disposition::Libre ? 0 : 8;
-    cadre.layout()->setContentsMargins(bord, bord, bord, bord);
+    const int bord = plan.Genre == Disposition::Libre ? 0 : Bord;
+    AvecMarges(*cadre.layout(), bord, bord, bord, bord);
     cadre.layout()->setSizeConstraint(QLayout::SetNoConstraint);
 }
 
-void Bâtisseur::RéglerMinimums() const
+void Bâtisseur::BâtirPage(const Arrangement& page, Bandeau& bandeau)
 {
-    for (const auto& minimum : minimums_)
-        minimum();
+    auto& plan = contenu_.Plan();
+    const auto& parties = page.Enfants;
+    const auto garnir = [this](QWidget& widget, const Arrangement& partie) {
+        if (partie.Genre != Disposition::Vide)
+            Remplir(&widget, partie);
+    };
+    garnir(bandeau.Consigne(), parties[Page::Consigne]);
+    garnir(bandeau.Points(), parties[Page::Points]);
+    SelonEchelle([this, &bandeau] { bandeau.Mesurer(hôte_.Echelle()); });
+
+    auto* colonne = new QVBoxLayout;
+    colonne->setContentsMargins(0, 0, 0, 0);
+    colonne->setSpacing(0);
+    const auto& travail = parties[Page::Travail];
+    auto* place = new Superposition;
+    const auto un = Bâtir(travail, &plan, true);
+    if (un.Widget != nullptr)
+        place->Ajouter(un.Widget);
+    else if (un.Layout != nullptr)
+        place->Ajouter(un.Layout);
+    static constexpr int MoitiéDeCeQuiReste = 5; // of the 10 pixels that such a text leaves in width
+    const int bord = EstPlacéParLesRègles(travail) ? MoitiéDeCeQuiReste : Bord;
+    AvecMarges(*place, bord, bord, bord, bord);
+    colonne->addLayout(place, 1);
+    if (parties[Page::Pied].Genre != Disposition::Vide) {
+        auto* pied = new PiedDePage{&plan};
+        Remplir(pied, parties[Page::Pied]);
+        AvecMarges(*pied->layout(), Bord, Espace, Bord, Espace);
+        SelonEchelle([this, pied] { pied->setFixedHeight(qRound(HauteurPied * hôte_.Echelle())); });
+        colonne->addWidget(pied);
+    }
+    auto* tout = new Superposition;
+    tout->setContentsMargins(0, 0, 0, 0);
+    tout->Ajouter(colonne);
+    const auto dessus = Bâtir(parties[Page::Dessus], &plan, false);
+    if (dessus.Layout != nullptr)
+        tout->Ajouter(dessus.Layout);
+    tout->setSizeConstraint(QLayout::SetNoConstraint);
+    plan.setLayout(tout);
+}
+
+void Bâtisseur::Mesurer() const
+{
+    for (const auto& mesure : mesures_)
+        mesure();
+}
+
+void Bâtisseur::SelonEchelle(std::function<void()> mesure)
+{
+    mesure();
+    mesures_.push_back(std::move(mesure));
+}
+
+void Bâtisseur::AvecMarges(QLayout& layout, int gauche, int haut, int droite, int bas)
+{
+    SelonEchelle([this, &layout, marges = QMarginsF(gauche, haut, droite, bas)] {
+        layout.setContentsMargins((marges * hôte_.Echelle()).toMargins());
+    });
+}
+
+void Bâtisseur::AvecEspace(QLayout& layout)
+{
+    SelonEchelle([this, &layout] { layout.setSpacing(qRound(Espace * hôte_.Echelle())); });
 }
 
 Vue& Bâtisseur::Créer(const Arrangement& place, QWidget* parent)
@@ -103,6 +181,13 @@ Bâtisseur::Place Bâtisseur::Bâtir(const Arrangement& place, QWidget* parent, 
     }
     case Disposition::Cadre:
         return AvecMinimum(BâtirCadre(place, parent, garder), place);
+    case Disposition::Suite:
+        return AvecMinimum(BâtirSuite(place, parent), place);
+    case Disposition::Carte:
+        return AvecMinimum(BâtirCarte(place, parent), place);
+    case Disposition::Page:
+        assert(!"a page is a whole screen");
+        return {};
     case Disposition::Couverture:
         BâtirCouverture(place);
         return {};
@@ -125,18 +210,17 @@ Bâtisseur::Place Bâtisseur::AvecMinimum(Place une, const Arrangement& place)
         return QSize{EnPixels(largeur, hôte_.Echelle()), EnPixels(hauteur, hôte_.Echelle())};
     };
     if (une.Widget != nullptr) {
-        minimums_.emplace_back([minimum, widget = une.Widget] { widget->setMinimumSize(minimum()); });
+        SelonEchelle([minimum, widget = une.Widget] { widget->setMinimumSize(minimum()); });
     } else {
         auto* boîte = new Superposition;
         if (une.Layout != nullptr)
             boîte->Ajouter(une.Layout);
-        minimums_.emplace_back([minimum, boîte] {
+        SelonEchelle([minimum, boîte] {
             boîte->tailleMinimale = minimum();
             boîte->invalidate();
         });
         une = {nullptr, boîte};
     }
-    minimums_.back()();
     return une;
 }
 
@@ -145,7 +229,7 @@ Bâtisseur::Place Bâtisseur::BâtirBoîte(const Arrangement& place, QWidget* pa
     const bool ligne = place.Genre == Disposition::Ligne;
     auto* boîte = new QBoxLayout{ligne ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom};
     boîte->setContentsMargins(0, 0, 0, 0);
-    boîte->setSpacing(6);
+    AvecEspace(*boîte);
     for (const auto& enfant : place.Enfants) {
         if (enfant.Genre == Disposition::Ressort) {
             boîte->addStretch(std::max(1, enfant.Etirement));
@@ -164,7 +248,7 @@ Bâtisseur::Place Bâtisseur::BâtirGrille(const Arrangement& place, QWidget* pa
 {
     auto* grille = new QGridLayout;
     grille->setContentsMargins(0, 0, 0, 0);
-    grille->setSpacing(6);
+    AvecEspace(*grille);
     const int colonnes = std::max(1, place.Colonnes);
     int rang = 0;
     for (const auto& enfant : place.Enfants) {
@@ -187,11 +271,48 @@ Bâtisseur::Place Bâtisseur::BâtirGrille(const Arrangement& place, QWidget* pa
 Bâtisseur::Place Bâtisseur::BâtirCadre(const Arrangement& place, QWidget* parent, bool garder)
 {
     auto& panneau = dynamic_cast<Panneau&>(*Créer(place, parent).widget);
-    Remplir(&panneau, place.Enfants.front());
+    if (place.Enfants.size() > 1)
+        BâtirEnTête(panneau, place);
+    else
+        Remplir(&panneau, place.Enfants.front());
     panneau.AjusterMarges();
     if (garder)
         GarderPlace(panneau);
     return {&panneau, nullptr};
+}
+
+void Bâtisseur::BâtirEnTête(Panneau& panneau, const Arrangement& place)
+{
+    panneau.enTête = true;
+    auto* colonne = new QVBoxLayout{&panneau};
+    AvecEspace(*colonne);
+    auto& élément = *Créer(place.Enfants.back(), &panneau).widget;
+    colonne->addWidget(&élément, 0, Qt::AlignRight);
+    static constexpr QSizeF Taille{42, 28};
+    SelonEchelle([this, &élément] { élément.setFixedSize((Taille * hôte_.Echelle()).toSize()); });
+    const auto contenu = Bâtir(place.Enfants.front(), &panneau, true);
+    if (contenu.Widget != nullptr)
+        colonne->addWidget(contenu.Widget, 1);
+    else if (contenu.Layout != nullptr)
+        colonne->addLayout(contenu.Layout, 1);
+}
+
+Bâtisseur::Place Bâtisseur::BâtirSuite(const Arrangement& place, QWidget* parent)
+{
+    auto* suite = new QWidget{parent};
+    Remplir(suite, place.Enfants.front());
+    suite->layout()->setContentsMargins(0, 0, 0, 0);
+    GarderPlace(*suite);
+    vues_.Suivre(*place.Occupant, *suite);
+    return {suite, nullptr};
+}
+
+Bâtisseur::Place Bâtisseur::BâtirCarte(const Arrangement& place, QWidget* parent)
+{
+    auto* carte = new Papier{parent};
+    Remplir(carte, place.Enfants.front());
+    AvecMarges(*carte->layout(), Bord, Bord, Bord, Bord);
+    return {carte, nullptr};
 }
 
 void Bâtisseur::BâtirCouverture(const Arrangement& place)

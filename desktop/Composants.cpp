@@ -4,6 +4,7 @@
 
 #include <QApplication>
 #include <QEvent>
+#include <QGridLayout>
 #include <QKeyEvent>
 #include <QLayout>
 #include <QMouseEvent>
@@ -17,13 +18,26 @@ namespace tirelune {
 
 namespace {
 
-constexpr int Coin = 7;
+constexpr int Tranche = 3; // height of the lower edge of what can be pressed, in pixels
+
+// Something that lies on the ground, or can be pressed into it.
+void PeindreTouche(QPainter& peintre, const QRectF& place, const QColor& face, const QColor& bord, bool enfoncée)
+{
+    peintre.setPen(Qt::NoPen);
+    peintre.setBrush(bord);
+    if (!enfoncée)
+        peintre.drawRoundedRect(place, Arrondi, Arrondi);
+    peintre.setPen(QPen{bord, 2});
+    peintre.setBrush(face);
+    const auto dessus = enfoncée ? place.adjusted(0, Tranche, 0, 0) : place.adjusted(0, 0, 0, -Tranche);
+    peintre.drawRoundedRect(dessus.adjusted(1, 1, -1, -1), Arrondi, Arrondi);
+}
 
 void PeindreAnneau(QPainter& peintre, const QRect& place)
 {
     peintre.setPen(QPen{Teinte::Anneau, 2.5});
     peintre.setBrush(Qt::NoBrush);
-    peintre.drawRoundedRect(QRectF{place}.adjusted(1.5, 1.5, -1.5, -1.5), Coin, Coin);
+    peintre.drawRoundedRect(QRectF{place}.adjusted(1.5, 1.5, -1.5, -1.5), Arrondi, Arrondi);
 }
 
 int Interligne(const QFont& police)
@@ -69,7 +83,9 @@ int Etiquette::Drapeaux() const
 
 int Etiquette::Marge() const
 {
-    return bordure || fond.isValid() || cliquable_ ? std::max(4, font().pixelSize() / 4) : 1;
+    if (cliquable_)
+        return std::max(6, font().pixelSize() / 2);
+    return bordure || fond.isValid() ? std::max(4, font().pixelSize() / 4) : 1;
 }
 
 // Long runs of blanks stand for line ends: they push what follows to the next line.
@@ -88,12 +104,33 @@ QString Etiquette::Montré() const
     return lignes.join(u'\n');
 }
 
+bool Etiquette::EstVide() const
+{
+    return text().isEmpty() && pictogramme.Formes.empty();
+}
+
+int Etiquette::LargeurSigne() const
+{
+    return signe == Signe::Aucun ? 0 : font().pixelSize();
+}
+
+int Etiquette::LargeurPictogramme() const
+{
+    return pictogramme.Formes.empty() ? 0 : font().pixelSize() * 3 / 2;
+}
+
+int Etiquette::LargeurPlaque() const
+{
+    return plaque.isEmpty() ? 0 : QFontMetrics{font()}.horizontalAdvance(plaque) + font().pixelSize() / 2;
+}
+
 QSize Etiquette::sizeHint() const
 {
     const int marge = 2 * Marge();
     const int largeurMaximale = font().pixelSize() * 26;
     const auto taille = TailleTexte(font(), Montré(), Drapeaux(), largeurMaximale);
-    return {std::max(taille.width(), font().pixelSize() / 2) + marge,
+    return {std::max(taille.width(), font().pixelSize() / 2) + marge + LargeurPictogramme() + LargeurPlaque() +
+                LargeurSigne(),
             std::max(taille.height(), Interligne(font())) + marge};
 }
 
@@ -101,7 +138,8 @@ QSize Etiquette::minimumSizeHint() const
 {
     // Letters may get smaller before anything is cut.
     const auto voulue = sizeHint();
-    return {std::min(voulue.width() * 6 / 10, font().pixelSize() * 6), Interligne(font()) * 6 / 10 + Marge()};
+    const int hauteur = cliquable_ ? Interligne(font()) * 8 / 10 + Tranche + 4 : Interligne(font()) * 6 / 10 + Marge();
+    return {std::min(voulue.width() * 6 / 10, font().pixelSize() * 6), hauteur};
 }
 
 bool Etiquette::hasHeightForWidth() const
@@ -117,8 +155,11 @@ int Etiquette::heightForWidth(int largeur) const
 
 QRect Etiquette::PlaceDuContenu() const
 {
-    const int marge = Marge();
-    return rect().adjusted(marge, marge / 2, -marge, -(marge / 2));
+    const int marge = std::min(Marge(), width() / 8);
+    if (!cliquable_)
+        return rect().adjusted(marge, marge / 2, -marge, -(marge / 2));
+    const int haut = pressée_ ? Tranche : 0;
+    return rect().adjusted(marge, haut + 2, -marge, haut - Tranche - 2);
 }
 
 bool Etiquette::MontreTout()
@@ -130,27 +171,46 @@ void Etiquette::paintEvent(QPaintEvent* /*événement*/)
 {
     QPainter peintre{this};
     peintre.setRenderHint(QPainter::Antialiasing);
-    const auto place = QRectF{rect()}.adjusted(0.5, 0.5, -0.5, -0.5);
-    const bool arrondie = cliquable_ && !enLigne;
-    const int coin = arrondie ? Coin : 0;
-    if (fond.isValid()) {
-        peintre.setPen(bordure || arrondie ? QPen{Teinte::BordPanneau} : QPen{Qt::NoPen});
-        peintre.setBrush(fond);
-        coin > 0 ? peintre.drawRoundedRect(place, coin, coin) : peintre.drawRect(bordure ? place : QRectF{rect()});
-    }
-    if (bordure) {
-        peintre.setPen(QPen{Teinte::Encre, 2});
-        peintre.setBrush(Qt::NoBrush);
-        peintre.drawRoundedRect(place.adjusted(0.5, 0.5, -0.5, -0.5), coin, coin);
-    }
+    PeindreFond(peintre);
     PeindreContenu(peintre, PlaceDuContenu());
     if (survolée_ && cliquable_ && isEnabled()) {
         peintre.setPen(QPen{Teinte::BordBouton, 2});
         peintre.setBrush(Qt::NoBrush);
-        peintre.drawRoundedRect(place.adjusted(0.5, 0.5, -0.5, -0.5), Coin, Coin);
+        peintre.drawRoundedRect(QRectF{rect()}.adjusted(1, 1, -1, -1), Arrondi, Arrondi);
     }
     if (hasFocus() && choisie_)
         PeindreAnneau(peintre, rect());
+}
+
+void Etiquette::PeindreFond(QPainter& peintre) const
+{
+    const QRectF place{rect()};
+    if (cliquable_) {
+        const auto face = fond.isValid() ? fond : Teinte::Panneau;
+        const auto bord = bordure || signe == Signe::Choisi     ? Teinte::Encre
+                          : fond.isValid() && fond != Qt::white ? fond.darker(125)
+                                                                : Teinte::Tranche;
+        if (EstVide() && face == Teinte::Panneau) { // a place that has given its word away
+            peintre.setPen(QPen{Teinte::Tranche, 2, Qt::DashLine});
+            peintre.setBrush(Qt::NoBrush);
+            peintre.drawRoundedRect(place.adjusted(1, 1, -1, -1), Arrondi, Arrondi);
+        } else if (isEnabled()) {
+            PeindreTouche(peintre, place, face, bord, pressée_);
+        } else {
+            peintre.setPen(QPen{Teinte::BordPanneau, 2});
+            peintre.setBrush(fond.isValid() ? fond : Teinte::Eteint);
+            peintre.drawRoundedRect(place.adjusted(1, 1, -1, -1), Arrondi, Arrondi);
+        }
+    } else if (fond.isValid()) {
+        peintre.setPen(Qt::NoPen);
+        peintre.setBrush(fond);
+        peintre.drawRoundedRect(place, Arrondi, Arrondi);
+    }
+    if (!bordure || cliquable_)
+        return;
+    peintre.setPen(QPen{Teinte::Tranche, 2});
+    peintre.setBrush(Qt::NoBrush);
+    peintre.drawRoundedRect(place.adjusted(1, 1, -1, -1), Arrondi, Arrondi);
 }
 
 void Etiquette::focusInEvent(QFocusEvent* événement)
@@ -160,16 +220,61 @@ void Etiquette::focusInEvent(QFocusEvent* événement)
     QLabel::focusInEvent(événement);
 }
 
-void Etiquette::PeindreContenu(QPainter& peintre, const QRect& place)
+void Etiquette::PeindreContenu(QPainter& peintre, QRect place)
 {
+    const auto sol = fond.isValid() ? fond : Teinte::Panneau;
+    if (const int largeur = LargeurPictogramme(); largeur > 0) {
+        const QRectF carré{QPointF(place.x(), place.center().y() - largeur * 0.4), QSizeF(largeur, largeur) * 0.8};
+        Peindre(peintre, pictogramme, carré);
+        place.setLeft(place.left() + largeur);
+    }
+    if (const int largeur = LargeurPlaque(); largeur > 0) {
+        const QRect bout{place.right() - largeur + 1, place.y(), largeur, place.height()};
+        auto police = font();
+        police.setBold(true);
+        peintre.setFont(police);
+        peintre.setPen(EncreSur(sol, Teinte::Encre));
+        peintre.drawText(bout, Qt::AlignCenter, plaque);
+        place.setRight(bout.left());
+    }
+    if (signe != Signe::Aucun && !verdict) {
+        const int largeur = std::min(LargeurSigne(), place.width() / 3);
+        const QRect bout{place.right() - largeur + 1, place.y(), largeur, place.height()};
+        PeindreSigne(peintre, signe, bout, EncreSur(sol, Teinte::Encre));
+        place.setRight(bout.left() - 2);
+    }
     if (text().isEmpty())
         return;
     const auto montré = Montré();
+    const int avant = verdict ? 2 * LargeurSigne() : 0; // on both sides, so that the text stays in the middle
+    place.adjust(avant, 0, -avant, 0);
     const auto& ajusté = ajusté_.Mesurer(font(), montré, place.size(), Drapeaux());
+    const auto automatique = fond.isValid() ? EncreSur(fond, Teinte::Encre) : palette().color(QPalette::WindowText);
+    const auto couleur = !isEnabled() ? Teinte::EncreEteinte : encre.isValid() ? encre : automatique;
+    const auto boîte = QFontMetrics{ajusté.Police}.boundingRect(place, ajusté.Drapeaux, montré);
+    if (fond.isValid() && isEnabled())
+        PeindrePlaqueSous(peintre, boîte, couleur);
+    if (avant > 0) {
+        const int côté = LargeurSigne();
+        PeindreSigne(peintre, signe, QRectF(boîte.left() - 1.4 * côté, boîte.center().y() - côté / 2.0, côté, côté),
+                     couleur);
+    }
     peintre.setFont(ajusté.Police);
-    const auto automatique = fond.isValid() ? Teinte::Encre : palette().color(QPalette::WindowText);
-    peintre.setPen(!isEnabled() ? Teinte::EncreEteinte : encre.isValid() ? encre : automatique);
+    peintre.setPen(couleur);
     peintre.drawText(place, ajusté.Drapeaux, montré);
+}
+
+// Two told colours that can't be read on one another; the same colour twice hides on purpose.
+void Etiquette::PeindrePlaqueSous(QPainter& peintre, const QRect& texte, const QColor& couleur) const
+{
+    static constexpr int GrandesLettres = 24; // pixels, and bold ones from 19 on
+    static constexpr int GrandesLettresGrasses = 18;
+    const bool grandes = font().pixelSize() >= (font().bold() ? GrandesLettresGrasses : GrandesLettres);
+    if (couleur == fond || Contraste(couleur, fond) >= (grandes ? 3.0 : 4.5))
+        return;
+    peintre.setPen(Qt::NoPen);
+    peintre.setBrush(EncreSur(couleur, Qt::white));
+    peintre.drawRoundedRect(QRectF{texte}.adjusted(-5, 0, 5, 0), Arrondi / 2.0, Arrondi / 2.0);
 }
 
 void Etiquette::mousePressEvent(QMouseEvent* événement)
@@ -179,6 +284,7 @@ void Etiquette::mousePressEvent(QMouseEvent* événement)
         return;
     }
     pressée_ = true;
+    update();
 }
 
 void Etiquette::mouseReleaseEvent(QMouseEvent* événement)
@@ -188,6 +294,7 @@ void Etiquette::mouseReleaseEvent(QMouseEvent* événement)
         return;
     }
     pressée_ = false;
+    update();
     if (cliquable_ && rect().contains(événement->position().toPoint()))
         clic();
 }
@@ -231,7 +338,7 @@ QSize ImageDessinée::sizeHint() const
             std::max(24, static_cast<int>(dessin.Hauteur * Agrandissement * échelle))};
 }
 
-void ImageDessinée::PeindreContenu(QPainter& peintre, const QRect& place)
+void ImageDessinée::PeindreContenu(QPainter& peintre, QRect place)
 {
     Peindre(peintre, dessin, Proportionné(dessin, place));
 }
@@ -257,7 +364,7 @@ QSize Bouton::sizeHint() const
     const int taille = font().pixelSize();
     const auto texte = TailleTexte(font(), text(), DrapeauxBouton, taille * 18);
     const int minimum = text().size() > 2 ? taille * 6 : taille * 3;
-    return {std::max(texte.width() + taille * 2, minimum), texte.height() + taille};
+    return {std::max(texte.width() + taille * 2, minimum), texte.height() + taille + Tranche};
 }
 
 QSize Bouton::minimumSizeHint() const
@@ -273,10 +380,15 @@ void Bouton::paintEvent(QPaintEvent* /*événement*/)
     const auto repos = fond.isValid() ? fond : Teinte::Bouton;
     const auto survol = fond.isValid() ? fond.lighter(108) : Teinte::BoutonSurvolé;
     const auto enfoncé = fond.isValid() ? fond.darker(112) : Teinte::BoutonEnfoncé;
-    peintre.setBrush(!isEnabled() ? Teinte::Eteint : isDown() ? enfoncé : underMouse() ? survol : repos);
-    peintre.setPen(QPen{isEnabled() ? Teinte::BordBouton : Teinte::EncreEteinte, 1.5});
-    peintre.drawRoundedRect(QRectF{rect()}.adjusted(1, 1, -1, -1), Coin, Coin);
-    const auto place = rect().adjusted(6, 3, -6, -3);
+    if (isEnabled()) {
+        const auto bord = fond.isValid() ? fond.darker(140) : Teinte::BordBouton;
+        PeindreTouche(peintre, rect(), isDown() ? enfoncé : underMouse() ? survol : repos, bord, isDown());
+    } else {
+        peintre.setPen(QPen{Teinte::Tranche, 2});
+        peintre.setBrush(Teinte::Eteint);
+        peintre.drawRoundedRect(QRectF{rect()}.adjusted(1, 1, -1, -1), Arrondi, Arrondi);
+    }
+    const auto place = rect().adjusted(8, 2 + (isDown() ? Tranche : 0), -8, -2 - (isDown() ? 0 : Tranche));
     const auto& ajusté = ajusté_.Mesurer(font(), text(), place.size(), DrapeauxBouton);
     peintre.setFont(ajusté.Police);
     peintre.setPen(!isEnabled() ? Teinte::EncreEteinte : encre.isValid() ? encre : Teinte::Encre);
@@ -295,6 +407,49 @@ void Bouton::leaveEvent(QEvent* événement)
 {
     update();
     QPushButton::leaveEvent(événement);
+}
+
+// ---- Grounds -------------------------------------------------------------------------------------------------
+
+namespace {
+
+void PeindrePapier(QPainter& peintre, const QRectF& place, const QColor& fond = Teinte::Panneau)
+{
+    PeindreTouche(peintre, place, fond, fond == Teinte::Panneau ? Teinte::BordPanneau : fond.darker(118), false);
+}
+
+} // namespace
+
+bool MontreQuelqueChose(const QWidget& fond)
+{
+    const auto enfants = fond.findChildren<QWidget*>(QString{}, Qt::FindDirectChildrenOnly);
+    return std::any_of(enfants.begin(), enfants.end(), [](const auto* un) { return un->isVisible(); });
+}
+
+void Papier::paintEvent(QPaintEvent* /*événement*/)
+{
+    if (!MontreQuelqueChose(*this))
+        return;
+    QPainter peintre{this};
+    peintre.setRenderHint(QPainter::Antialiasing);
+    if (!accent.isValid()) {
+        PeindrePapier(peintre, rect());
+        return;
+    }
+    static constexpr int LargeurAccent = 6;
+    const auto marges = layout()->contentsMargins();
+    const QRectF place = QRectF{rect()}.adjusted(marges.left() / 2.0, marges.top() / 2.0, -marges.right() / 2.0, 0);
+    peintre.setPen(Qt::NoPen);
+    peintre.setBrush(accent);
+    peintre.drawRoundedRect(place, Arrondi, Arrondi);
+    PeindrePapier(peintre, place.adjusted(LargeurAccent, 0, 0, 0));
+}
+
+void PiedDePage::paintEvent(QPaintEvent* /*événement*/)
+{
+    QPainter peintre{this};
+    peintre.fillRect(rect(), Teinte::Panneau);
+    peintre.fillRect(QRect{0, 0, width(), 2}, Teinte::BordPanneau);
 }
 
 // ---- Panels --------------------------------------------------------------------------------------------------
@@ -323,14 +478,15 @@ QFont Panneau::PoliceTitre() const
 
 int Panneau::HauteurTitre() const
 {
-    return titre_.isEmpty() ? 0 : Interligne(PoliceTitre()) + (couvrant ? font().pixelSize() * 2 : 6);
+    return titre_.isEmpty() ? 0 : Interligne(PoliceTitre()) + font().pixelSize();
 }
 
 void Panneau::AjusterMarges()
 {
-    const int bord = std::max(6, font().pixelSize() / 2);
+    const int bord = std::max(8, font().pixelSize() / 2);
+    const int haut = couvrant ? 0 : enTête ? bord / 2 : HauteurTitre() + bord;
     if (auto* contenu = layout())
-        contenu->setContentsMargins(bord, HauteurTitre() + (titre_.isEmpty() ? bord : bord / 2), bord, bord);
+        contenu->setContentsMargins(bord, haut, bord, bord + Tranche);
     const int largeurTitre = titre_.isEmpty() ? 0 : QFontMetrics{font()}.horizontalAdvance(titre_) * 7 / 10;
     setMinimumWidth(couvrant ? 0 : std::min(largeurTitre + 2 * bord, 560));
 }
@@ -346,21 +502,63 @@ void Panneau::paintEvent(QPaintEvent* /*événement*/)
 {
     QPainter peintre{this};
     peintre.setRenderHint(QPainter::Antialiasing);
-    const auto teinteFond = fond.isValid() ? fond : couvrant ? Teinte::Fond : Teinte::Panneau;
-    const auto teinteBord = fond.isValid() ? fond.darker(140) : Teinte::BordPanneau;
-    if (couvrant) {
-        peintre.fillRect(rect(), teinteFond);
-    } else {
-        peintre.setPen(QPen{teinteBord, 1.5});
-        peintre.setBrush(teinteFond);
-        peintre.drawRoundedRect(QRectF{rect()}.adjusted(1, 1, -1, -1), Coin, Coin);
+    couvrant ? PeindreCouverture(peintre) : PeindreCarte(peintre);
+}
+
+// Its colour fills it, or the ground of its title; below a title it is paler.
+void Panneau::PeindreCarte(QPainter& peintre) const
+{
+    const auto pâlir = [](const QColor& couleur) {
+        static constexpr double Part = 0.16;
+        const auto mêler = [](int c) { return static_cast<int>(255 - (255 - c) * Part); };
+        return QColor{mêler(couleur.red()), mêler(couleur.green()), mêler(couleur.blue())};
+    };
+    const bool coloré = fond.isValid();
+    const bool titré = !titre_.isEmpty();
+    PeindreTouche(peintre, rect(),
+                  !coloré ? Teinte::Panneau
+                  : titré ? pâlir(fond)
+                          : fond,
+                  coloré ? fond.darker(110) : Teinte::BordPanneau, false);
+    if (!titré)
+        return;
+    const QRect bande{1, 1, width() - 2, HauteurTitre()};
+    if (coloré) {
+        peintre.setPen(Qt::NoPen);
+        peintre.setBrush(fond);
+        peintre.setClipRect(bande);
+        peintre.drawRoundedRect(QRectF{bande}.adjusted(0, 0, 0, Arrondi), Arrondi, Arrondi);
+        peintre.setClipping(false);
     }
+    const int bord = std::max(10, font().pixelSize() * 3 / 4);
+    const auto place = bande.adjusted(bord, 0, enTête ? -bande.height() * 2 : -bord, 0);
+    peintre.setFont(AjusterPolice(PoliceTitre(), titre_, place.size(), Qt::AlignVCenter));
+    peintre.setPen(coloré            ? EncreSur(fond, encre.isValid() ? encre : Teinte::Encre)
+                   : encre.isValid() ? encre
+                                     : Teinte::Encre);
+    peintre.drawText(place, Qt::AlignVCenter | Qt::AlignLeft, titre_);
+}
+
+// What a cover holds stands in the middle of its place.
+QRect Panneau::PlaceDuMilieu() const
+{
+    const auto* grille = dynamic_cast<const QGridLayout*>(layout());
+    const auto* milieu = grille == nullptr ? nullptr : grille->itemAtPosition(1, 1);
+    return milieu == nullptr ? rect() : milieu->geometry();
+}
+
+void Panneau::PeindreCouverture(QPainter& peintre) const
+{
+    peintre.fillRect(rect(), fond.isValid() ? fond : Teinte::Fond);
+    const int bord = font().pixelSize() * 2;
+    const auto carte = PlaceDuMilieu().adjusted(-bord, -bord - HauteurTitre(), bord, bord);
+    PeindrePapier(peintre, carte);
     if (titre_.isEmpty())
         return;
-    const QRect bande{8, 2, width() - 16, HauteurTitre() - 2};
-    peintre.setFont(AjusterPolice(PoliceTitre(), titre_, bande.size(), Qt::AlignVCenter));
+    const QRect place{carte.x() + bord, carte.y() + bord / 2, carte.width() - 2 * bord, HauteurTitre()};
+    peintre.setFont(AjusterPolice(PoliceTitre(), titre_, place.size(), Qt::AlignCenter));
     peintre.setPen(encre.isValid() ? encre : Teinte::Encre);
-    peintre.drawText(bande, Qt::AlignVCenter | (couvrant ? Qt::AlignHCenter : Qt::AlignLeft), titre_);
+    peintre.drawText(place, Qt::AlignCenter, titre_);
 }
 
 void Panneau::mousePressEvent(QMouseEvent* événement)

@@ -2,6 +2,7 @@
 #pragma once
 #include "core/Dessin.h"
 #include "desktop/Apparence.h"
+#include "desktop/Signes.h"
 
 #include <QAbstractButton>
 #include <QColor>
@@ -36,6 +37,10 @@ public:
     bool bordure = false;
     bool centrée = false;
     bool enLigne = false; // never broken into lines
+    Signe signe = Signe::Aucun;
+    bool verdict = false; // the sign stands before the text, and not at the right end
+    Dessin pictogramme;   // before the text
+    QString plaque;       // a short text at the right end
 
     void RendreCliquable(bool cliquable);
     [[nodiscard]] bool EstCliquable() const { return cliquable_; }
@@ -56,13 +61,19 @@ protected:
     void leaveEvent(QEvent* événement) override;
     void focusInEvent(QFocusEvent* événement) override;
     // What stands inside the borders; a drawing in the derived class.
-    virtual void PeindreContenu(QPainter& peintre, const QRect& place);
+    virtual void PeindreContenu(QPainter& peintre, QRect place);
 
 private:
     [[nodiscard]] QString Montré() const;
     [[nodiscard]] int Drapeaux() const;
     [[nodiscard]] int Marge() const;
     [[nodiscard]] QRect PlaceDuContenu() const;
+    [[nodiscard]] bool EstVide() const;
+    [[nodiscard]] int LargeurSigne() const;
+    [[nodiscard]] int LargeurPictogramme() const;
+    [[nodiscard]] int LargeurPlaque() const;
+    void PeindreFond(QPainter& peintre) const;
+    void PeindrePlaqueSous(QPainter& peintre, const QRect& texte, const QColor& couleur) const;
 
     bool cliquable_ = false;
     bool pressée_ = false;
@@ -82,7 +93,7 @@ public:
     [[nodiscard]] bool hasHeightForWidth() const override { return false; }
 
 protected:
-    void PeindreContenu(QPainter& peintre, const QRect& place) override;
+    void PeindreContenu(QPainter& peintre, QRect place) override;
 };
 
 class Bouton final : public QPushButton {
@@ -104,6 +115,29 @@ private:
     TexteAjusté ajusté_;
 };
 
+// Whether one of the widgets in it is shown.
+bool MontreQuelqueChose(const QWidget& fond);
+
+// What belongs together, on white.
+class Papier final : public QWidget {
+public:
+    using QWidget::QWidget;
+
+    QColor accent; // of its left edge, where it has one
+
+protected:
+    void paintEvent(QPaintEvent* événement) override;
+};
+
+// The foot of a page.
+class PiedDePage final : public QWidget {
+public:
+    using QWidget::QWidget;
+
+protected:
+    void paintEvent(QPaintEvent* événement) override;
+};
+
 // A titled group of elements.
 class Panneau final : public QWidget {
 public:
@@ -111,7 +145,8 @@ public:
 
     QColor fond;
     QColor encre;
-    bool couvrant = false; // over the whole screen: no corners, no look through
+    bool couvrant = false; // over the whole screen: a card on a ground of its own
+    bool enTête = false;   // an element stands beside the title
     bool cliquable = false;
     bool traînable = false;
     std::function<void()> clic;
@@ -132,6 +167,10 @@ protected:
     void changeEvent(QEvent* événement) override;
 
 private:
+    void PeindreCarte(QPainter& peintre) const;
+    void PeindreCouverture(QPainter& peintre) const;
+    [[nodiscard]] QRect PlaceDuMilieu() const;
+
     QString titre_;
     QPoint prise_; // where the button went down
     QPoint départ_;

@@ -2,6 +2,7 @@
 
 #include "desktop/Accessibilite.h"
 #include "desktop/Apparence.h"
+#include "desktop/Bandeau.h"
 #include "desktop/BarreMenus.h"
 #include "desktop/Contenu.h"
 #include "desktop/Conversions.h"
@@ -46,8 +47,9 @@ Fenêtre::Fenêtre(Ecran& écran, const QWidget* dessous)
     };
     auto* tout = new QVBoxLayout{this};
     tout->setContentsMargins(0, 0, 0, 0);
+    tout->setSpacing(0);
     tout->setSizeConstraint(QLayout::SetNoConstraint);
-    tout->addWidget(&contenu_);
+    tout->addWidget(&contenu_, 1);
 }
 
 void Fenêtre::MontrerFond()
@@ -64,7 +66,13 @@ void Fenêtre::Garnir()
         layout()->setMenuBar(menus_);
         menus_->show();
     }
-    bâtisseur_.BâtirPlan(écran_.Plan());
+    if (écran_.Plan().Genre == Disposition::Page) {
+        bandeau_ = new Bandeau{écran_.Présentation, this};
+        static_cast<QBoxLayout*>(layout())->insertWidget(0, bandeau_);
+        bâtisseur_.BâtirPage(écran_.Plan(), *bandeau_);
+    } else {
+        bâtisseur_.BâtirPlan(écran_.Plan());
+    }
     OrdonnerTabulation();
     Observer();
 }
@@ -229,6 +237,7 @@ void Fenêtre::Synchroniser()
         vue->Synchroniser();
         couvertures = couvertures || contenu_.EstCouverture(*vue);
     }
+    vues_.MontrerSuites();
     if (couvertures)
         contenu_.MontrerCouvertures();
     if (menus_ != nullptr)
@@ -341,7 +350,7 @@ void Fenêtre::Repeindre()
 void Fenêtre::TailleChangée()
 {
     if (!écran_.PetiteFenêtre)
-        ChangerEchelle(EchellePour(contenu_.size()));
+        ChangerEchelle(EchellePour(size()));
     tailleChangée_ = true;
     Réveiller();
 }
@@ -351,7 +360,7 @@ void Fenêtre::ChangerEchelle(double nouvelle)
     if (nouvelle == échelle_)
         return;
     échelle_ = nouvelle;
-    bâtisseur_.RéglerMinimums();
+    bâtisseur_.Mesurer();
     for (const auto& vue : vues_)
         Marquer(*vue);
 }
@@ -378,6 +387,10 @@ bool Fenêtre::Filtrer(QObject* visé, QEvent* événement)
 {
     if (fermée_ || !visé->isWidgetType())
         return false;
+    if (événement->type() == QEvent::MouseButtonPress) {
+        Synchroniser();
+        return false;
+    }
     if (événement->type() != QEvent::KeyPress && événement->type() != QEvent::InputMethod)
         return false;
     Synchroniser();

@@ -14,6 +14,7 @@
 
 namespace tirelune {
 
+class Bandeau;
 class BarreMenus;
 class Contenu;
 
@@ -78,6 +79,7 @@ private:
     const QWidget* dessous_;
     Contenu& contenu_; // under the menus
     BarreMenus* menus_ = nullptr;
+    Bandeau* bandeau_ = nullptr; // of an exercise
     JeuDeVues vues_;
     Annonces annonces_{*this};
     Bâtisseur bâtisseur_;

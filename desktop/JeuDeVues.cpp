@@ -11,6 +11,16 @@ Vue& JeuDeVues::Ajouter(std::unique_ptr<Vue> vue)
     return une;
 }
 
+void JeuDeVues::MontrerSuites() const
+{
+    for (const auto& [élément, widget] : suites_) {
+        if (widget->isHidden() != élément->Visible)
+            continue;
+        widget->setVisible(élément->Visible);
+        widget->parentWidget()->update(); // it may paint a ground for what it shows
+    }
+}
+
 Vue* JeuDeVues::VueDe(const Elément& élément) const
 {
     const auto place = parElément_.find(&élément);

@@ -4,6 +4,7 @@
 
 #include <memory>
 #include <unordered_map>
+#include <utility>
 #include <vector>
 
 namespace tirelune {
@@ -11,6 +12,9 @@ namespace tirelune {
 class JeuDeVues {
 public:
     Vue& Ajouter(std::unique_ptr<Vue> vue);
+    // The widget is shown while the element is, though it stands elsewhere.
+    void Suivre(const Elément& élément, QWidget& widget) { suites_.emplace_back(&élément, &widget); }
+    void MontrerSuites() const;
     [[nodiscard]] Vue* VueDe(const Elément& élément) const;
     // The view of the widget, or of the nearest around it.
     [[nodiscard]] Vue* VueDuWidget(const QWidget* widget) const;
@@ -20,6 +24,7 @@ public:
 
 private:
     std::vector<std::unique_ptr<Vue>> vues_;
+    std::vector<std::pair<const Elément*, QWidget*>> suites_;
     std::unordered_map<const Elément*, Vue*> parElément_;
     std::unordered_map<const QWidget*, Vue*> parWidget_;
 };

@@ -49,7 +49,13 @@ int EnPixels(double hauteur)
 
 double MiseEnPage::Largeur() const
 {
-    return document()->pageSize().width() - 2 * document()->documentMargin();
+    const double page = document()->pageSize().width() - 2 * document()->documentMargin();
+    return LargeurDeLecture > 0 ? std::min(page, LargeurDeLecture) : page;
+}
+
+double MiseEnPage::Gauche() const
+{
+    return std::max(document()->documentMargin(), std::floor((document()->pageSize().width() - Largeur()) / 2));
 }
 
 double MiseEnPage::HautDe(int rang) const
@@ -95,7 +101,7 @@ QRectF MiseEnPage::blockBoundingRect(const QTextBlock& bloc) const
     if (!bloc.isValid() || rang >= Nombre())
         return {};
     Mettre(bloc, rang);
-    const QPointF coin{document()->documentMargin(), HautDe(rang)};
+    const QPointF coin{Gauche(), HautDe(rang)};
     bloc.layout()->setPosition(coin); // where assistive tools look for its letters
     return {coin, QSizeF{Largeur(), static_cast<double>(paragraphes_[static_cast<std::size_t>(rang)].Hauteur)}};
 }
@@ -137,13 +143,14 @@ int MiseEnPage::PoserLignes(const QTextBlock& bloc, const Habillage& habillage) 
     for (auto ligne = lignes.createLine(); ligne.isValid(); ligne = lignes.createLine()) {
         ligne.setLeadingIncluded(true);
         ligne.setLineWidth(std::max(1.0, largeur - retrait));
-        ligne.setPosition({gauche + retrait, y});
-        y += ligne.height();
+        const double blanc = ligne.height() * (Interligne - 1);
+        ligne.setPosition({gauche + retrait, y + blanc / 2});
+        y += ligne.height() + blanc;
         retrait = 0;
     }
     lignes.endLayout();
     if (bloc.length() <= 1)
-        return EnPixels(QFontMetricsF{habillage.Vide.font()}.lineSpacing());
+        return EnPixels(QFontMetricsF{habillage.Vide.font()}.lineSpacing() * Interligne);
     hauteurLigne_ = y / lignes.lineCount();
     if (lignes.lineCount() > 1)
         lettresParLigne_ = lignes.lineAt(1).textStart();

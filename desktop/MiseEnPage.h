@@ -28,6 +28,8 @@ public:
     std::function<bool()> EnAccord;   // false: text and formats are being changed, what is laid out now won't last
     std::function<int()> Haut;        // the top of what is in sight
     std::function<void(int)> Défiler; // brings that height to the top of what is in sight
+    double Interligne = 1;            // height of a line, in heights of its letters
+    double LargeurDeLecture = 0;      // pixels that lines have at most, in the middle of a wider page; 0: any
 
     // Formats or measures of these paragraphs have changed.
     void Périmer(int premier, int dernier);
@@ -54,6 +56,7 @@ private:
     };
 
     [[nodiscard]] double Largeur() const;
+    [[nodiscard]] double Gauche() const;
     [[nodiscard]] int Nombre() const { return static_cast<int>(paragraphes_.size()); }
     [[nodiscard]] double HautDe(int rang) const;
     [[nodiscard]] int RangSous(double y) const;

@@ -444,8 +444,6 @@ void PlateformeQt::FocusChangé()
 bool PlateformeQt::eventFilter(QObject* visé, QEvent* événement)
 {
     switch (événement->type()) {
-    case QEvent::Show:
-    case QEvent::WindowActivate:
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonRelease:
     case QEvent::MouseButtonDblClick:
@@ -464,24 +462,14 @@ bool PlateformeQt::eventFilter(QObject* visé, QEvent* événement)
     default:
         return false;
     }
-    const bool entrée = événement->type() != QEvent::Show && événement->type() != QEvent::WindowActivate;
-    if (entrée && entréeJetée_)
+    if (entréeJetée_)
         return true;
-    return visé->isWidgetType() && Filtrer(static_cast<QWidget&>(*visé), *événement);
-}
-
-bool PlateformeQt::Filtrer(QWidget& visé, QEvent& événement)
-{
-    auto* devant = Devant();
-    if (devant == nullptr || visé.window() != devant)
-        devant = nullptr;
-    else if (événement.type() == QEvent::MouseButtonPress || événement.type() == QEvent::MouseButtonDblClick)
-        devant->Synchroniser(); // what is clicked is what the screen shows
-    if (gestes_.Ecarter(visé, événement))
-        return true;
-    if (événement.type() == QEvent::ContextMenu)
+    if (événement->type() == QEvent::ContextMenu)
         ChargerTraductions();
-    return devant != nullptr && devant->Filtrer(&visé, &événement);
+    if (auto* devant = Devant();
+        devant != nullptr && visé->isWidgetType() && static_cast<QWidget*>(visé)->window() == devant)
+        return devant->Filtrer(visé, événement);
+    return false;
 }
 
 } // namespace tirelune

@@ -375,17 +375,30 @@ Habillage VueTexteRiche::Habiller(const QTextBlock& bloc)
     return habillage;
 }
 
+// What is to be read has larger letters and lines farther apart than what is written.
+void VueTexteRiche::SuivreEchelle()
+{
+    static constexpr double LettresParLigne = 75;
+    const double voulue = hôte_.Echelle() * (boîte_.Locked ? 1.15 : 1);
+    if (voulue == échelleMontrée_)
+        return;
+    échelleMontrée_ = voulue;
+    formats_.clear();
+    if (!boîte_.UneLigne) {
+        mise_.Interligne = boîte_.Locked ? 1.4 : 1.2;
+        const QFontMetricsF mesure{PolicePour({}, 0, false, voulue)};
+        mise_.LargeurDeLecture = mesure.averageCharWidth() * LettresParLigne;
+    }
+    mise_.Périmer(0, zone_.document()->blockCount() - 1);
+}
+
 void VueTexteRiche::Synchroniser()
 {
     static_cast<Page&>(zone_).Verrouiller(boîte_.Locked);
     ColorerFond(Teinte::Panneau);
     Vue::Synchroniser();
     enSynchro_ = true;
-    if (const double voulue = hôte_.Echelle(); voulue != échelleMontrée_) {
-        échelleMontrée_ = voulue;
-        formats_.clear();
-        mise_.Périmer(0, zone_.document()->blockCount() - 1);
-    }
+    SuivreEchelle();
     enRetouche_ = true;
     for (const auto& retouche : retouches_.Prendre())
         Mettre(retouche);

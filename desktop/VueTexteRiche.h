@@ -40,6 +40,7 @@ private:
     void MettreSélection();
     void DégagerSélection();
     void MontrerCurseur();
+    void SuivreEchelle();
     void HausserCurseur();
 
     void Reprendre(int position, int retirés, int ajoutés);

@@ -3,14 +3,12 @@
 #include "desktop/Conversions.h"
 #include "desktop/Vues.h"
 
-#include <QContextMenuEvent>
 #include <QLineEdit>
 #include <QMouseEvent>
 #include <QPlainTextEdit>
 #include <QSignalBlocker>
 
 #include <algorithm>
-#include <utility>
 
 namespace tirelune {
 
@@ -39,50 +37,25 @@ private:
         }
 
     protected:
-        void mousePressEvent(QMouseEvent* événement) override
-        {
-            pressée_ = événement->button() == Qt::LeftButton;
-            visée_ = cursorPositionAt(événement->position().toPoint());
-            if (!vue_.boîte_.Locked)
-                QLineEdit::mousePressEvent(événement);
-        }
-        void mouseMoveEvent(QMouseEvent* événement) override
-        {
-            if (!vue_.boîte_.Locked)
-                QLineEdit::mouseMoveEvent(événement);
-        }
         void mouseReleaseEvent(QMouseEvent* événement) override
         {
-            const bool clic = événement->button() == Qt::LeftButton && std::exchange(pressée_, false);
-            const bool verrouillée = vue_.boîte_.Locked;
-            const bool collage = événement->button() == Qt::MiddleButton;
-            if (!verrouillée && !(collage && vue_.boîte_.KeyPress)) // pasting is for its handler to allow, as keys are
-                QLineEdit::mouseReleaseEvent(événement);
-            const bool dedans = rect().contains(événement->position().toPoint());
-            if (!clic || !vue_.Agissante() || (verrouillée ? !dedans : hasSelectedText()))
-                return;
-            // A locked text is clicked like a label: where the button went down, wherever the pointer slips to.
-            vue_.boîte_.Cliquer(static_cast<std::size_t>(verrouillée ? visée_ : cursorPosition()));
+            QLineEdit::mouseReleaseEvent(événement);
+            if (événement->button() == Qt::LeftButton && !hasSelectedText() && vue_.Agissante() && !double_)
+                vue_.boîte_.Cliquer(static_cast<std::size_t>(cursorPosition()));
+            double_ = false;
         }
         void mouseDoubleClickEvent(QMouseEvent* événement) override
         {
-            pressée_ = false; // the release to come ends this, and clicks no more
+            double_ = true;
             const auto position = cursorPositionAt(événement->position().toPoint());
-            if (!vue_.boîte_.Locked)
-                QLineEdit::mouseDoubleClickEvent(événement);
+            QLineEdit::mouseDoubleClickEvent(événement);
             if (vue_.Agissante())
                 vue_.boîte_.DoubleCliquer(static_cast<std::size_t>(position));
-        }
-        void contextMenuEvent(QContextMenuEvent* événement) override
-        {
-            if (!vue_.boîte_.KeyPress)
-                QLineEdit::contextMenuEvent(événement);
         }
 
     private:
         VueChamp& vue_;
-        int visée_ = 0; // where the button went down
-        bool pressée_ = false;
+        bool double_ = false;
     };
 
     void Modifier(const QString& texte);
@@ -140,6 +113,8 @@ void VueChamp::Synchroniser()
     ColorerFond(Teinte::Panneau);
     const QSignalBlocker silence{ligne_};
     ligne_.setReadOnly(boîte_.Locked);
+    ligne_.setSizePolicy(QSizePolicy::Expanding, boîte_.Locked ? QSizePolicy::Preferred : QSizePolicy::Fixed);
+    ligne_.setMaximumHeight(boîte_.Locked ? ligne_.font().pixelSize() * 4 : QWIDGETSIZE_MAX);
     ligne_.setMaxLength(boîte_.MaxLength > 0 ? static_cast<int>(boîte_.MaxLength()) : 32767);
     if (const auto texte = EnQString(boîte_.Text()); texte != ligne_.text())
         ligne_.setText(texte);
@@ -172,9 +147,13 @@ public:
         ColorerFond(Teinte::Panneau);
         const QSignalBlocker silence{zone_};
         zone_.setReadOnly(boîte_.Locked);
-        zone_.setTextInteractionFlags(boîte_.Locked ? Qt::NoTextInteraction : Qt::TextEditorInteraction);
-        if (const auto texte = Affiché(); texte != zone_.toPlainText())
+        static_cast<Zone&>(zone_).SeMesurer();
+        zone_.setTextInteractionFlags(boîte_.Locked ? Qt::TextInteractionFlags{Qt::TextSelectableByMouse}
+                                                    : Qt::TextEditorInteraction);
+        if (const auto texte = Affiché(); texte != zone_.toPlainText()) {
             zone_.setPlainText(texte);
+            zone_.updateGeometry();
+        }
         auto curseur = zone_.textCursor();
         const int début = EnWidget(boîte_.SelStart);
         const int fin = EnWidget(boîte_.SelStart + boîte_.SelLength);
@@ -196,14 +175,27 @@ private:
             static constexpr int LignesMaximales = 9;
             const int bord = 2 * (frameWidth() + static_cast<int>(document()->documentMargin())) + 2;
             const int largeur = font().pixelSize() * 18;
-            // A text to be read shows whole; one to be written starts with a few lines.
-            const int lue = isReadOnly() ? fontMetrics()
-                                               .boundingRect(QRect{0, 0, largeur - bord, 1}, Qt::TextWordWrap,
-                                                             EnAffichage(vue_.boîte_.Text()))
-                                               .height()
-                                         : 0;
             const int ligne = fontMetrics().lineSpacing();
-            return {largeur, std::clamp(lue, ligne * LignesUsuelles, ligne * LignesMaximales) + bord};
+            return {largeur, isReadOnly() ? std::min(heightForWidth(largeur), ligne * LignesMaximales + bord)
+                                          : ligne * LignesUsuelles + bord};
+        }
+        // A text to be read shows whole; one to be written takes what room there is.
+        void SeMesurer()
+        {
+            auto politique = sizePolicy();
+            politique.setVerticalPolicy(isReadOnly() ? QSizePolicy::Preferred : QSizePolicy::Expanding);
+            politique.setHeightForWidth(isReadOnly());
+            setSizePolicy(politique);
+        }
+        [[nodiscard]] int heightForWidth(int largeur) const override
+        {
+            if (!isReadOnly())
+                return -1;
+            const int bord = 2 * (frameWidth() + static_cast<int>(document()->documentMargin())) + 2;
+            return bord +
+                   fontMetrics()
+                       .boundingRect(QRect{0, 0, largeur - bord, 1}, Qt::TextWordWrap, EnAffichage(vue_.boîte_.Text()))
+                       .height();
         }
         [[nodiscard]] QSize minimumSizeHint() const override
         {
@@ -211,39 +203,22 @@ private:
         }
 
     protected:
-        void mousePressEvent(QMouseEvent* événement) override
-        {
-            pressée_ = événement->button() == Qt::LeftButton;
-            visée_ = cursorForPosition(événement->position().toPoint()).position();
-            if (!vue_.boîte_.Locked)
-                QPlainTextEdit::mousePressEvent(événement);
-        }
         void mouseReleaseEvent(QMouseEvent* événement) override
         {
-            const bool clic = événement->button() == Qt::LeftButton && std::exchange(pressée_, false);
-            const bool verrouillée = vue_.boîte_.Locked;
-            if (!verrouillée)
-                QPlainTextEdit::mouseReleaseEvent(événement);
-            const bool dedans = viewport()->rect().contains(événement->position().toPoint());
-            if (!clic || !vue_.Agissante() || (verrouillée ? !dedans : textCursor().hasSelection()))
-                return;
-            // A locked text is clicked like a label: where the button went down, wherever the pointer slips to.
-            vue_.boîte_.Cliquer(vue_.DepuisWidget(verrouillée ? visée_ : textCursor().position()));
+            QPlainTextEdit::mouseReleaseEvent(événement);
+            if (événement->button() == Qt::LeftButton && !textCursor().hasSelection() && vue_.Agissante())
+                vue_.boîte_.Cliquer(vue_.DepuisWidget(textCursor().position()));
         }
         void mouseDoubleClickEvent(QMouseEvent* événement) override
         {
-            pressée_ = false; // the release to come ends this, and clicks no more
             const int position = cursorForPosition(événement->position().toPoint()).position();
-            if (!vue_.boîte_.Locked)
-                QPlainTextEdit::mouseDoubleClickEvent(événement);
+            QPlainTextEdit::mouseDoubleClickEvent(événement);
             if (vue_.Agissante())
                 vue_.boîte_.DoubleCliquer(vue_.DepuisWidget(position));
         }
 
     private:
         VueTexteSimple& vue_;
-        int visée_ = 0; // where the button went down
-        bool pressée_ = false;
     };
 
     [[nodiscard]] QString Affiché() const

@@ -60,6 +60,8 @@ public:
             étiquette_.bordure = label_.Bordure;
             étiquette_.update();
         }
+        étiquette_.verdict = label_.SensDesCouleurs == Sens::Verdict;
+        MontrerAjouts();
         MettrePointeur();
         Vue::Synchroniser();
     }
@@ -76,8 +78,20 @@ private:
     void Habiller()
     {
         étiquette_.enLigne = label_.AutoSize;
+        étiquette_.signe = SigneDe(label_);
         if (const auto légende = EnAffichage(label_.Caption()); légende != étiquette_.text())
             étiquette_.setText(légende);
+    }
+
+    void MontrerAjouts()
+    {
+        const auto plaque = EnQString(label_.Plaque());
+        if (plaque == étiquette_.plaque && label_.Picture == étiquette_.pictogramme)
+            return;
+        étiquette_.plaque = plaque;
+        étiquette_.pictogramme = label_.Picture;
+        étiquette_.updateGeometry();
+        étiquette_.update();
     }
 
     Label& label_;

@@ -4,14 +4,19 @@ namespace tirelune {
 
 namespace {
 
-constexpr int LargeurCompte = 600; // twips, room for two digits
+constexpr int LargeurCompte = 420; // twips, room for two digits
 
 } // namespace
 
 std::vector<EtatInitial> EtatsDesPoints(double taille)
 {
-    const EtatInitial compte{
-        .Caption = u"0", .BackColor = Jaune, .ForeColor = Rouge, .FontSize = taille, .Gras = true, .Centré = true};
+    const EtatInitial compte{.Caption = u"0",
+                             .BackColor = Jaune,
+                             .ForeColor = Rouge,
+                             .FontSize = taille,
+                             .Gras = true,
+                             .Centré = true,
+                             .SensDesCouleurs = Sens::Rien};
     auto séparateur = compte;
     séparateur.Caption = u" / ";
     séparateur.ForeColor = Bleu;

@@ -163,9 +163,15 @@ void EssayerMot(const JeuDeLacunes& jeu)
         Montrer(jeu.Fin);
 }
 
-Arrangement BarreDeLacunes(const JeuDeLacunes& jeu, Button& ok, Image& image)
+Arrangement PageDeLacunes(const JeuDeLacunes& jeu, Label& consigne, Button& ok, Image& image, Arrangement dessus)
 {
-    return Ligne{AuMoins(720, 480, image), AuMoins(3600, 0, jeu.Liste), ok, Ressort{}, BandeDePoints(jeu.Points)};
+    return Page{{
+        .Consigne = consigne,
+        .Points = BandeDePoints(jeu.Points),
+        .Travail = Libre{jeu.Boîte},
+        .Pied = Ligne{AuMoins(720, 480, image), Extensible(AuMoins(3600, 0, jeu.Liste)), Ressort{}, ok},
+        .Dessus = std::move(dessus),
+    }};
 }
 
 Dessin DessinCrayon()

@@ -1,7 +1,7 @@
 // Gaps: words of the pupil's text that give way to underscores, and the play of putting them back from a list.
 // A gap is as long as what it hides, so that a position is the same in the text with gaps and in the key.
 #pragma once
-#include "exercises/TexteEtBarre.h"
+#include "exercises/FinDeTexte.h"
 #include "followup/frmExercices.h"
 
 #include <vector>
@@ -46,8 +46,10 @@ void EffacerSélectionRefusée(RichTextBox& boîte);
 // Tries the word of the list in the selected gap, counts the try, and shows the end frame once no gap is left.
 void EssayerMot(const JeuDeLacunes& jeu);
 
-// The bar below the text: picture, list, button, points.
-Arrangement BarreDeLacunes(const JeuDeLacunes& jeu, Button& ok, Image& image);
+inline constexpr VueTexte ConsigneDeLacunes =
+    u"Clique sur un trou du texte, choisis le mot qui manque dans la liste, puis clique sur Ok.";
+// Text, list and button on their page; `dessus` comes to stand over the text.
+Arrangement PageDeLacunes(const JeuDeLacunes& jeu, Label& consigne, Button& ok, Image& image, Arrangement dessus);
 // Its picture: a pencil on a dotted line.
 Dessin DessinCrayon();
 

@@ -1,7 +1,9 @@
 // The 27 exercises: the order in which labels, grid columns and curves count them.
 #pragma once
+#include "core/Couleur.h"
 #include "core/Texte.h"
 
+#include <algorithm>
 #include <array>
 #include <string_view>
 
@@ -49,14 +51,22 @@ struct Groupe {
     VueTexte Titre;
     int Premier; // index of its first exercise
     int Nombre;
+    Couleur Bande;
+    Couleur Profonde; // for letters and outlines on the band
 };
 
 inline constexpr std::array<Groupe, 5> Groupes{{
-    {u"Comprendre le texte", 0, 4},
-    {u"Vocabulaire", 4, 7},
-    {u"Mémoire / Rapidité / Discrimination", 11, 6},
-    {u"Ordre (cohérence)", 17, 4},
-    {u"Orthographe", 21, 6},
+    {u"Comprendre le texte", 0, 4, Couleur::Rvb(246, 160, 77), Couleur::Rvb(122, 60, 0)},
+    {u"Vocabulaire", 4, 7, Couleur::Rvb(95, 184, 101), Couleur::Rvb(31, 90, 36)},
+    {u"Mémoire / Rapidité / Discrimination", 11, 6, Couleur::Rvb(79, 155, 224), Couleur::Rvb(15, 74, 134)},
+    {u"Ordre (cohérence)", 17, 4, Couleur::Rvb(217, 104, 159), Couleur::Rvb(125, 29, 78)},
+    {u"Orthographe", 21, 6, Couleur::Rvb(232, 185, 35), Couleur::Rvb(107, 82, 0)},
 }};
+
+inline const Groupe& GroupeDe(int exercice)
+{
+    return *std::find_if(Groupes.rbegin(), Groupes.rend(),
+                         [exercice](const Groupe& un) { return exercice >= un.Premier; });
+}
 
 } // namespace tirelune

@@ -14,9 +14,11 @@ public:
                           "Label1",
                           {u"Moyenne", u"Texte en cours ou sélectionné"},
                           {.ForeColor = Noir, .Gras = true, .Centré = true}};
-    Tableau<Label> lblMoyenne{*this, "lblMoyenne", 6, {.ForeColor = Noir, .Centré = true, .Bordure = true}};
+    Tableau<Label> lblMoyenne{
+        *this, "lblMoyenne", 6, {.ForeColor = Noir, .Centré = true, .Bordure = true, .SensDesCouleurs = Sens::Rien}};
     Tableau<Label> Label2;
-    Tableau<Label> lblExo{*this, "lblExo", 6, {.ForeColor = Noir, .Centré = true, .Bordure = true}};
+    Tableau<Label> lblExo{
+        *this, "lblExo", 6, {.ForeColor = Noir, .Centré = true, .Bordure = true, .SensDesCouleurs = Sens::Rien}};
     Label Label3{*this, "Label3", u"La moyenne s'effectue sur l'ensemble des textes étudiés, exercice par exercice."};
     Button cmdQuitter{*this, "cmdQuitter", u"&Quitter"};
 

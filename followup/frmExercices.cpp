@@ -1,6 +1,7 @@
 #include "followup/frmExercices.h"
 
 #include "core/Enregistrements.h"
+#include "core/Enseigne.h"
 #include "core/FichierChamps.h"
 #include "core/Fonctions.h"
 #include "followup/DossierElèves.h"
@@ -8,6 +9,7 @@
 #include "followup/FichierBilan.h"
 #include "followup/GrilleRésultats.h"
 #include "followup/Notes.h"
+#include "followup/Pictogrammes.h"
 
 #include <algorithm>
 
@@ -34,13 +36,10 @@ Dessin Courbes()
 
 EtatInitial EtatDuGroupe(int groupe)
 {
-    static constexpr std::array<Couleur, Groupes.size()> Fonds{Couleur::Rvb(255, 232, 204), Couleur::Rvb(221, 240, 206),
-                                                               Couleur::Rvb(215, 232, 250), Couleur::Rvb(247, 221, 235),
-                                                               Couleur::Rvb(255, 245, 190)};
-    const auto i = static_cast<std::size_t>(groupe);
-    return {.Caption = Texte{Groupes[i].Titre},
+    const auto& celui = Groupes.at(static_cast<std::size_t>(groupe));
+    return {.Caption = Texte{celui.Titre},
             .ToolTipText = u" Cliquer sur le cadre de couleur pour voir la progression. ",
-            .BackColor = Fonds[i],
+            .BackColor = celui.Bande,
             .Gras = true};
 }
 
@@ -53,23 +52,33 @@ frmExercices::frmExercices(Application& application)
       frmVitesse(*this, "frmVitesse", EtatDuGroupe(2)),
       frmOrdre(*this, "frmOrdre", EtatDuGroupe(3)),
       frmOrthographe(*this, "frmOrthographe", EtatDuGroupe(4)),
-      lblExo(*this, "lblExo", NombreExercices, {.ToolTipText = Texte{AFaire}, .BackColor = Blanc, .ForeColor = Noir}),
+      lblExo(*this, "lblExo", NombreExercices,
+             {.ToolTipText = Texte{AFaire}, .BackColor = Blanc, .ForeColor = Noir, .SensDesCouleurs = Sens::Rien}),
       lblMoyenne(*this, "lblMoyenne", NombreExercices,
                  {.ToolTipText = u" Moyenne sur 10 pour tous les textes étudiés. ",
                   .BackColor = Blanc,
                   .ForeColor = Noir,
+                  .Gras = true,
                   .Centré = true,
-                  .Bordure = true}),
+                  .Bordure = true,
+                  .SensDesCouleurs = Sens::Rien}),
       imgCourbes(*this, "imgCourbes", static_cast<int>(Groupes.size()),
                  {.ToolTipText = u" Cliquer ici pour voir les courbes de progression. ", .Libellé = u"Courbes"}),
-      lblConsigne(*this, "lblConsigne",
+      lblConsigne(
+          *this, "lblConsigne",
+          EtatInitial{
+              .Caption =
                   u"            AVERTISSEMENT                    Afficher les résultats ne charge pas le texte en "
                   u"mémoire.                       Pour cela, vous devez cliquer sur le bouton \"Charger un fichier "
-                  u"texte\"."),
+                  u"texte\".",
+              .FontSize = 10.5}),
       fgRésultats(*this, "fgRésultats", 1, NombreColonnes)
 {
-    for (int i = 0; i < NombreExercices; ++i)
+    for (int i = 0; i < NombreExercices; ++i) {
         lblExo(i).Caption = Texte{Exercices[static_cast<std::size_t>(i)].Libellé};
+        lblExo(i).Picture = Pictogramme(i, GroupeDe(i).Profonde);
+    }
+    imgEnseigne.Picture = IcôneDuProgramme();
     cmdOk.Click = [this] { cmdOk_Click(); };
     cmbNoms.Enter = [this] { cmdOk_Click(); };
     cmdCharger.Click = [this] { cmdCharger_Click(); };
@@ -93,12 +102,12 @@ Frame& frmExercices::CadreDe(int groupe)
 
 Arrangement frmExercices::DisposerGroupe(int groupe)
 {
-    const auto& [titre, premier, nombre] = Groupes.at(static_cast<std::size_t>(groupe));
+    const auto& celui = Groupes.at(static_cast<std::size_t>(groupe));
     std::vector<Arrangement> rangées;
-    for (int i = premier; i < premier + nombre; ++i)
-        rangées.emplace_back(Ligne{Extensible(lblExo(i)), AuMoins(600, 0, lblMoyenne(i))});
-    rangées.emplace_back(Ligne{Ressort{}, AuMoins(600, 420, imgCourbes(groupe))});
-    return Cadre{CadreDe(groupe), Arrangement(Disposition::Colonne, std::move(rangées))};
+    for (int i = celui.Premier; i < celui.Premier + celui.Nombre; ++i)
+        rangées.emplace_back(Extensible(Ligne{Extensible(lblExo(i)), AuMoins(700, 0, lblMoyenne(i))}));
+    return Extensible(Cadre{CadreDe(groupe), Arrangement(Disposition::Colonne, std::move(rangées)), imgCourbes(groupe)},
+                      celui.Nombre + 1);
 }
 
 Arrangement frmExercices::Disposer()
@@ -107,14 +116,17 @@ Arrangement frmExercices::Disposer()
         Colonne{
             Ligne{cmdCharger, Extensible(lblTexte), cmdCode, cmdQuitter},
             Extensible(Ligne{
-                Extensible(Colonne{DisposerGroupe(0), DisposerGroupe(1), Ressort{}}),
-                Extensible(Colonne{DisposerGroupe(2), DisposerGroupe(3), Ressort{}}),
-                Extensible(Colonne{DisposerGroupe(4), Label2,
-                                   Ligne{Extensible(lblVitesse), Extensible(lblVitesseMoyenne)}, Label1, cmbTextes,
-                                   lblConsigne, Ressort{}}),
+                Extensible(Colonne{DisposerGroupe(0), DisposerGroupe(1)}),
+                Extensible(Colonne{DisposerGroupe(2), DisposerGroupe(3)}),
+                Extensible(Colonne{
+                    DisposerGroupe(4),
+                    Carte{Colonne{Label2, Ligne{Extensible(lblVitesse), Extensible(lblVitesseMoyenne)}}},
+                    Carte{Colonne{Label1, cmbTextes, lblConsigne}},
+                }),
             }),
         },
-        Couverture{frameElève, Colonne{lblPrénom, AuMoins(5000, 0, cmbNoms), Centré{cmdOk}}},
+        Couverture{frameElève,
+                   Colonne{AuMoins(0, 1200, imgEnseigne), lblPrénom, AuMoins(5000, 0, cmbNoms), Centré{cmdOk}}},
     };
 }
 
@@ -130,9 +142,8 @@ void frmExercices::QueryUnload()
     // The grid goes with the screen: after a save that failed, this is the last one, and the file may be gone.
     if (BilanEnregistré || SauverBilan(*this) ||
         application_.Demander(u"Les résultats de " + état.NomElève +
-                                  u" ne sont pas enregistrés. Si tu quittes maintenant, ils peuvent être tous perdus, "
-                                  u"même ceux des autres jours.\n\nVeux-tu quitter quand même ?",
-                              {.Danger = Perte::ParOui}))
+                              u" ne sont pas enregistrés. Si tu quittes maintenant, ils peuvent être tous perdus, "
+                              u"même ceux des autres jours.\n\nVeux-tu quitter quand même ?"))
         Décharger();
 }
 
@@ -282,6 +293,7 @@ void frmExercices::PeindreTexte(int rangée)
         const auto note = LireNote(texte);
         lblExo(i).BackColor = note ? CouleurDeNote(*note) : Blanc;
         lblExo(i).ToolTipText = note ? NoteCourte(texte) : Texte{AFaire};
+        lblExo(i).Plaque = note ? NoteCourte(texte) : Texte{};
     }
 }
 
@@ -290,6 +302,7 @@ void frmExercices::EffacerCouleurs()
     for (auto& exercice : lblExo) {
         exercice.BackColor = Blanc;
         exercice.ToolTipText = Texte{AFaire};
+        exercice.Plaque = Texte{};
     }
 }
 
@@ -409,6 +422,20 @@ void frmExercices::OuvrirExercice(int i)
     const auto& [libellé, écran] = Exercices.at(static_cast<std::size_t>(i));
     if (!Ouvrir(écran))
         Avertir(u"L'exercice « " + Texte{libellé} + u" » n'est pas encore là.");
+}
+
+void frmExercices::Présenter(Ecran& écran) const
+{
+    const int i = Compte(lblIndex);
+    const auto& [libellé, nomEcran] = Exercices.at(static_cast<std::size_t>(i));
+    if (nomEcran != écran.Nom)
+        return; // no exercise
+    const auto& groupe = GroupeDe(i);
+    écran.Présentation = {.Titre = Texte{libellé},
+                          .NomElève = état.NomElève,
+                          .Pictogramme = Pictogramme(i, groupe.Profonde),
+                          .Bande = groupe.Bande,
+                          .Profonde = groupe.Profonde};
 }
 
 bool frmExercices::TrouverQuestionnaire()

@@ -21,17 +21,18 @@ public:
     Tableau<Label> lblMoyenne;
     Tableau<Image> imgCourbes;
 
-    Label Label1{*this, "Label1", u" Afficher les résultats (textes déjà étudiés) :"};
+    Label Label1{*this, "Label1", {.Caption = u" Afficher les résultats (textes déjà étudiés) :", .FontSize = 10.5}};
     ComboBox cmbTextes{
         *this, "cmbTextes", {.ToolTipText = u" Affiche les résultats dans l'ordre des textes étudiés. "}};
     Label lblConsigne;
-    Label Label2{*this, "Label2", u" Vitesse de lecture (signes par minute) "};
+    Label Label2{*this, "Label2", {.Caption = u" Vitesse de lecture (signes par minute) ", .FontSize = 10.5}};
     Label lblVitesse{*this, "lblVitesse", {.ToolTipText = u" Texte en cours ", .Centré = true, .Bordure = true}};
     Label lblVitesseMoyenne{*this, "lblVitesseMoyenne", {.ToolTipText = u" Moyenne ", .Centré = true, .Bordure = true}};
     Button cmdCode{*this, "cmdCode", u"&Code des Couleurs"};
     Button cmdQuitter{*this, "cmdQuitter", u"&Quitter"};
 
     Frame frameElève{*this, "frameElève", u"Elève"};
+    Image imgEnseigne{*this, "imgEnseigne"};
     Label lblPrénom{*this, "lblPrénom", {.Caption = u"Choisis ton nom :", .FontSize = 18}};
     ComboBox cmbNoms{*this, "cmbNoms", {.FontSize = 18}};
     Button cmdOk{*this, "cmdOk", {.Caption = u"&Ok", .FontSize = 18}};
@@ -53,6 +54,8 @@ public:
 
     // Shows in lblExo how the text of a grid row has been worked on.
     void PeindreTexte(int rangée);
+    // Gives an exercise that is about to be opened its title, its pictogram and its group's colours.
+    void Présenter(Ecran& écran) const;
     // Whether the text has questions; when it has none, the pupil is told.
     [[nodiscard]] bool TrouverQuestionnaire();
 

@@ -223,9 +223,7 @@ void frmGestionEleves::cmdSupprimer_Click()
         DemanderCode();
         return;
     }
-    if (cmbNoms.ListCount() > 0 &&
-        application_.Demander(u"Destruction irréversible. Souhaitez-vous continuer ?",
-                              {.Danger = Perte::ParOui, .Objet = u"Elève : " + cmbNoms.Text()}))
+    if (cmbNoms.ListCount() > 0 && application_.Demander(u"Destruction irréversible. Souhaitez-vous continuer ?"))
         SupprimerElève();
 }
 

@@ -74,7 +74,7 @@ frmClosures::frmClosures(frmExercices& choix) : Ecran(choix.ApplicationDe(), "fr
 
 Arrangement frmClosures::Disposer()
 {
-    return TexteEtBarre(rtfClosures, BarreDeLacunes(jeu_, cmdOk, Image1), fin);
+    return PageDeLacunes(jeu_, lblConsigne, cmdOk, Image1, EnPlace(fin));
 }
 
 void frmClosures::Load()

@@ -9,6 +9,7 @@ class frmClosures final : public Ecran {
 public:
     explicit frmClosures(frmExercices& choix);
 
+    Label lblConsigne{*this, "lblConsigne", {.Caption = Texte{ConsigneDeLacunes}}};
     RichTextBox rtfClosures{*this, "rtfClosures"};
     ComboBox cmbClosures{
         *this,

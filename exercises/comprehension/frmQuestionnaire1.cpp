@@ -42,22 +42,24 @@ Arrangement frmQuestionnaire1::Disposer()
     std::vector<Arrangement> choix;
     choix.reserve(ChoixParQuestion);
     for (int i = 0; i < ChoixParQuestion; ++i)
-        choix.emplace_back(Ligne{chkRéponse(i), Extensible(txtChoix(i))});
-    return Pile{
-        Colonne{Ressort{}, Pile{Ligne{lblConseil, Ressort{}, cmdInitialise}, cmdOk}},
-        Colonne{Ressort{},
-                Centré{Cadre{frameConsigne, AuMoins(9000, 0, Colonne{AuMoins(0, 1800, Text1), Centré{cmdCommencer}})}},
-                Ressort{}},
-        Libre{rtfTexte, Cadre{frameQuestions,
-                              Colonne{
-                                  Ligne{Label1, lblNuméro, Ressort{}, BandeDePoints(lblPoints)},
-                                  AuMoins(0, 900, txtQuestion),
-                                  Arrangement(Disposition::Colonne, std::move(choix)),
-                                  Ressort{},
-                                  lblOuiNon,
-                                  Ligne{cmdQuitter, Ressort{}, cmdVérifier},
-                              }}},
-    };
+        choix.emplace_back(Extensible(Ligne{chkRéponse(i), Extensible(txtChoix(i))}));
+    const auto duCadre = [this](Arrangement un) { return Suite{frameQuestions, std::move(un)}; };
+    return Page{{
+        .Points = duCadre(BandeDePoints(lblPoints)),
+        .Travail =
+            Pile{Colonne{Ressort{}, Centré{Cadre{frameConsigne, AuMoins(9000, 0, AuMoins(0, 1500, Text1))}}, Ressort{}},
+                 Libre{rtfTexte, Cadre{frameQuestions,
+                                       Colonne{
+                                           Ligne{Label1, lblNuméro, Ressort{}},
+                                           txtQuestion,
+                                           Extensible(Arrangement(Disposition::Colonne, std::move(choix))),
+                                           lblOuiNon,
+
+                                       }}}},
+        .Pied = Pile{Ligne{duCadre(cmdQuitter), Extensible(lblConseil), cmdInitialise,
+                           Pile{duCadre(cmdVérifier), Suite{frameConsigne, cmdCommencer}}},
+                     cmdOk},
+    }};
 }
 
 void frmQuestionnaire1::Load()
@@ -88,8 +90,8 @@ void frmQuestionnaire1::CommencerTexteEnVue()
     frameConsigne.Visible = false;
     cmdOk.Visible = false;
     rtfTexte.Visible = true;
+    frameQuestions.BackColor = GrisClair; // by which the pupil is told to take it
     frameQuestions.Width = LargeurQuestions;
-    frameQuestions.Height = HauteurQuestions;
     PlacerQuestions();
     ChargerQuestions();
     lblConseil.Visible = true;
@@ -107,7 +109,9 @@ void frmQuestionnaire1::Resize()
 {
     AjusterBoîte(rtfTexte);
     cmdOk.Width = rtfTexte.Width;
-    if (!TexteEnVue() && frameQuestions.Visible)
+    if (TexteEnVue())
+        frameQuestions.Height = std::min(HauteurQuestions, rtfTexte.Height - PlaceDesQuestions);
+    else if (frameQuestions.Visible)
         MontrerQuestionsSansTexte();
     if (cmdCommencer.Visible)
         cmdCommencer.Refresh();

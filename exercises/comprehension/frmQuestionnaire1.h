@@ -29,8 +29,7 @@ public:
                      {.Caption = u"Clique sur le cadre gris du questionnaire pour le déplacer.", .Visible = false}};
     Button cmdInitialise{*this, "cmdInitialise", {.Caption = u"Questions disparues ! Clique ici.", .Visible = false}};
 
-    Frame frameQuestions{
-        *this, "frameQuestions", {.Caption = u"   Questionnaire", .Visible = false, .BackColor = GrisClair}};
+    Frame frameQuestions{*this, "frameQuestions", {.Caption = u"   Questionnaire", .Visible = false}};
     Label Label1{*this, "Label1", {.Caption = u"Question N° ", .Gras = true}};
     Label lblNuméro{*this, "lblNuméro", {.Caption = u"1", .Gras = true}};
     Tableau<Label> lblPoints{*this, "lblPoints", EtatsDesPoints()};
@@ -41,7 +40,9 @@ public:
         "txtChoix",
         {u"C'est vrai.", u"C'est faux.", u"Le texte ne le dit pas.", u"", u""},
     };
-    Label lblOuiNon{*this, "lblOuiNon", {.Visible = false, .FontSize = 16, .Gras = true, .Centré = true}};
+    Label lblOuiNon{*this,
+                    "lblOuiNon",
+                    {.Visible = false, .FontSize = 16, .Gras = true, .Centré = true, .SensDesCouleurs = Sens::Verdict}};
     Button cmdVérifier{*this, "cmdVérifier", u"&Vérifier"};
     Button cmdQuitter{*this, "cmdQuitter", u"&Quitter"};
 

@@ -3,7 +3,7 @@
 #include "core/Fonctions.h"
 #include "exercises/ClassesDeLettres.h"
 #include "exercises/Conclure.h"
-#include "exercises/TexteEtBarre.h"
+#include "exercises/FinDeTexte.h"
 
 namespace tirelune {
 
@@ -19,14 +19,13 @@ frmTexteMasqué::frmTexteMasqué(frmExercices& choix)
 
 Arrangement frmTexteMasqué::Disposer()
 {
-    std::vector<Arrangement> lettres;
-    for (auto& lettre : lblLettre)
-        lettres.push_back(Extensible(lettre));
-    auto barre = Colonne{
-        Ligne{Extensible(Label1), BandeDePoints(lblPoints)},
-        Arrangement(Disposition::Ligne, std::move(lettres)),
-    };
-    return TexteEtBarre(rtfMasqué, std::move(barre), fin);
+    return Page{{
+        .Consigne = Label1,
+        .Points = BandeDePoints(lblPoints),
+        .Travail = Libre{rtfMasqué},
+        .Pied = Partagée(lblLettre),
+        .Dessus = EnPlace(fin),
+    }};
 }
 
 void frmTexteMasqué::Load()

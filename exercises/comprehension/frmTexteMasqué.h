@@ -3,7 +3,7 @@
 #pragma once
 #include "core/Ecran.h"
 #include "exercises/BandeDePoints.h"
-#include "exercises/TexteEtBarre.h"
+#include "exercises/FinDeTexte.h"
 #include "followup/frmExercices.h"
 
 namespace tirelune {

@@ -48,19 +48,19 @@ frmPhotographier::frmPhotographier(frmExercices& choix)
 
 Arrangement frmPhotographier::Disposer()
 {
-    return Pile{
-        Colonne{
-            Ligne{lblVitesse, Ressort{}, BandeDePoints(lblPoints)},
-            Extensible(Ligne{
-                Extensible(Colonne{
-                    Ressort{}, Extensible(Ligne{AuMoins(900, 600, Image1), Extensible(AuMoins(4200, 1500, lblMot))}),
-                    cmdAfficher, Ressort{}}),
-                AuMoins(3600, 0, Colonne{Label3, Colonne{lblRéponse}, Ressort{}}),
-            }),
-            Ligne{Ressort{}, cmdQuitter},
-        },
-        EnPlace(notice),
-    };
+    return Page{{
+        .Consigne = Label3,
+        .Points = BandeDePoints(lblPoints),
+        .Travail =
+            Ligne{
+                Extensible(Ligne{AuMoins(1200, 800, Image1),
+                                 Extensible(Colonne{Ressort{}, Extensible(AuMoins(4200, 1500, lblMot), 4), Ressort{}})},
+                           3),
+                Extensible(AuMoins(3600, 0, Carte{Colonne{lblRéponse}}), 2),
+            },
+        .Pied = Ligne{AuMoins(2400, 0, lblVitesse), Ressort{}, Pile{cmdAfficher, cmdQuitter}},
+        .Dessus = EnPlace(notice),
+    }};
 }
 
 void frmPhotographier::Load()

@@ -54,16 +54,20 @@ frmPoursuite::frmPoursuite(frmExercices& choix)
 
 Arrangement frmPoursuite::Disposer()
 {
-    return Pile{
-        Libre{rtfPoursuite},
-        Centré{Cadre{frameConsigne, AuMoins(10000, 0, Colonne{lblConsigne, Centré{cmdCommencer}})}},
-        Cadre{frameMot,
-              Colonne{
-                  Ligne{Label1, Ressort{}, BandeDePoints(lblPoints)},
-                  Extensible(Ligne{Extensible(Colonne{lblMot}), Ressort{}}),
-                  Ligne{Ressort{}, cmdContinuer},
-              }},
-    };
+    return Page{{
+        .Points = Suite{frameMot, BandeDePoints(lblPoints)},
+        .Travail =
+            Pile{
+                Libre{rtfPoursuite},
+                Centré{Cadre{frameConsigne, AuMoins(10000, 0, Colonne{lblConsigne, Centré{cmdCommencer}})}},
+                Cadre{frameMot,
+                      Colonne{
+                          Label1,
+                          Extensible(Grille{2, lblMot}),
+                          Ligne{Ressort{}, cmdContinuer},
+                      }},
+            },
+    }};
 }
 
 void frmPoursuite::Load()

@@ -46,14 +46,13 @@ Arrangement frmSérie::Disposer()
     }
     Arrangement deuxColonnes{Disposition::Grille, std::move(choix)};
     deuxColonnes.Colonnes = 2;
-    return Pile{
-        Colonne{
-            Ligne{cmdVoir, cmdContinuer, Ressort{}, BandeDePoints(lblPoints)},
-            Extensible(Ligne{Extensible(cases), Extensible(Cadre{frameChoix, deuxColonnes})}),
-            lblConsigne,
-        },
-        EnPlace(notice),
-    };
+    return Page{{
+        .Consigne = lblConsigne,
+        .Points = BandeDePoints(lblPoints),
+        .Travail = Ligne{Extensible(cases), Extensible(Cadre{frameChoix, deuxColonnes})},
+        .Pied = Ligne{Ressort{}, Pile{cmdVoir, cmdContinuer}},
+        .Dessus = EnPlace(notice),
+    }};
 }
 
 void frmSérie::Load()

@@ -36,19 +36,20 @@ frmMotsEnDésordre::frmMotsEnDésordre(frmExercices& choix)
 
 Arrangement frmMotsEnDésordre::Disposer()
 {
-    return Pile{
-        Colonne{
-            Ligne{Label1, lblCoups, Ressort{}, Label3, lblEssais, Label4, lblEssaisMax, Ressort{},
-                  BandeDePoints(lblPoints)},
-            lblConsigne,
-            Extensible(Grille{ColonnesDeMots, lblMot}),
-            AuMoins(0, 1600, txtPhrase),
-            lblPlace,
-            Cadre{frameAide, AuMoins(0, 1200, txtAide)},
-            Ligne{Ressort{}, cmdTerminé, cmdSuivant},
-        },
-        EnPlace(notice),
-    };
+    return Page{{
+        .Consigne = lblConsigne,
+        .Points = BandeDePoints(lblPoints),
+        .Travail =
+            Colonne{
+                Extensible(Grille{ColonnesDeMots, lblMot}, 3),
+                Extensible(AuMoins(0, 900, txtPhrase), 1),
+                lblPlace,
+                Cadre{frameAide, AuMoins(0, 500, txtAide)},
+            },
+        .Pied = Ligne{Label1, lblCoups, Ressort{}, Label3, lblEssais, Label4, lblEssaisMax, Ressort{},
+                      Pile{cmdTerminé, cmdSuivant}},
+        .Dessus = EnPlace(notice),
+    }};
 }
 
 void frmMotsEnDésordre::Load()

@@ -35,8 +35,7 @@ public:
                            .ForeColor = Bleu,
                            .FontSize = 16,
                            .Gras = true,
-                           .Centré = true,
-                           .Bordure = true}};
+                           .Centré = true}};
     TextBox txtPhrase{*this, "txtPhrase", {.Libellé = u"Ta phrase", .FontSize = 22, .MultiLine = true}};
     Label lblPlace{*this, "lblPlace", {.ForeColor = VertFoncé, .FontSize = 14}}; // what the next click works on
     Frame frameAide{*this, "frameAide", {.Visible = false, .BackColor = BleuClair}};

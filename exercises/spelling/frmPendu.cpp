@@ -78,21 +78,24 @@ frmPendu::frmPendu(frmExercices& choix) : Ecran(choix.ApplicationDe(), "frmPendu
 
 Arrangement frmPendu::Disposer()
 {
-    static constexpr int LettresParRangée = 13;
     auto dessin = EnPlaces(Ligne);
     dessin.emplace_back(imgVisage);
-    return Pile{
-        Colonne{
-            tirelune::Ligne{Extensible(Label1), BandeDePoints(lblPoints)},
-            Extensible(tirelune::Ligne{
-                Extensible(Toile{LargeurDessin, HauteurDessin, std::move(dessin)}),
-                Extensible(Colonne{Ressort{}, AuMoins(4800, 900, lblMot), AuMoins(4800, 900, lblMotMaj), Ressort{},
-                                   Centré{cmdSuivant}}),
-            }),
-            Grille{LettresParRangée, lblLettre},
-        },
-        EnPlace(notice),
-    };
+    return Page{{
+        .Consigne = Label1,
+        .Points = BandeDePoints(lblPoints),
+        .Travail =
+            Colonne{
+                Extensible(tirelune::Ligne{
+                    Extensible(Carte{Toile{LargeurDessin, HauteurDessin, std::move(dessin)}}, 2),
+                    Extensible(Colonne{Ressort{}, Extensible(AuMoins(4800, 900, lblMot)), AuMoins(4800, 900, lblMotMaj),
+                                       Ressort{}},
+                               3),
+                }),
+                Touches(lblLettre),
+            },
+        .Pied = tirelune::Ligne{Ressort{}, cmdSuivant},
+        .Dessus = EnPlace(notice),
+    }};
 }
 
 void frmPendu::Load()

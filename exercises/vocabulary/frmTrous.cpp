@@ -35,9 +35,7 @@ frmTrous::frmTrous(frmExercices& choix) : Ecran(choix.ApplicationDe(), "frmTrous
 
 Arrangement frmTrous::Disposer()
 {
-    auto place = TexteEtBarre(rtfTrous, BarreDeLacunes(jeu_, cmdOk, Image1), fin);
-    place.Enfants.emplace_back(EnPlace(notice));
-    return place;
+    return PageDeLacunes(jeu_, lblConsigne, cmdOk, Image1, Pile{EnPlace(fin), EnPlace(notice)});
 }
 
 void frmTrous::Load()

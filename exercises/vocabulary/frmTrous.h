@@ -11,6 +11,7 @@ class frmTrous final : public Ecran {
 public:
     explicit frmTrous(frmExercices& choix);
 
+    Label lblConsigne{*this, "lblConsigne", {.Caption = Texte{ConsigneDeLacunes}}};
     RichTextBox rtfTrous{*this, "rtfTrous", {.Visible = false}};
     ComboBox cmbTrous{
         *this,

@@ -86,13 +86,13 @@ TEST(Progression, LégendeDeChaqueGroupe)
         Notes(banc, 0, {u"5"});
         auto& écran = Ouvrir(banc, groupe);
         EXPECT_EQ(écran.Caption, u"Progression / Léa");
-        const auto& [titre, premier, nombre] = Groupes.at(static_cast<std::size_t>(groupe) - 1);
+        const auto& celui = Groupes.at(static_cast<std::size_t>(groupe) - 1);
         for (int i = 0; i < écran.lblLégende.Nombre(); ++i) {
-            EXPECT_EQ(écran.lblLégende(i).Visible(), i < nombre);
-            EXPECT_EQ(écran.Line3(i).Visible(), i < nombre);
+            EXPECT_EQ(écran.lblLégende(i).Visible(), i < celui.Nombre);
+            EXPECT_EQ(écran.Line3(i).Visible(), i < celui.Nombre);
             EXPECT_EQ(écran.Line3(i).BorderColor, écran.lblLégende(i).ForeColor);
-            if (i < nombre) {
-                EXPECT_EQ(écran.lblLégende(i).Caption, banc.Choix().lblExo(premier + i).Caption);
+            if (i < celui.Nombre) {
+                EXPECT_EQ(écran.lblLégende(i).Caption, banc.Choix().lblExo(celui.Premier + i).Caption);
             }
         }
     }

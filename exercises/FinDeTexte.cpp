@@ -1,4 +1,4 @@
-#include "exercises/TexteEtBarre.h"
+#include "exercises/FinDeTexte.h"
 
 namespace tirelune {
 
@@ -16,14 +16,10 @@ void Montrer(FinDeTexte& fin)
     fin.Bouton.SetFocus();
 }
 
-Arrangement TexteEtBarre(RichTextBox& texte, Arrangement barre, FinDeTexte& fin)
+Arrangement EnPlace(FinDeTexte& fin)
 {
-    return Pile{
-        Colonne{Ressort{}, std::move(barre)},
-        Libre{texte},
-        Colonne{Ressort{}, Centré{Cadre{fin.Cadre, AuMoins(4200, 0, Colonne{fin.Message, Centré{fin.Bouton}})}},
-                Ressort{}},
-    };
+    return Colonne{Ressort{}, Centré{Cadre{fin.Cadre, AuMoins(4200, 0, Colonne{fin.Message, Centré{fin.Bouton}})}},
+                   Ressort{}};
 }
 
 } // namespace tirelune
