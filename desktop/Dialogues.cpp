@@ -13,12 +13,15 @@
 #include <QFileInfo>
 #include <QFontDatabase>
 #include <QFontDialog>
+#include <QGridLayout>
 #include <QGroupBox>
 #include <QKeyEvent>
 #include <QLibraryInfo>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScreen>
 #include <QShortcut>
+#include <QSplitter>
 #include <QTranslator>
 
 #include <algorithm>
@@ -33,6 +36,13 @@ double EchelleDe(const QWidget* parent)
     return fenêtre != nullptr ? fenêtre->Echelle() : 1;
 }
 
+// As large as that many letters, where the display has room for them.
+void Dimensionner(QDialog& dialogue, QSize lettres)
+{
+    const auto voulue = (lettres * dialogue.font().pixelSize()).expandedTo(dialogue.sizeHint());
+    dialogue.resize(voulue.boundedTo(dialogue.screen()->availableSize() * 9 / 10));
+}
+
 // A mark that French sets off with a blank stays on the line of the word before it.
 QString SansCoupureFautive(QString texte)
 {
@@ -45,18 +55,27 @@ QString SansCoupureFautive(QString texte)
 
 } // namespace
 
+QFont PoliceDeDialogue(const QWidget* parent, double points)
+{
+    return PolicePour({}, points, false, EchelleDe(parent));
+}
+
 // ---- Message boxes ---------------------------------------------------------------------------------------------
 
 BoîteMessage::BoîteMessage(const Boîte& boîte, QWidget* parent) : QMessageBox(parent), choix_(boîte.Choix)
 {
-    const double échelle = EchelleDe(parent);
-    setFont(PolicePour({}, 0, false, échelle));
+    static constexpr double Points = 13;
+    setFont(PoliceDeDialogue(parent, Points));
     setTextFormat(Qt::PlainText);
     setWindowTitle(EnQString(boîte.Titre));
     setText(SansCoupureFautive(EnQString(boîte.Message).remove(u'\r')));
     setIcon(boîte.Symbole == Icône::Critique   ? QMessageBox::Critical
             : boîte.Symbole == Icône::Question ? QMessageBox::Question
                                                : QMessageBox::Information);
+    static constexpr int MoindreLargeur = 18; // letters: a short message is no narrower than its title
+    static constexpr int ColonneDuTexte = 2;
+    if (auto* grille = dynamic_cast<QGridLayout*>(layout()))
+        grille->setColumnMinimumWidth(ColonneDuTexte, MoindreLargeur * font().pixelSize());
     const auto ajouter = [this](const QString& légende, ButtonRole rôle) {
         auto* bouton = new Bouton{this};
         bouton->setText(légende);
@@ -186,7 +205,7 @@ QStringList TraduireFiltre(const Texte& filtre)
 std::unique_ptr<QFileDialog> CréerDialogueFichier(const DialogueFichier& demande, bool enregistrer, QWidget* parent)
 {
     auto dialogue = std::make_unique<DialogueFichiers>(enregistrer, parent);
-    dialogue->setFont(PolicePour({}, 0, false, EchelleDe(parent)));
+    dialogue->setFont(PoliceDeDialogue(parent));
     dialogue->setLocale(QLocale{QLocale::French});
     dialogue->setViewMode(QFileDialog::List); // names are all that a pupil looks for
     dialogue->setNameFilters(TraduireFiltre(demande.Filtre));
@@ -208,6 +227,8 @@ std::unique_ptr<QFileDialog> CréerDialogueFichier(const DialogueFichier& demand
         nom->setCompleter(nullptr);
     if (parent != nullptr)
         dialogue->resize(parent->size() * 8 / 10);
+    if (auto* partage = dialogue->findChild<QSplitter*>()) // places at the left, files at the right
+        partage->setSizes({dialogue->width() / 5, dialogue->width() * 4 / 5});
     return dialogue;
 }
 
@@ -227,6 +248,7 @@ std::unique_ptr<QColorDialog> CréerDialogueCouleur(Couleur départ, QWidget* pa
 {
     auto dialogue = std::make_unique<QColorDialog>(EnQColor(départ, Qt::black), parent);
     dialogue->setOption(QColorDialog::DontUseNativeDialog);
+    dialogue->setFont(PoliceDeDialogue(parent));
     dialogue->setWindowTitle(QStringLiteral("Couleurs"));
     return dialogue;
 }
@@ -299,7 +321,9 @@ std::unique_ptr<QFontDialog> CréerDialoguePolice(const ChoixPolice& départ, QW
     police.setFamily(QFontInfo{police}.family());
     police.setPointSizeF(départ.Taille > 0 ? départ.Taille : 12);
     auto dialogue = std::make_unique<DialoguePolices>(police, parent);
+    dialogue->setFont(PoliceDeDialogue(parent));
     dialogue->setWindowTitle(QStringLiteral("Caractères"));
+    Dimensionner(*dialogue, {36, 28});
     return dialogue;
 }
 

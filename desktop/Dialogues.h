@@ -12,6 +12,9 @@ class QFontDialog;
 
 namespace tirelune {
 
+// The letters of a dialog over that window, as large as the window's own.
+QFont PoliceDeDialogue(const QWidget* parent, double points = 0);
+
 class BoîteMessage final : public QMessageBox {
 public:
     BoîteMessage(const Boîte& boîte, QWidget* parent);

@@ -1,6 +1,7 @@
 #include "desktop/Impression.h"
 
 #include "desktop/Apparence.h"
+#include "desktop/Dialogues.h"
 #include "desktop/FormatsQt.h"
 
 #include <QAbstractTextDocumentLayout>
@@ -17,6 +18,7 @@ Impression::Impression(bool avecSélection, QWidget* parent)
 {
     dialogue_->setWindowTitle(QStringLiteral("Imprimer"));
     dialogue_->setOption(QAbstractPrintDialog::PrintPageRange, false);
+    dialogue_->setFont(PoliceDeDialogue(parent));
     dialogue_->setOption(QAbstractPrintDialog::PrintSelection, avecSélection);
 }
 

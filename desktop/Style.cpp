@@ -512,6 +512,14 @@ int Style::pixelMetric(PixelMetric mesure, const QStyleOption* option, const QWi
         return lettre / 3;
     case PM_ScrollBarExtent:
         return std::max(16, lettre);
+    case PM_LayoutLeftMargin:
+    case PM_LayoutTopMargin:
+    case PM_LayoutRightMargin:
+    case PM_LayoutBottomMargin:
+        return lettre * 3 / 4;
+    case PM_LayoutHorizontalSpacing:
+    case PM_LayoutVerticalSpacing:
+        return lettre / 2;
     case PM_ScrollBarSliderMin:
         return lettre * 2;
     case PM_MenuPanelWidth:

@@ -11,6 +11,7 @@
 #include <QFileDialog>
 #include <QFontDatabase>
 #include <QFontDialog>
+#include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTemporaryDir>
@@ -241,6 +242,41 @@ TEST_F(Dialogues, LePressePapiersFaitLAllerRetour)
 {
     plateforme.EcrirePressePapiers(u"l'été");
     EXPECT_EQ(plateforme.LirePressePapiers(), u"l'été");
+}
+
+// Offscreen there is no window manager: a title takes no room.
+TEST_F(Dialogues, UneBoîteMontreToutSonMessageEtTientÀLÉcran)
+{
+    for (const VueTexte message :
+         {VueTexte{u"Non."}, VueTexte{u"Destruction irréversible. Souhaitez-vous continuer ?"},
+          VueTexte{u"Attention : cette fonction permet d'ajouter ou de supprimer des espaces et des signes de "
+                   u"ponctuation au texte saisi (correction à l'enregistrement).\n\nSouhaitez-vous la supprimer ?"}}) {
+        BoîteMessage boîte{{.Message = Texte{message}, .Titre = u"Avertissement", .Choix = Boutons::OuiNon}, nullptr};
+        boîte.show();
+        const auto* texte = boîte.findChild<QLabel*>("qt_msgbox_label");
+        ASSERT_NE(texte, nullptr);
+        const auto voulue = texte->fontMetrics().boundingRect(
+            QRect{0, 0, texte->width(), 1000}, Qt::TextExpandTabs | (texte->wordWrap() ? Qt::TextWordWrap : 0),
+            texte->text());
+        EXPECT_LE(voulue.width(), texte->width()) << texte->text().toStdString();
+        EXPECT_LE(voulue.height(), texte->height()) << texte->text().toStdString();
+        EXPECT_TRUE(boîte.rect().contains(texte->geometry())) << texte->text().toStdString();
+        EXPECT_LE(boîte.width(), 800);
+        EXPECT_GE(boîte.iconPixmap().width(), 2 * boîte.font().pixelSize()) << "the picture grows with the letters";
+    }
+}
+
+TEST_F(Dialogues, LesDialoguesTiennentSurUnPetitÉcran)
+{
+    const auto tient = [](QDialog& dialogue, const char* quoi) {
+        dialogue.show();
+        EXPECT_LE(dialogue.width(), 800) << quoi;
+        EXPECT_LE(dialogue.height(), 570) << quoi;
+        EXPECT_GE(dialogue.width(), dialogue.minimumSizeHint().width()) << quoi;
+        EXPECT_GE(dialogue.height(), dialogue.minimumSizeHint().height()) << quoi;
+    };
+    tient(*CréerDialogueCouleur(Noir, nullptr), "colours");
+    tient(*CréerDialoguePolice({}, nullptr), "letters");
 }
 
 } // namespace tirelune
