@@ -63,9 +63,10 @@ Arrangement frmTirelune::Disposer()
                          Colonne{
                              lblCodeEnseignant,
                              Ligne{txtCodeEnseignant, Label1},
-                             lblVérificationCode,
-                             txtVérificationCode,
-                             lblCodeRappel,
+                             // No room is kept for what comes up at the first use alone.
+                             Pile{lblVérificationCode},
+                             Pile{txtVérificationCode},
+                             Pile{lblCodeRappel},
                              Ligne{Ressort{}, cmdCode, cmdAnnuler},
                          }}},
         }),

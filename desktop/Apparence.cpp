@@ -169,13 +169,15 @@ void Peindre(QPainter& peintre, const Dessin& dessin, const QRectF& place)
     for (const auto& forme : dessin.Formes) {
         const auto fond = EnQColor(forme.Fond, {});
         if (EstBande(forme)) {
-            // Whole pixels: bands that share a pixel would leave a seam.
+            // Whole pixels, of the display's own too: bands that share one would leave a seam.
             const auto [gauche, droite] = std::minmax(forme.Points[0].X, forme.Points[2].X);
             const auto [haut, bas] = std::minmax(forme.Points[0].Y, forme.Points[2].Y);
             const QRect bande{QPoint{qRound(place.x() + gauche * sx), qRound(place.y() + haut * sy)},
                               QPoint{qRound(place.x() + droite * sx) - 1, qRound(place.y() + bas * sy) - 1}};
+            peintre.setRenderHint(QPainter::Antialiasing, false);
             if (visible.intersects(bande))
                 peintre.fillRect(bande, fond);
+            peintre.setRenderHint(QPainter::Antialiasing);
             continue;
         }
         QTransform transformation;

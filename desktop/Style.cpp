@@ -298,6 +298,14 @@ void InstallerApparence()
 
 Style::Style() : QProxyStyle(QStringLiteral("fusion")) {}
 
+void Style::polish(QWidget* widget)
+{
+    QProxyStyle::polish(widget);
+    // A tip has letters as large as its window's usual ones, whatever those of the widget that it belongs to.
+    if (const auto* dit = widget->parentWidget(); dit != nullptr && widget->inherits("QTipLabel"))
+        widget->setFont(PolicePour({}, 0, false, EchellePour(dit->window()->size())));
+}
+
 // ---- Painting --------------------------------------------------------------------------------------------------
 
 void Style::drawPrimitive(PrimitiveElement élément, const QStyleOption* option, QPainter* peintre,

@@ -15,6 +15,9 @@ class Style final : public QProxyStyle {
 public:
     Style();
 
+    using QProxyStyle::polish;
+    void polish(QWidget* widget) override;
+
     void drawPrimitive(PrimitiveElement élément, const QStyleOption* option, QPainter* peintre,
                        const QWidget* widget) const override;
     void drawControl(ControlElement élément, const QStyleOption* option, QPainter* peintre,

@@ -1,14 +1,21 @@
 // The look that all windows share.
+#include "core/Dégradé.h"
+#include "desktop/Apparence.h"
 #include "tests/desktop/Atelier.h"
 
 #include <QCheckBox>
 #include <QComboBox>
 #include <QIcon>
+#include <QImage>
 #include <QListWidget>
 #include <QMenu>
 #include <QMenuBar>
+#include <QPainter>
 #include <QScrollBar>
 #include <QStyle>
+#include <QToolTip>
+
+#include <algorithm>
 
 namespace tirelune {
 
@@ -35,7 +42,7 @@ struct EcranFamille final : EcranEssai {
 constexpr QSize Usuelle{1366, 768};
 constexpr int Moindre = 40; // pixels: what a hand that is not yet sure can hit
 
-class Manières : public Atelier {
+class Styles : public Atelier {
 protected:
     EcranFamille écran{application};
 
@@ -48,7 +55,7 @@ protected:
 
 } // namespace
 
-TEST_F(Manières, ChaqueFenêtrePorteLIcôneDuProgramme)
+TEST_F(Styles, ChaqueFenêtrePorteLIcôneDuProgramme)
 {
     Avec(écran, [&] {
         const auto icône = Devant().windowIcon();
@@ -61,7 +68,7 @@ TEST_F(Manières, ChaqueFenêtrePorteLIcôneDuProgramme)
     });
 }
 
-TEST_F(Manières, ChampsEtListesOntLaMêmeHauteurQuiCroîtAvecLaFenêtre)
+TEST_F(Styles, ChampsEtListesOntLaMêmeHauteurQuiCroîtAvecLaFenêtre)
 {
     Avec(écran, [&] {
         Agrandir({800, 600});
@@ -75,7 +82,7 @@ TEST_F(Manières, ChampsEtListesOntLaMêmeHauteurQuiCroîtAvecLaFenêtre)
     });
 }
 
-TEST_F(Manières, CasesRangéesEtOptionsSontAssezGrandes)
+TEST_F(Styles, CasesRangéesEtOptionsSontAssezGrandes)
 {
     écran.lstMots.AddItem(u"phare");
     Avec(écran, [&] {
@@ -92,7 +99,7 @@ TEST_F(Manières, CasesRangéesEtOptionsSontAssezGrandes)
     });
 }
 
-TEST_F(Manières, UneBarreQuiMèneDroitAuButEstEcritePlusGrand)
+TEST_F(Styles, UneBarreQuiMèneDroitAuButEstEcritePlusGrand)
 {
     écran.avecSousMenu = false;
     Avec(écran, [&] {
@@ -101,7 +108,7 @@ TEST_F(Manières, UneBarreQuiMèneDroitAuButEstEcritePlusGrand)
     });
 }
 
-TEST_F(Manières, UneListeSOuvreSousSaBoîteEtYChoisitParLesFlèches)
+TEST_F(Styles, UneListeSOuvreSousSaBoîteEtYChoisitParLesFlèches)
 {
     écran.cmbNoms.AddItems({u"Léa", u"Tom"});
     Avec(écran, [&] {
@@ -117,7 +124,7 @@ TEST_F(Manières, UneListeSOuvreSousSaBoîteEtYChoisitParLesFlèches)
     });
 }
 
-TEST_F(Manières, LeCurseurDUneBarreSuitLaSouris)
+TEST_F(Styles, LeCurseurDUneBarreSuitLaSouris)
 {
     for (int i = 0; i < 200; ++i)
         écran.lstMots.AddItem(u"mot");
@@ -133,6 +140,39 @@ TEST_F(Manières, LeCurseurDUneBarreSuitLaSouris)
         QTest::mouseClick(barre, Qt::LeftButton, {}, QPoint{barre->width() / 2, 4});
         EXPECT_LT(barre->value(), barre->maximum()) << "a click beside it goes a page back";
     });
+}
+
+TEST_F(Styles, UneBulleGranditAvecSaFenêtre)
+{
+    Avec(écran, [&] {
+        Agrandir(Usuelle);
+        QToolTip::showText(QPoint{50, 50}, QStringLiteral("Ajouter un élève."), &Devant());
+        const auto fenêtres = QApplication::topLevelWidgets();
+        const auto bulle =
+            std::ranges::find_if(fenêtres, [](const QWidget* une) { return une->inherits("QTipLabel"); });
+        ASSERT_NE(bulle, fenêtres.end());
+        EXPECT_NEAR((*bulle)->font().pixelSize(), Widget(écran.txtNom).font().pixelSize(), 1);
+        EXPECT_GE((*bulle)->height(), (*bulle)->fontMetrics().height());
+        QToolTip::hideText();
+    });
+}
+
+// A scale of the display that is no whole number.
+TEST_F(Styles, LeDégradéNARaieÀAucuneEchelle)
+{
+    static constexpr double Echelle = 1.25;
+    QImage image{40, 500, QImage::Format_RGB32};
+    image.setDevicePixelRatio(Echelle);
+    image.fill(Qt::white);
+    QPainter peintre{&image};
+    Peindre(peintre, Dégradé(), QRectF{0, 0, image.width() / Echelle, image.height() / Echelle});
+    peintre.end();
+    for (int y = 1; y < image.height(); ++y) {
+        const auto teinte = image.pixelColor(20, y);
+        EXPECT_EQ(teinte.red(), 0) << y;
+        EXPECT_EQ(teinte.blue(), 255) << y;
+        EXPECT_GE(teinte.green(), image.pixelColor(20, y - 1).green()) << y;
+    }
 }
 
 } // namespace tirelune
