@@ -378,7 +378,8 @@ Habillage VueTexteRiche::Habiller(const QTextBlock& bloc)
 // What is to be read has larger letters and lines farther apart than what is written.
 void VueTexteRiche::SuivreEchelle()
 {
-    static constexpr double LettresParLigne = 75;
+    static const auto LigneEntière = // 75 characters, as far apart as French has them
+        QStringLiteral("Chaque matin, le petit renard file vers la forêt où son amie attend déjà là");
     const double voulue = hôte_.Echelle() * (boîte_.Locked ? 1.15 : 1);
     if (voulue == échelleMontrée_)
         return;
@@ -387,7 +388,7 @@ void VueTexteRiche::SuivreEchelle()
     if (!boîte_.UneLigne) {
         mise_.Interligne = boîte_.Locked ? 1.4 : 1.2;
         const QFontMetricsF mesure{PolicePour({}, 0, false, voulue)};
-        mise_.LargeurDeLecture = mesure.averageCharWidth() * LettresParLigne;
+        mise_.LargeurDeLecture = mesure.horizontalAdvance(LigneEntière);
     }
     mise_.Périmer(0, zone_.document()->blockCount() - 1);
 }

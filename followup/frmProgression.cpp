@@ -65,6 +65,7 @@ frmProgression::frmProgression(frmExercices& choix)
       lblLégende(*this, "lblLégende", static_cast<int>(Teintes.size()),
                  {.Visible = false,
                   .ToolTipText = u" Cliquer sur le texte de légende pour tracer la courbe en sur-impression. ",
+                  .BackColor = FondSombre,
                   .Gras = true}),
       Label3(*this, "Label3",
              {.Caption = u"Cliquez sur un texte de légende pour faire apparaître la courbe en sur-impression.",

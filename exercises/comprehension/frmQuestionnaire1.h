@@ -30,15 +30,16 @@ public:
     Button cmdInitialise{*this, "cmdInitialise", {.Caption = u"Questions disparues ! Clique ici.", .Visible = false}};
 
     Frame frameQuestions{*this, "frameQuestions", {.Caption = u"   Questionnaire", .Visible = false}};
-    Label Label1{*this, "Label1", {.Caption = u"Question N° ", .Gras = true}};
-    Label lblNuméro{*this, "lblNuméro", {.Caption = u"1", .Gras = true}};
+    Label Label1{*this, "Label1", {.Caption = u"Question N° ", .FontSize = 13, .Gras = true}};
+    Label lblNuméro{*this, "lblNuméro", {.Caption = u"1", .FontSize = 13, .Gras = true}};
     Tableau<Label> lblPoints{*this, "lblPoints", EtatsDesPoints()};
-    TextBox txtQuestion{*this, "txtQuestion", {.Gras = true, .MultiLine = true}};
+    TextBox txtQuestion{*this, "txtQuestion", {.FontSize = 15, .Gras = true, .MultiLine = true}};
     Tableau<CheckBox> chkRéponse{*this, "chkRéponse", ChoixParQuestion};
     Tableau<TextBox> txtChoix{
         *this,
         "txtChoix",
         {u"C'est vrai.", u"C'est faux.", u"Le texte ne le dit pas.", u"", u""},
+        {.FontSize = 14},
     };
     Label lblOuiNon{*this,
                     "lblOuiNon",

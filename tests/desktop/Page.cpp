@@ -1,0 +1,196 @@
+// The page that all exercises share, and what stands for a state besides its colour.
+#include "desktop/Apparence.h"
+#include "desktop/Composants.h"
+#include "tests/desktop/Atelier.h"
+
+#include <QAbstractTextDocumentLayout>
+#include <QTextBlock>
+#include <QTextEdit>
+#include <QTextLayout>
+
+namespace tirelune {
+
+namespace {
+
+struct EcranPage final : EcranEssai {
+    using EcranEssai::EcranEssai;
+    Label lblConsigne{*this, "lblConsigne", u"Clique sur un mot."};
+    Label lblPoints{*this, "lblPoints", {.Caption = u"3", .BackColor = Jaune, .SensDesCouleurs = Sens::Rien}};
+    RichTextBox rtf{*this, "rtf"};
+    Frame cadre{*this, "cadre", {.Visible = false}};
+    Button cmdSuivant{*this, "cmdSuivant", u"&Suivant"};
+    Button cmdDuCadre{*this, "cmdDuCadre", u"&Vérifier"};
+    Label lblMot{*this, "lblMot", {.Caption = u"mot", .ForeColor = Bleu}};
+    Label lblVerdict{*this, "lblVerdict", {.Caption = u"Bonne Réponse", .SensDesCouleurs = Sens::Verdict}};
+
+    Arrangement Disposer() override
+    {
+        return Page{{
+            .Consigne = lblConsigne,
+            .Points = lblPoints,
+            .Travail = Pile{Libre{rtf}, Colonne{lblMot, lblVerdict, Ressort{}}, Cadre{cadre, Arrangement{}}},
+            .Pied = Ligne{Suite{cadre, cmdDuCadre}, Ressort{}, cmdSuivant},
+        }};
+    }
+};
+
+class Pages : public Atelier {
+protected:
+    EcranPage écran{application};
+
+    QRect Place(const Elément& élément)
+    {
+        auto& widget = Widget(élément);
+        return {widget.mapTo(&Devant(), QPoint{0, 0}), widget.size()};
+    }
+    QImage Image(const Elément& élément) { return Widget(élément).grab().toImage(); }
+};
+
+} // namespace
+
+TEST_F(Pages, LaBandeEtLaConsigneSontHorsDeLaTailleIntérieure)
+{
+    écran.Présentation = {.Titre = u"Le pendu", .NomElève = u"Léa", .Bande = Orange};
+    Avec(écran, [&] {
+        const auto& bandeau = *Devant().findChild<QWidget*>("bandeau");
+        EXPECT_LE(bandeau.geometry().bottom(), Devant().Plan()->mapTo(&Devant(), QPoint{0, 0}).y());
+        EXPECT_NEAR(écran.Height, Devant().Twips(Devant().height() - bandeau.height()), 15);
+        EXPECT_TRUE(bandeau.geometry().contains(Place(écran.lblConsigne)));
+        EXPECT_TRUE(bandeau.geometry().contains(Place(écran.lblPoints)));
+        EXPECT_GT(Place(écran.lblPoints).center().x(), Devant().width() * 3 / 4) << "points stand at the right end";
+        EXPECT_GT(Place(écran.cmdSuivant).center().x(), Devant().width() * 3 / 4) << "so does what comes next";
+        EXPECT_GT(Place(écran.cmdSuivant).center().y(), Devant().height() * 3 / 4);
+    });
+}
+
+TEST_F(Pages, LaSuiteDUnCadreSeMontreAvecLui)
+{
+    int clics = 0;
+    écran.cmdDuCadre.Click = [&] { ++clics; };
+    Avec(écran, [&] {
+        EXPECT_FALSE(Widget(écran.cmdDuCadre).isVisible());
+        EXPECT_FALSE(écran.cmdDuCadre.EstAtteignable());
+        écran.cadre.Visible = true;
+        Mettre();
+        EXPECT_TRUE(Widget(écran.cmdDuCadre).isVisible());
+        Cliquer(écran.cmdDuCadre);
+        EXPECT_EQ(clics, 1);
+        écran.cadre.Visible = false;
+        Mettre();
+        EXPECT_FALSE(Widget(écran.cmdDuCadre).isVisible());
+    });
+}
+
+TEST_F(Pages, UnTexteÀLireADesLignesCourtesAuMilieu)
+{
+    écran.rtf.Locked = true;
+    Texte long_;
+    for (int i = 0; i < 80; ++i)
+        long_ += u"le renard file ";
+    écran.rtf.Text(long_);
+    écran.àLaTaille = [&] {
+        écran.rtf.Width = écran.Width - 150;
+        écran.rtf.Height = écran.Height - 1100;
+    };
+    Avec(écran, [&] {
+        Devant().resize(1600, 800);
+        Mettre();
+        auto& zone = Widget<QTextEdit>(écran.rtf);
+        const auto bloc = zone.document()->firstBlock();
+        const auto cadre = zone.document()->documentLayout()->blockBoundingRect(bloc);
+        EXPECT_GT(bloc.layout()->lineCount(), 1);
+        EXPECT_LE(bloc.layout()->lineAt(0).textLength(), 85); // some 75 of them
+        EXPECT_NEAR(cadre.center().x(), zone.viewport()->width() / 2.0, 2);
+        const double pas = bloc.layout()->lineAt(1).y() - bloc.layout()->lineAt(0).y();
+        EXPECT_NEAR(pas / bloc.layout()->lineAt(0).height(), 1.4, 0.01);
+    });
+}
+
+TEST_F(Pages, UnEtatSeVoitSansCouleur)
+{
+    EXPECT_EQ(SigneDe(écran.lblMot), Signe::Aucun);
+    écran.lblMot.BackColor = Vert;
+    EXPECT_EQ(SigneDe(écran.lblMot), Signe::Juste);
+    écran.lblMot.BackColor = Rouge;
+    EXPECT_EQ(SigneDe(écran.lblMot), Signe::Faux);
+    écran.lblMot.BackColor = Jaune;
+    EXPECT_EQ(SigneDe(écran.lblMot), Signe::Choisi);
+    EXPECT_EQ(SigneDe(écran.lblPoints), Signe::Aucun) << "a count is no answer";
+    écran.lblVerdict.ForeColor = VertFoncé;
+    EXPECT_EQ(SigneDe(écran.lblVerdict), Signe::Juste);
+    écran.lblVerdict.ForeColor = Rouge;
+    EXPECT_EQ(SigneDe(écran.lblVerdict), Signe::Faux);
+    écran.lblVerdict.BackColor = Vert;
+    EXPECT_EQ(SigneDe(écran.lblVerdict), Signe::Faux) << "its letters tell";
+}
+
+// Two grounds that a colour-blind eye takes for one another still differ by their signs.
+TEST_F(Pages, LeSigneEstPeint)
+{
+    écran.lblMot.Click = [] {};
+    Avec(écran, [&] {
+        const auto bout = [&](Couleur fond) {
+            écran.lblMot.BackColor = fond;
+            Mettre();
+            const auto image = Image(écran.lblMot);
+            int encre = 0;
+            for (int y = 8; y < image.height() - 10; ++y) {
+                for (int x = image.width() - 28; x < image.width() - 9; ++x)
+                    encre += image.pixelColor(x, y) != image.pixelColor(image.width() / 2, image.height() / 2) ? 1 : 0;
+            }
+            return encre;
+        };
+        EXPECT_EQ(bout(BleuClair), 0);
+        EXPECT_GT(bout(Vert), 20);
+        EXPECT_GT(bout(Rouge), 20);
+        EXPECT_GT(bout(Jaune), 20);
+    });
+}
+
+TEST_F(Pages, UneLettreIllisibleSurSonFondReçoitUnePlaque)
+{
+    écran.lblMot.Click = [] {};
+    écran.lblMot.BackColor = Rouge;
+    Avec(écran, [&] {
+        const auto contient = [&](const QColor& couleur) {
+            const auto image = Image(écran.lblMot);
+            int points = 0;
+            for (int y = 0; y < image.height(); ++y) {
+                for (int x = 0; x < image.width() / 2; ++x)
+                    points += image.pixelColor(x, y) == couleur ? 1 : 0;
+            }
+            return points > 50;
+        };
+        EXPECT_TRUE(contient(Qt::white)) << "blue on red";
+        écran.lblMot.ForeColor = Noir;
+        Mettre();
+        EXPECT_FALSE(contient(Qt::white)) << "black on red can be read";
+        écran.lblMot.ForeColor = Rouge;
+        Mettre();
+        EXPECT_FALSE(contient(Qt::white)) << "the same colour twice hides on purpose";
+    });
+}
+
+TEST_F(Pages, CeQuiSeCliqueEstAssezGrand)
+{
+    écran.lblMot.Click = [] {};
+    Avec(écran, [&] {
+        Devant().resize(1366, 748);
+        Mettre();
+        EXPECT_GE(Widget(écran.lblMot).sizeHint().height(), 40);
+        EXPECT_GE(Widget(écran.cmdSuivant).sizeHint().height(), 40);
+        EXPECT_GE(Widget(écran.lblMot).font().pixelSize(), 18);
+    });
+}
+
+TEST(Contrastes, LEncreChoisieSeLit)
+{
+    EXPECT_NEAR(Contraste(Qt::black, Qt::white), 21, 0.01);
+    EXPECT_NEAR(Contraste(QColor{255, 0, 0}, QColor{255, 0, 0}), 1, 1e-9);
+    EXPECT_NEAR(Contraste(QColor{0x76, 0x76, 0x76}, Qt::white), 4.54, 0.01);
+    EXPECT_EQ(EncreSur(Qt::white, Teinte::Encre), Teinte::Encre);
+    EXPECT_EQ(EncreSur(Qt::blue, Teinte::Encre), QColor{Qt::white});
+    EXPECT_EQ(EncreSur(Qt::yellow, Qt::white), Teinte::Encre);
+}
+
+} // namespace tirelune
