@@ -482,7 +482,8 @@ TEST_F(TexteRicheAffiché, LesParagraphesSuiventLeurFormat)
         EXPECT_EQ(second.textOption().alignment(), Qt::AlignHCenter);
         EXPECT_EQ(premier.lineAt(0).x(), 0);
         EXPECT_EQ(second.lineAt(0).x(), Devant().Echelle() * 20);
-        EXPECT_GT(second.lineAt(0).naturalTextRect().left(), Zone().viewport()->width() / 3.0);
+        const auto cadre = Zone().document()->documentLayout()->blockBoundingRect(Zone().document()->lastBlock());
+        EXPECT_GT(second.lineAt(0).naturalTextRect().left(), cadre.width() / 3);
     });
 }
 
