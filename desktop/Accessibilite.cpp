@@ -135,23 +135,23 @@ public:
         return état;
     }
 
-    [[nodiscard]] QStringList actionNames() const override
+    [[nodiscard]] QStringList actionNames() const final { return Actions() + QAccessibleWidget::actionNames(); }
+    void doAction(const QString& action) final
     {
-        auto noms = QAccessibleWidget::actionNames();
-        if (EstCliquable())
-            noms.prepend(pressAction());
-        return noms;
-    }
-
-    void doAction(const QString& action) override
-    {
-        if (action == pressAction() && EstCliquable())
-            Presser(*widget(), widget()->rect().center());
+        if (Actions().contains(action))
+            Agir();
         else
             QAccessibleWidget::doAction(action);
     }
 
 protected:
+    // The names of a click, and the click itself.
+    [[nodiscard]] virtual QStringList Actions() const
+    {
+        return EstCliquable() ? QStringList{pressAction()} : QStringList{};
+    }
+    virtual void Agir() { Presser(*widget(), widget()->rect().center()); }
+
     [[nodiscard]] Elément* Un() const
     {
         auto* vue = widget() != nullptr ? VueDuWidget(*widget()) : nullptr;
@@ -191,17 +191,13 @@ public:
         état.checked = static_cast<const QCheckBox*>(widget())->isChecked();
         return état;
     }
-    [[nodiscard]] QStringList actionNames() const override
-    {
-        return QStringList{toggleAction(), pressAction()} + QAccessibleWidget::actionNames();
-    }
-    void doAction(const QString& action) override
+
+protected:
+    [[nodiscard]] QStringList Actions() const override { return {toggleAction(), pressAction()}; }
+    void Agir() override
     {
         static constexpr int DansLaCase = 8; // pixels
-        if (action == toggleAction() || action == pressAction())
-            Presser(*widget(), {DansLaCase, widget()->height() / 2});
-        else
-            QAccessibleWidget::doAction(action);
+        Presser(*widget(), {DansLaCase, widget()->height() / 2});
     }
 };
 
@@ -213,7 +209,7 @@ public:
     [[nodiscard]] QAccessible::Role role() const override { return QAccessible::ComboBox; }
     [[nodiscard]] QString text(QAccessible::Text sorte) const override
     {
-        const auto choisi =
+        auto choisi =
             Choix().isEditable() || Choix().currentIndex() >= 0 ? Choix().currentText() : Choix().placeholderText();
         if (sorte == QAccessible::Value)
             return choisi;
@@ -245,17 +241,13 @@ public:
             return -1;
         return enfant->object() == Choix().view() ? 0 : enfant->object() == Choix().lineEdit() ? 1 : -1;
     }
-    [[nodiscard]] QStringList actionNames() const override
-    {
-        return QStringList{showMenuAction(), pressAction()} + QAccessibleWidget::actionNames();
-    }
-    void doAction(const QString& action) override
+
+protected:
+    [[nodiscard]] QStringList Actions() const override { return {showMenuAction(), pressAction()}; }
+    void Agir() override
     {
         static constexpr int DansLaFlèche = 6; // pixels
-        if (action == showMenuAction() || action == pressAction())
-            Presser(*widget(), {widget()->width() - DansLaFlèche, widget()->height() / 2});
-        else
-            QAccessibleWidget::doAction(action);
+        Presser(*widget(), {widget()->width() - DansLaFlèche, widget()->height() / 2});
     }
 
 private:
@@ -297,18 +289,6 @@ public:
             return static_cast<QAccessibleEditableTextInterface*>(this);
         return AccessibleElément::interface_cast(sorte);
     }
-    // On the character at the caret.
-    void doAction(const QString& action) override
-    {
-        if (action != pressAction() || !EstCliquable()) {
-            QAccessibleWidget::doAction(action);
-            return;
-        }
-        LaZone().ensureCursorVisible();
-        const auto cadre = CadreDe(cursorPosition());
-        Presser(*LaZone().viewport(), cadre.center());
-    }
-
     void selection(int rang, int* début, int* fin) const override
     {
         const auto curseur = LaZone().textCursor();
@@ -350,6 +330,12 @@ public:
     void replaceText(int début, int fin, const QString& texte) override { Curseur(début, fin).insertText(texte); }
 
 protected:
+    // On the character at the caret.
+    void Agir() override
+    {
+        LaZone().ensureCursorVisible();
+        Presser(*LaZone().viewport(), CadreDe(cursorPosition()).center());
+    }
     [[nodiscard]] Zone& LaZone() const { return *static_cast<Zone*>(widget()); }
     [[nodiscard]] bool EstCliquable() const override
     {
@@ -402,10 +388,23 @@ class AccessibleTexteRiche final : public AccessibleTexte<QTextEdit> {
 public:
     using AccessibleTexte::AccessibleTexte;
 
+    [[nodiscard]] int cursorPosition() const override
+    {
+        const auto* vue = LaVue();
+        return vue != nullptr && LaZone().isReadOnly() ? vue->Visé() : AccessibleTexte::cursorPosition();
+    }
+    void setCursorPosition(int position) override
+    {
+        auto* vue = LaVue();
+        if (vue != nullptr && LaZone().isReadOnly())
+            vue->Viser(position);
+        else
+            AccessibleTexte::setCursorPosition(position);
+    }
     QString attributes(int rang, int* début, int* fin) const override
     {
         static constexpr int AuCurseur = -2; // as IAccessible2 asks
-        const auto* vue = dynamic_cast<const VueTexteRiche*>(VueDuWidget(LaZone()));
+        const auto* vue = LaVue();
         const auto* boîte = vue != nullptr ? dynamic_cast<const RichTextBox*>(&vue->élément) : nullptr;
         const int voulu = std::min(rang == AuCurseur ? cursorPosition() : rang, characterCount() - 1);
         *début = *fin = -1;
@@ -426,6 +425,9 @@ public:
                                            });
         return attributs;
     }
+
+private:
+    [[nodiscard]] VueTexteRiche* LaVue() const { return dynamic_cast<VueTexteRiche*>(VueDuWidget(LaZone())); }
 };
 
 // ---- Who speaks for what ---------------------------------------------------------------------------------------

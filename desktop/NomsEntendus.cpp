@@ -150,7 +150,7 @@ QString PhraseAutour(const Elément& élément)
 {
     static const QString Barre = QStringLiteral("/");
     std::vector<const Arrangement*> chemin;
-    const auto seul = Annonçable(élément);
+    auto seul = Annonçable(élément);
     if (!Mener(élément.EcranDe().Plan(), élément, chemin) || chemin.size() < 2 ||
         chemin[chemin.size() - 2]->Genre != Disposition::Ligne)
         return seul;

@@ -7,6 +7,7 @@
 #include "desktop/Vues.h"
 
 #include <QAbstractTextDocumentLayout>
+#include <QAccessible>
 #include <QKeyEvent>
 #include <QMimeData>
 #include <QMouseEvent>
@@ -100,6 +101,16 @@ public:
     [[nodiscard]] QSize minimumSizeHint() const override
     {
         return {font().pixelSize() * 8, vue_.boîte_.UneLigne ? HauteurLigne() : font().pixelSize() * 4};
+    }
+
+    [[nodiscard]] int Visé() const { return std::min(visé_, document()->characterCount() - 1); }
+    // Assistive tools take it for the caret.
+    void Viser(int position)
+    {
+        visé_ = std::max(0, position);
+        QAccessibleTextCursorEvent ici{this, Visé()};
+        QAccessible::updateAccessibility(&ici);
+        viewport()->update();
     }
 
     // The character under the point; right of a line, its end.
@@ -227,7 +238,7 @@ private:
     [[nodiscard]] QRect CadreVisé() const
     {
         QTextCursor ici{document()};
-        ici.setPosition(std::min(visé_, document()->characterCount() - 1));
+        ici.setPosition(Visé());
         auto là = ici;
         const auto cadre = cursorRect(ici);
         const bool suite = !ici.atBlockEnd() && là.movePosition(QTextCursor::NextCharacter);
@@ -242,7 +253,7 @@ private:
         if (événement.key() == Qt::Key_Return || événement.key() == Qt::Key_Enter || événement.key() == Qt::Key_Space) {
             clavier_ = true;
             if (vue_.Agissante())
-                vue_.boîte_.Cliquer(vue_.DepuisWidget(std::min(visé_, document()->characterCount() - 1)));
+                vue_.boîte_.Cliquer(vue_.DepuisWidget(Visé()));
             viewport()->update();
             return;
         }
@@ -260,17 +271,16 @@ private:
             return;
         }
         QTextCursor ici{document()};
-        ici.setPosition(std::min(visé_, document()->characterCount() - 1));
+        ici.setPosition(Visé());
         ici.movePosition(pas->second);
-        visé_ = ici.position();
         clavier_ = true;
+        Viser(ici.position());
         const auto cadre = CadreVisé();
         auto* barre = verticalScrollBar();
         if (cadre.top() < 0)
             barre->setValue(barre->value() + cadre.top());
         else if (cadre.bottom() > viewport()->height())
             barre->setValue(barre->value() + cadre.bottom() - viewport()->height());
-        viewport()->update();
     }
 
     VueTexteRiche& vue_;
@@ -329,6 +339,16 @@ std::size_t VueTexteRiche::DepuisWidget(int position) const
 {
     const auto bloc = zone_.document()->findBlock(position);
     return static_cast<std::size_t>(position) + static_cast<std::size_t>(std::max(0, bloc.blockNumber()));
+}
+
+int VueTexteRiche::Visé() const
+{
+    return static_cast<const Page&>(zone_).Visé();
+}
+
+void VueTexteRiche::Viser(int position)
+{
+    static_cast<Page&>(zone_).Viser(position);
 }
 
 QString VueTexteRiche::Affiché(std::size_t début, std::size_t fin) const

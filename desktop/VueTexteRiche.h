@@ -26,6 +26,9 @@ public:
     [[nodiscard]] int EnWidget(std::size_t position) const;
     [[nodiscard]] std::size_t DepuisWidget(int position) const;
     [[nodiscard]] QTextEdit& Zone() const { return zone_; }
+    // In a text that is only read: the character that the keyboard would click.
+    [[nodiscard]] int Visé() const;
+    void Viser(int position);
 
 private:
     class Page;

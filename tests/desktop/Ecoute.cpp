@@ -227,10 +227,16 @@ TEST_F(Ecoute, UnTexteSePresseSurLeCaractèreDuCurseur)
     écran.rtfTexte.Locked = true;
     écran.rtfTexte.Click = [this] { ++clics; };
     Avec(écran, [&] {
-        Entendu(écran.rtfTexte).textInterface()->setCursorPosition(4);
+        auto& lu = *Entendu(écran.rtfTexte).textInterface();
+        lu.setCursorPosition(4);
         Presser(écran.rtfTexte);
         EXPECT_EQ(clics, 1);
         EXPECT_EQ(écran.rtfTexte.SelStart(), 4U);
+        QTest::keyClick(&Widget(écran.rtfTexte), Qt::Key_Right); // leads the caret that is heard
+        EXPECT_EQ(lu.cursorPosition(), 5);
+        QTest::keyClick(&Widget(écran.rtfTexte), Qt::Key_Return);
+        EXPECT_EQ(clics, 2);
+        EXPECT_EQ(écran.rtfTexte.SelStart(), 5U);
     });
 }
 
