@@ -55,12 +55,29 @@ QColor EncreSur(const QColor& fond, const QColor& voulue)
     return Contraste(fond, Teinte::Encre) >= Contraste(fond, Qt::white) ? Teinte::Encre : QColor{Qt::white};
 }
 
+namespace {
+
+double& Agrandissement()
+{
+    static double facteur = 1;
+    return facteur;
+}
+
+} // namespace
+
+void Agrandir(double facteur)
+{
+    Agrandissement() = facteur;
+}
+
 double EchellePour(QSize taille)
 {
     // Slower than the display grows, or nothing more would find room on a large one.
     static constexpr double Croissance = 0.72;
     const double rapport = std::min(taille.width() / 800.0, taille.height() / 600.0);
-    return std::clamp(std::pow(std::max(rapport, 0.1), Croissance), 0.75, 2.5);
+    const double usuelle = std::clamp(std::pow(std::max(rapport, 0.1), Croissance), 0.75, 2.5);
+    // What finds room on an 800 x 600 display finds it on any other, up to the proportion of the two.
+    return std::max(usuelle, std::min(usuelle * Agrandissement(), rapport));
 }
 
 QFont PolicePour(VueTexte famille, double points, bool gras, double échelle)

@@ -42,6 +42,8 @@ double Contraste(const QColor& une, const QColor& autre);
 // The ink on that ground: the one asked for, or the program's own, or white, whichever can be read.
 QColor EncreSur(const QColor& fond, const QColor& voulue);
 
+// Everything is drawn so many times larger than usual from now on, as far as it finds room.
+void Agrandir(double facteur);
 // How much larger than on an 800 x 600 display things are drawn.
 double EchellePour(QSize taille);
 // The program's own font when `famille` is empty; the usual size for 0 points.

@@ -2,6 +2,7 @@
 
 #include "core/Enseigne.h"
 #include "desktop/Apparence.h"
+#include "desktop/Bureau.h"
 #include "desktop/IconesBoites.h"
 
 #include <QAbstractScrollArea>
@@ -9,6 +10,7 @@
 #include <QIcon>
 #include <QPainter>
 #include <QPainterPath>
+#include <QScreen>
 #include <QStyleOption>
 #include <QToolTip>
 
@@ -276,6 +278,9 @@ void InstallerApparence()
 {
     QApplication::setStyle(new Style);
     RemplacerPolicePropre();
+    const auto& affichage = *QGuiApplication::primaryScreen();
+    Agrandir(
+        AgrandissementDesLettres(QApplication::font(), affichage.logicalDotsPerInch() * affichage.devicePixelRatio()));
 
     QPalette palette{Teinte::Bouton, Teinte::Fond};
     palette.setColor(QPalette::WindowText, Teinte::Encre);
