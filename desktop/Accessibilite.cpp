@@ -2,6 +2,7 @@
 
 #include "core/Ecran.h"
 #include "desktop/Annonces.h"
+#include "desktop/Bandeau.h"
 #include "desktop/Composants.h"
 #include "desktop/Contenu.h"
 #include "desktop/Conversions.h"
@@ -66,6 +67,12 @@ public:
 class AccessibleAnnonce final : public QAccessibleWidget {
 public:
     explicit AccessibleAnnonce(Annonce& annonce) : QAccessibleWidget(&annonce, QAccessible::Notification) {}
+};
+
+// The title of the page; what stands in it is found below it.
+class AccessibleBandeau final : public QAccessibleWidget {
+public:
+    explicit AccessibleBandeau(Bandeau& bandeau) : QAccessibleWidget(&bandeau, QAccessible::Heading) {}
 };
 
 // Without what is covered.
@@ -441,6 +448,8 @@ QAccessibleInterface* Fabriquer(const QString& /*classe*/, QObject* objet)
         return new AccessibleFenêtre{*widget};
     if (auto* annonce = dynamic_cast<Annonce*>(widget))
         return new AccessibleAnnonce{*annonce};
+    if (auto* bandeau = dynamic_cast<Bandeau*>(widget))
+        return new AccessibleBandeau{*bandeau};
     if (auto* contenu = dynamic_cast<Contenu*>(widget))
         return new AccessibleContenu{*contenu};
     if (auto* case_ = qobject_cast<QCheckBox*>(widget))

@@ -40,6 +40,7 @@ Bandeau::Bandeau(const TitreDePage& titre, QWidget* parent)
     : QWidget(parent), titre_(titre), bande_(new QWidget{this}), points_(new Plaque{bande_}), carte_(new Papier{this})
 {
     setObjectName("bandeau");
+    setAccessibleName(EnQString(titre.NomElève.empty() ? titre.Titre : titre.Titre + u", " + titre.NomElève));
     carte_->accent = EnQColor(titre.Bande, Teinte::BordPanneau);
     auto* tout = new QVBoxLayout{this};
     tout->setContentsMargins(0, 0, 0, 0);

@@ -2,6 +2,7 @@
 
 #include "core/Ecran.h"
 #include "desktop/Conversions.h"
+#include "desktop/Signes.h"
 
 #include <algorithm>
 
@@ -119,6 +120,24 @@ QString SansEtat(const Elément& élément)
     return PremierNonVide({libellé, LibelléVoisin(élément), TexteLu(élément), bulle, NomDuGenre(élément)});
 }
 
+QString Etat(const Elément& élément)
+{
+    if (const auto* label = dynamic_cast<const Label*>(&élément);
+        label != nullptr && label->SensDesCouleurs == Sens::Verdict)
+        return {}; // its words say it
+    switch (SigneDe(élément)) {
+    case Signe::Juste:
+        return QStringLiteral("juste");
+    case Signe::Faux:
+        return QStringLiteral("faux");
+    case Signe::Choisi:
+        return QStringLiteral("choisi");
+    case Signe::Aucun:
+        break;
+    }
+    return {};
+}
+
 } // namespace
 
 QString Prononçable(VueTexte légende)
@@ -143,7 +162,10 @@ QString Annonçable(const Elément& élément)
 {
     if (const auto* cadre = dynamic_cast<const Frame*>(&élément); cadre != nullptr)
         return Prononçable(cadre->Caption());
-    return TexteLu(élément);
+    const auto signe = SigneDe(élément);
+    const bool jugé = signe == Signe::Juste || signe == Signe::Faux;
+    const auto lu = TexteLu(élément);
+    return lu.isEmpty() && jugé ? NomEntendu(élément) : lu;
 }
 
 QString PhraseAutour(const Elément& élément)
@@ -167,7 +189,12 @@ QString PhraseAutour(const Elément& élément)
 
 QString NomEntendu(const Elément& élément)
 {
-    return SansEtat(élément);
+    QStringList mots{SansEtat(élément)};
+    if (const auto* label = dynamic_cast<const Label*>(&élément); label != nullptr && !label->Plaque().empty())
+        mots.push_back(Prononçable(label->Plaque()));
+    if (const auto état = Etat(élément); !état.isEmpty())
+        mots.push_back(état);
+    return mots.join(QStringLiteral(", "));
 }
 
 } // namespace tirelune

@@ -24,6 +24,8 @@ struct EcranEntendu final : EcranEssai {
     Label lblMot{*this, "lblMot", u"lune"};
     Label lblTitre{*this, "lblTitre", {.Caption = u"Consigne", .Gras = true}};
     Label lblVide{*this, "lblVide"};
+    Label lblVerdict{
+        *this, "lblVerdict", {.Caption = u"Bonne réponse", .ForeColor = VertFoncé, .SensDesCouleurs = Sens::Verdict}};
     Tableau<Label> lblPoints{*this, "lblPoints", {u"0", u"4", u" / "}};
     Image imgVisage{*this, "imgVisage", {.Libellé = u"Visage"}};
     Image imgDécor{*this, "imgDécor"};
@@ -40,7 +42,7 @@ struct EcranEntendu final : EcranEssai {
                 Ligne{txtSeul, cmbMots, cmdOk},
                 Ligne{chkRéponse, txtChoix},
                 Ligne{lblMot, lblTitre, lblVide, Ressort{}, Ligne{lblPoints(0), lblPoints(2), lblPoints(1)}},
-                Ligne{imgVisage, imgDécor},
+                Ligne{imgVisage, imgDécor, lblVerdict},
                 rtfTexte,
             },
             Couverture{frameFin, Colonne{cmdQuitter}},
@@ -254,6 +256,28 @@ TEST_F(Ecoute, CeQuiChangeEstAnnoncé)
         écran.frameFin.Visible = true;
         Mettre();
         EXPECT_EQ(Dite(), "Texte complété");
+    });
+}
+
+TEST_F(Ecoute, UnEtatSeDitAprèsLeNom)
+{
+    écran.lblMot.Click = écran.txtChoix.Click = [] {};
+    Avec(écran, [&] {
+        écran.lblMot.BackColor = Jaune;
+        Mettre();
+        EXPECT_EQ(Nom(écran.lblMot), "lune, choisi");
+        EXPECT_EQ(Dite(), ""); // whoever chooses knows
+        écran.lblMot.BackColor = Vert;
+        Mettre();
+        EXPECT_EQ(Nom(écran.lblMot), "lune, juste");
+        EXPECT_EQ(Dite(), "lune, juste");
+        écran.txtChoix.BackColor = Rouge;
+        Mettre();
+        EXPECT_EQ(Dite(), "C'est vrai., faux");
+        écran.lblMot.BackColor = Blanc;
+        écran.lblMot.Plaque = u"8";
+        EXPECT_EQ(Nom(écran.lblMot), "lune, 8");
+        EXPECT_EQ(Nom(écran.lblVerdict), "Bonne réponse"); // its words say it
     });
 }
 
