@@ -7,7 +7,9 @@
 #include <QIconEngine>
 #include <QPainter>
 #include <QPainterPath>
+#include <QPalette>
 #include <QPixmap>
+#include <QWidget>
 
 #include <algorithm>
 #include <cmath>
@@ -39,6 +41,7 @@ double Luminance(const QColor& couleur)
 }
 
 constexpr double ContrasteVoulu = 4.5;
+const QColor EncreFoncée = Teinte::Encre;
 
 } // namespace
 
@@ -52,7 +55,37 @@ QColor EncreSur(const QColor& fond, const QColor& voulue)
 {
     if (Contraste(fond, voulue) >= ContrasteVoulu)
         return voulue;
-    return Contraste(fond, Teinte::Encre) >= Contraste(fond, Qt::white) ? Teinte::Encre : QColor{Qt::white};
+    return Contraste(fond, EncreFoncée) >= Contraste(fond, Qt::white) ? EncreFoncée : QColor{Qt::white};
+}
+
+void AccorderEncre(QWidget& sol, const QColor& fond)
+{
+    auto palette = sol.palette();
+    const auto encre = EncreSur(fond, Teinte::Encre);
+    if (palette.color(QPalette::Active, QPalette::WindowText) == encre)
+        return;
+    palette.setColor(QPalette::WindowText, encre);
+    sol.setPalette(palette);
+}
+
+void ReprendreCouleurs(const QPalette& bureau)
+{
+    const auto encre = bureau.color(QPalette::WindowText);
+    const auto fond = bureau.color(QPalette::Window);
+    const bool sombre = Luminance(fond) < Luminance(encre);
+    Teinte::Fond = Teinte::Eteint = fond;
+    Teinte::Encre = encre;
+    Teinte::Panneau = bureau.color(QPalette::Base);
+    Teinte::Bouton = bureau.color(QPalette::Button);
+    for (auto* trait :
+         {&Teinte::BordChamp, &Teinte::BordActif, &Teinte::BordPanneau, &Teinte::Tranche, &Teinte::BordBouton})
+        *trait = encre;
+    const QColor bleu{0x00, 0x3B, 0x8F};
+    const QColor jaune{0xFF, 0xD5, 0x4F};
+    for (auto* choix : {&Teinte::BoutonSurvolé, &Teinte::BoutonEnfoncé, &Teinte::Sélection})
+        *choix = sombre ? bleu : jaune;
+    Teinte::Anneau = sombre ? jaune : bleu;
+    Teinte::EncreEteinte = sombre ? QColor{0xB0, 0xB0, 0xB0} : QColor{0x50, 0x50, 0x50};
 }
 
 namespace {

@@ -15,22 +15,25 @@ class QIcon;
 namespace tirelune {
 
 namespace Teinte {
-inline const QColor Fond{0xF5, 0xF7, 0xFD};
-inline const QColor Encre{0x1B, 0x27, 0x45};
-inline const QColor Panneau{0xFF, 0xFF, 0xFF};
-inline const QColor BordChamp{0xB9, 0xC4, 0xDD};
-inline const QColor BordActif{0x6F, 0x86, 0xB8}; // of what is typed into
-inline const QColor BordPanneau{0xD9, 0xDF, 0xEE};
-inline const QColor Tranche{0xCD, 0xD4, 0xE8}; // the lower edge of what is white
-inline const QColor Bouton{0xFF, 0xDB, 0x78};
-inline const QColor BoutonSurvolé{0xFF, 0xE9, 0xA8};
-inline const QColor BoutonEnfoncé{0xF2, 0xC9, 0x4C};
-inline const QColor BordBouton{0xC8, 0x97, 0x1F};
-inline const QColor Eteint{0xE3, 0xE7, 0xEC};
-inline const QColor EncreEteinte{0x66, 0x6E, 0x80};
-inline const QColor Anneau{0x0B, 0x5C, 0xC4}; // around what has the keyboard
-inline const QColor Sélection{0xFF, 0xD5, 0x4F};
+inline QColor Fond{0xF5, 0xF7, 0xFD};
+inline QColor Encre{0x1B, 0x27, 0x45};
+inline QColor Panneau{0xFF, 0xFF, 0xFF};
+inline QColor BordChamp{0xB9, 0xC4, 0xDD};
+inline QColor BordActif{0x6F, 0x86, 0xB8}; // of what is typed into
+inline QColor BordPanneau{0xD9, 0xDF, 0xEE};
+inline QColor Tranche{0xCD, 0xD4, 0xE8}; // the lower edge of what is white
+inline QColor Bouton{0xFF, 0xDB, 0x78};
+inline QColor BoutonSurvolé{0xFF, 0xE9, 0xA8};
+inline QColor BoutonEnfoncé{0xF2, 0xC9, 0x4C};
+inline QColor BordBouton{0xC8, 0x97, 0x1F};
+inline QColor Eteint{0xE3, 0xE7, 0xEC};
+inline QColor EncreEteinte{0x66, 0x6E, 0x80};
+inline QColor Anneau{0x0B, 0x5C, 0xC4}; // around what has the keyboard
+inline QColor Sélection{0xFF, 0xD5, 0x4F};
 } // namespace Teinte
+
+// Where no colour is told, those of the desktop, which its user needs to see anything.
+void ReprendreCouleurs(const QPalette& bureau);
 
 // Texts keep the name of the font; only the picture changes where the machine lacks it.
 void RemplacerPolicePropre();
@@ -39,8 +42,10 @@ inline constexpr int Arrondi = 9; // radius of the corners of all that has some,
 
 // The contrast ratio of two colours, from 1 to 21: WCAG 2.1.
 double Contraste(const QColor& une, const QColor& autre);
-// The ink on that ground: the one asked for, or the program's own, or white, whichever can be read.
+// The ink on that ground: the one asked for, or a dark one, or white, whichever can be read.
 QColor EncreSur(const QColor& fond, const QColor& voulue);
+// What stands on that ground without a colour of its own can be read.
+void AccorderEncre(QWidget& sol, const QColor& fond);
 
 // Everything is drawn so many times larger than usual from now on, as far as it finds room.
 void Agrandir(double facteur);

@@ -252,7 +252,7 @@ void Etiquette::PeindreContenu(QPainter& peintre, QRect place)
     const auto automatique = fond.isValid() ? EncreSur(fond, Teinte::Encre) : palette().color(QPalette::WindowText);
     const auto couleur = !isEnabled() ? Teinte::EncreEteinte : encre.isValid() ? encre : automatique;
     const auto boîte = QFontMetrics{ajusté.Police}.boundingRect(place, ajusté.Drapeaux, montré);
-    if (fond.isValid() && isEnabled())
+    if (isEnabled())
         PeindrePlaqueSous(peintre, boîte, couleur);
     if (avant > 0) {
         const int côté = LargeurSigne();
@@ -270,7 +270,9 @@ void Etiquette::PeindrePlaqueSous(QPainter& peintre, const QRect& texte, const Q
     static constexpr int GrandesLettres = 24; // pixels, and bold ones from 19 on
     static constexpr int GrandesLettresGrasses = 18;
     const bool grandes = font().pixelSize() >= (font().bold() ? GrandesLettresGrasses : GrandesLettres);
-    if (couleur == fond || Contraste(couleur, fond) >= (grandes ? 3.0 : 4.5))
+    const auto sol = fond.isValid() ? fond : Teinte::Panneau;
+    if (couleur == sol || (!fond.isValid() && !encre.isValid()) ||
+        Contraste(couleur, sol) >= (grandes || !fond.isValid() ? 3.0 : 4.5))
         return;
     peintre.setPen(Qt::NoPen);
     peintre.setBrush(EncreSur(couleur, Qt::white));
@@ -506,20 +508,23 @@ void Panneau::paintEvent(QPaintEvent* /*événement*/)
 }
 
 // Its colour fills it, or the ground of its title; below a title it is paler.
-void Panneau::PeindreCarte(QPainter& peintre) const
+QColor Panneau::Sol() const
 {
     const auto pâlir = [](const QColor& couleur) {
         static constexpr double Part = 0.16;
         const auto mêler = [](int c) { return static_cast<int>(255 - (255 - c) * Part); };
         return QColor{mêler(couleur.red()), mêler(couleur.green()), mêler(couleur.blue())};
     };
+    if (couvrant || !fond.isValid())
+        return Teinte::Panneau;
+    return titre_.isEmpty() ? fond : pâlir(fond);
+}
+
+void Panneau::PeindreCarte(QPainter& peintre) const
+{
     const bool coloré = fond.isValid();
     const bool titré = !titre_.isEmpty();
-    PeindreTouche(peintre, rect(),
-                  !coloré ? Teinte::Panneau
-                  : titré ? pâlir(fond)
-                          : fond,
-                  coloré ? fond.darker(110) : Teinte::BordPanneau, false);
+    PeindreTouche(peintre, rect(), Sol(), coloré ? fond.darker(110) : Teinte::BordPanneau, false);
     if (!titré)
         return;
     const QRect bande{1, 1, width() - 2, HauteurTitre()};

@@ -158,6 +158,8 @@ public:
     [[nodiscard]] QFont PoliceTitre() const;
     [[nodiscard]] int HauteurTitre() const;
     void AjusterMarges();
+    // What its elements stand on.
+    [[nodiscard]] QColor Sol() const;
 
 protected:
     void paintEvent(QPaintEvent* événement) override;

@@ -281,6 +281,10 @@ void InstallerApparence()
     const auto& affichage = *QGuiApplication::primaryScreen();
     Agrandir(
         AgrandissementDesLettres(QApplication::font(), affichage.logicalDotsPerInch() * affichage.devicePixelRatio()));
+    const auto duBureau = QApplication::palette();
+    const bool contrastée = EstContrastée(duBureau);
+    if (contrastée)
+        ReprendreCouleurs(duBureau);
 
     QPalette palette{Teinte::Bouton, Teinte::Fond};
     palette.setColor(QPalette::WindowText, Teinte::Encre);
@@ -288,7 +292,7 @@ void InstallerApparence()
     palette.setColor(QPalette::ButtonText, Teinte::Encre);
     palette.setColor(QPalette::PlaceholderText, Teinte::Encre);
     palette.setColor(QPalette::Base, Teinte::Panneau);
-    palette.setColor(QPalette::Button, QColor{0xE4, 0xEE, 0xF8});
+    palette.setColor(QPalette::Button, contrastée ? Teinte::Bouton : QColor{0xE4, 0xEE, 0xF8});
     palette.setColor(QPalette::Highlight, Teinte::Sélection);
     palette.setColor(QPalette::HighlightedText, Teinte::Encre);
     palette.setColor(QPalette::ToolTipBase, Teinte::Panneau);

@@ -33,7 +33,7 @@ void Vue::ColorerFond(const QColor& usuelle)
 {
     auto palette = widget->palette();
     const auto fond = EnQColor(élément.BackColor, usuelle);
-    const auto encre = EnQColor(élément.ForeColor, Teinte::Encre);
+    const auto encre = EnQColor(élément.ForeColor, EncreSur(fond, Teinte::Encre));
     if (palette.color(QPalette::Active, QPalette::Base) == fond &&
         palette.color(QPalette::Active, QPalette::Text) == encre)
         return;

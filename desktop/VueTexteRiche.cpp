@@ -416,7 +416,7 @@ void VueTexteRiche::SuivreEchelle()
 void VueTexteRiche::Synchroniser()
 {
     static_cast<Page&>(zone_).Verrouiller(boîte_.Locked);
-    ColorerFond(Teinte::Panneau);
+    ColorerFond(Qt::white); // its letters have colours of their own, chosen for paper
     Vue::Synchroniser();
     enSynchro_ = true;
     SuivreEchelle();

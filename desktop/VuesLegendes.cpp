@@ -180,6 +180,7 @@ public:
             panneau_.encre = encre;
             panneau_.update();
         }
+        AccorderEncre(panneau_, panneau_.Sol());
         Vue::Synchroniser();
     }
 
