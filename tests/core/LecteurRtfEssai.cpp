@@ -126,6 +126,29 @@ TEST(LecteurRtf, LesNulsSontIgnorés)
     EXPECT_EQ(Brut(std::string_view("\0{\\rtf1 a\0b\\b\0 c}\0", 18)), u"ab c");
 }
 
+// Wherever it stands among plain letters, and whatever stands beside it.
+TEST(LecteurRtf, UnOctetJusquAuBlancSeLitPartoutDeMême)
+{
+    const std::string lettres = "abcdefghijklmnopq";
+    const auto attendu = [](const std::string& octets) {
+        Texte texte;
+        for (const char c : octets) {
+            if (c != '\0' && c != '\r' && c != '\n')
+                texte += static_cast<char16_t>(c);
+        }
+        return texte;
+    };
+    for (char octet = 0; octet <= ' '; ++octet) {
+        for (const auto& bout : {std::string{octet}, {octet, ' '}, {' ', octet}, {octet, '\x1F'}, {'\x1F', octet}}) {
+            for (std::size_t place = 1; place <= lettres.size(); ++place) {
+                auto corps = lettres;
+                corps.insert(place, bout);
+                ASSERT_EQ(Corps(corps), attendu(corps)) << static_cast<int>(octet) << " en " << place;
+            }
+        }
+    }
+}
+
 TEST(LecteurRtf, UnMillionDeGroupesEmboîtésSeLit)
 {
     const std::size_t profondeur = 1'000'000;
