@@ -341,8 +341,9 @@ void Fenêtre::Repeindre()
     if (fermée_)
         return;
     Synchroniser();
-    // Widgets that have just come in are laid out by an event of their own.
+    // Widgets that have just come in are laid out by an event of their own, and painted by another.
     QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::UpdateLater);
     repaint();
     QCursor::pos(); // a question to the display: its answer comes after the picture
 }

@@ -406,4 +406,45 @@ TEST_F(Clics, ToutCeQuiSeCliqueRépond)
     }
 }
 
+namespace {
+
+// Counts a widget's paintings.
+class Témoin : public QObject {
+public:
+    explicit Témoin(QWidget& widget) { widget.installEventFilter(this); }
+
+    int peintures = 0;
+
+    bool eventFilter(QObject* /*vu*/, QEvent* événement) override
+    {
+        peintures += événement->type() == QEvent::Paint ? 1 : 0;
+        return false;
+    }
+};
+
+} // namespace
+
+TEST_F(Ecrans, LeCadreDeLaCorrectionSeVoitTantQuElleDure)
+{
+    Avec(éditeur, [&] {
+        application.état.NomFichierTexte = Joindre(application.état.CheminAppli, u"Le chat.rtf");
+        Témoin témoin{Widget(éditeur.frameCorrection)};
+        int avantLaCorrection = 0;
+        const auto changer = éditeur.rtfTexte.Change;
+        for (int fois = 1; fois <= 2; ++fois) { // the frame has its place before it comes a second time
+            éditeur.rtfTexte.Text(u"Le  chat dort.");
+            QCoreApplication::processEvents();
+            témoin.peintures = 0;
+            éditeur.rtfTexte.Change = [&] {
+                avantLaCorrection = témoin.peintures;
+                changer();
+            };
+            QTest::keyClick(&Widget(éditeur.rtfTexte), Qt::Key_S, Qt::ControlModifier);
+            éditeur.rtfTexte.Change = changer;
+            EXPECT_EQ(éditeur.rtfTexte.Text(), u"Le chat dort. ");
+            EXPECT_EQ(avantLaCorrection, 1) << fois;
+        }
+    });
+}
+
 } // namespace tirelune
