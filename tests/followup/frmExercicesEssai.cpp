@@ -130,9 +130,12 @@ TEST(Exercices, LégendesEtBulles)
     EXPECT_EQ(choix.lblVitesseMoyenne.ToolTipText, u" Moyenne ");
     for (const auto& moyenne : choix.lblMoyenne)
         EXPECT_EQ(moyenne.ToolTipText, u" Moyenne sur 10 pour tous les textes étudiés. ");
-    for (const auto* cadre :
-         {&choix.frmCompréhension, &choix.frmVocabulaire, &choix.frmVitesse, &choix.frmOrdre, &choix.frmOrthographe})
-        EXPECT_EQ(cadre->ToolTipText, u" Cliquer sur le cadre de couleur pour voir la progression. ");
+    const Frame* const cadres[] = {&choix.frmCompréhension, &choix.frmVocabulaire, &choix.frmVitesse, &choix.frmOrdre,
+                                   &choix.frmOrthographe};
+    for (std::size_t groupe = 0; groupe < Groupes.size(); ++groupe) {
+        EXPECT_EQ(cadres[groupe]->Caption, Texte{Groupes[groupe].Titre});
+        EXPECT_EQ(cadres[groupe]->ToolTipText, u" Cliquer sur le cadre de couleur pour voir la progression. ");
+    }
     for (const auto& image : choix.imgCourbes)
         EXPECT_EQ(image.ToolTipText, u" Cliquer ici pour voir les courbes de progression. ");
 }

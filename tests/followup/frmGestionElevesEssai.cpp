@@ -521,6 +521,19 @@ TEST(GestionEleves, UnNomRefuséGardeLaListeEtLeFichierMontré)
     EXPECT_TRUE(banc.Existe("Abel.bil") && banc.Existe("Paul.bil"));
 }
 
+TEST(GestionEleves, UnNomRefuséGardeLePremierNomMontré)
+{
+    Banc banc;
+    banc.Ecrire("Paul.bil", "");
+    banc.Ecrire("Zoé.bil", "");
+    auto& écran = banc.Ouvrir<frmGestionEleves>();
+    ASSERT_EQ(écran.cmbNoms.ListIndex, 0);
+    banc.Ecrire("Abel.bil", ""); // made on another machine: it comes first now
+    banc.AnnoncerBoîte(u"Le fichier \nZoé.bil. existe déjà !\n");
+    Valider(écran, u"Zoé");
+    EXPECT_EQ(écran.cmbNoms.Text, u"Paul");
+}
+
 // ---- What was set aside ------------------------------------------------------------------------------------------
 
 TEST(GestionEleves, SansFichierMisDeCôtéAucuneNote)
