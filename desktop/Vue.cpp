@@ -92,7 +92,8 @@ void Vue::Synchroniser()
         widget->setEnabled(élément.Enabled);
     if (placeur != nullptr)
         placeur->Placer(*this);
-    if (widget->isHidden() == élément.Visible)
+    // Said once at least, or the toolkit shows what comes into a window that is shown already.
+    if (widget->isHidden() == élément.Visible || !widget->testAttribute(Qt::WA_WState_ExplicitShowHide))
         widget->setVisible(élément.Visible);
 }
 

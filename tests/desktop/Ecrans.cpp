@@ -205,6 +205,22 @@ TEST_F(Ecrans, ToutCeQuiSeMontreASaPlaceDansLaFenêtre)
     });
 }
 
+TEST_F(Ecrans, CeQuiEstCachéLeReste)
+{
+    const auto vérifier = [&](const Ecran& écran) {
+        QCoreApplication::processEvents(); // the toolkit shows late what has come into a window
+        for (const auto* élément : écran.Eléments()) {
+            const auto* vue = Devant().VueDe(*élément);
+            if (vue != nullptr && vue->widget != nullptr && !élément->Visible) {
+                EXPECT_FALSE(vue->widget->isVisible()) << élément->Nom;
+            }
+        }
+    };
+    SurChacun([&](Ecran& écran) { vérifier(écran); });
+    frmTirelune premier{application};
+    Avec(premier, [&] { vérifier(premier); });
+}
+
 TEST_F(Ecrans, LaTabulationFaitLeTour)
 {
     SurChacun([&](Ecran& écran) {
