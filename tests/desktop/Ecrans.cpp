@@ -218,7 +218,17 @@ TEST_F(Ecrans, CeQuiEstCachéLeReste)
     };
     SurChacun([&](Ecran& écran) { vérifier(écran); });
     frmTirelune premier{application};
-    Avec(premier, [&] { vérifier(premier); });
+    plateforme.MontrerFondDAbord();
+    QTimer regard; // the background has a loop of its own
+    regard.callOnTimeout([&] {
+        if (Devant().VueDe(premier.Frame1) == nullptr)
+            return;
+        regard.stop();
+        vérifier(premier);
+        premier.Décharger();
+    });
+    regard.start(5);
+    premier.Afficher();
 }
 
 TEST_F(Ecrans, LaTabulationFaitLeTour)
