@@ -248,7 +248,7 @@ QRect Curseur(const QStyleOptionSlider& option, int moindre)
     const qint64 étendue = static_cast<qint64>(option.maximum) - option.minimum;
     if (étendue <= 0)
         return {};
-    const auto part = static_cast<int>(longueur * option.pageStep / (étendue + option.pageStep));
+    const auto part = static_cast<int>(static_cast<qint64>(longueur) * option.pageStep / (étendue + option.pageStep));
     const int taille = std::clamp(part, std::min(moindre, longueur), longueur);
     const int place = QStyle::sliderPositionFromValue(option.minimum, option.maximum, option.sliderPosition,
                                                       longueur - taille, option.upsideDown);
@@ -483,9 +483,8 @@ QSize Style::sizeFromContents(ContentsType genre, const QStyleOption* option, co
     const int hauteur = HauteurUsuelle(police);
     switch (genre) {
     case CT_LineEdit:
+    case CT_ComboBox: // it has room for a picture already, which takes the arrow
         return {contenu.width() + lettre, hauteur};
-    case CT_ComboBox:
-        return {contenu.width() + lettre, hauteur}; // it holds room for a picture, which none has
     case CT_SpinBox:
         return {contenu.width() + lettre * 2, hauteur};
     case CT_PushButton:
