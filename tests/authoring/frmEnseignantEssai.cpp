@@ -68,6 +68,7 @@ TEST(Editeur, SOuvreSurUnDocumentSansNom)
     EXPECT_FALSE(banc.écran.mnuSépa.Visible);
     EXPECT_EQ(banc.Etat("btnGauche"), Toolbar::Etat::Enfoncé);
     EXPECT_FALSE(banc.état.TexteModifié);
+    EXPECT_EQ(banc.écran.Focus(), &banc.écran.rtfTexte);
     EXPECT_EQ(banc.écran.Fond, Dégradé());
     EXPECT_EQ(banc.écran.Fond->Formes.size(), 256U);
     EXPECT_EQ(banc.écran.Fond->Formes.back().Fond, Couleur::Rvb(0, 255, 255));
