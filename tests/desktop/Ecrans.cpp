@@ -263,6 +263,35 @@ TEST_F(Ecrans, LaTabulationFaitLeTour)
     });
 }
 
+TEST_F(Ecrans, LaTabulationSuitLOrdreDuTravail)
+{
+    // What is pressed first comes first, round by round.
+    const std::vector<std::pair<std::string, std::vector<std::string>>> ordres{
+        {"frmPhotographier", {"cmdAfficher", "lblRéponse(0)", "lblRéponse(9)", "cmdQuitter"}},
+        {"frmSérie", {"cmdVoir", "lblChoix(0)", "lblChoix(9)", "cmdContinuer"}},
+        {"frmQuestionnaire1", {"cmdCommencer", "cmdOk", "chkRéponse(0)", "chkRéponse(4)", "cmdVérifier"}},
+        {"frmPoursuite", {"cmdCommencer", "rtfPoursuite", "lblMot(0)", "lblMot(9)", "cmdContinuer"}},
+        {"frmMotsEnDésordre", {"lblMot(0)", "txtPhrase", "cmdTerminé", "cmdSuivant"}},
+        {"frmPendu", {"lblLettre(0)", "lblLettre(25)", "cmdSuivant"}},
+    };
+    for (const auto& [nom, ordre] : ordres) {
+        SCOPED_TRACE(nom);
+        Montrer(nom, [&, attendu = ordre](Ecran& /*écran*/) {
+            std::vector<std::string> rencontrés;
+            auto* premier = Devant().findChild<QWidget*>(EnQString(attendu.front()));
+            ASSERT_NE(premier, nullptr);
+            auto* ici = premier;
+            do {
+                const auto un = ici->objectName().toStdString();
+                if (std::find(attendu.begin(), attendu.end(), un) != attendu.end())
+                    rencontrés.push_back(un);
+                ici = ici->nextInFocusChain();
+            } while (ici != premier);
+            EXPECT_EQ(rencontrés, attendu);
+        });
+    }
+}
+
 TEST_F(Ecrans, LaCroixFerme)
 {
     SurChacun([&](Ecran& écran) {
