@@ -391,7 +391,8 @@ bool frmEnseignant::DemanderEnregistrement()
 {
     if (!état.TexteModifié)
         return true;
-    if (!application_.Demander(u"Les modifications n'ont pas été enregistrées.\nSouhaitez-vous le faire?"))
+    if (!application_.Demander(u"Les modifications n'ont pas été enregistrées.\nSouhaitez-vous le faire?",
+                               {.Danger = Perte::ParNon}))
         return true;
     if (Enregistrer() == Issue::Echec)
         return false;
@@ -556,7 +557,7 @@ void frmEnseignant::mnuAuto_Click()
                                u"au texte saisi (correction à l'enregistrement).\n\n"
                                u"Souhaitez-vous supprimer cette fonction ?\n\n"
                                u"La désactivation pourrait entraîner des problèmes dans le module Elève !!!",
-                               u"Espaces et Ponctuation"))
+                               {.Danger = Perte::ParOui, .Titre = u"Espaces et Ponctuation"}))
         return;
     mnuAuto.Checked = !mnuAuto.Checked;
 }

@@ -9,10 +9,14 @@ void Application::Avertir(Texte message, Texte titre, Icône symbole)
     plateforme.AfficherBoîte({std::move(message), std::move(titre), Boutons::Ok, symbole});
 }
 
-bool Application::Demander(Texte question, Texte titre)
+bool Application::Demander(Texte question, Enjeu enjeu)
 {
-    return plateforme.AfficherBoîte({std::move(question), std::move(titre), Boutons::OuiNon, Icône::Question}) ==
-           Réponse::Oui;
+    return plateforme.AfficherBoîte({.Message = std::move(question),
+                                     .Titre = std::move(enjeu.Titre),
+                                     .Choix = Boutons::OuiNon,
+                                     .Symbole = Icône::Question,
+                                     .Danger = enjeu.Danger,
+                                     .Objet = std::move(enjeu.Objet)}) == Réponse::Oui;
 }
 
 } // namespace tirelune

@@ -13,6 +13,13 @@ namespace tirelune {
 
 class Ecran;
 
+// Which answer to a question loses something, and what it is about where its text doesn't tell.
+struct Enjeu {
+    Perte Danger = Perte::Aucune;
+    Texte Objet{};
+    Texte Titre = u"Avertissement";
+};
+
 class Application {
 public:
     // Makes the screen; the opener is the screen that asks for it.
@@ -29,7 +36,7 @@ public:
     // A box with one button.
     void Avertir(Texte message, Texte titre = u"Avertissement", Icône symbole = Icône::Information);
     // A box with Yes and No.
-    bool Demander(Texte question, Texte titre = u"Avertissement");
+    bool Demander(Texte question, Enjeu enjeu = {});
 };
 
 } // namespace tirelune

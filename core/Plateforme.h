@@ -20,12 +20,16 @@ class Timer;
 enum class Boutons { Ok, OkAnnuler, OuiNon };
 enum class Réponse { Ok, Annuler, Oui, Non };
 enum class Icône { Information, Question, Critique };
+// Which answer destroys or loses something: the other one is at hand, and closing the box never gives this one.
+enum class Perte { Aucune, ParOui, ParNon };
 
 struct Boîte {
     Texte Message{};
     Texte Titre = u"Avertissement";
     Boutons Choix = Boutons::Ok;
     Icône Symbole = Icône::Information;
+    Perte Danger = Perte::Aucune;
+    Texte Objet{}; // what the question is about, on a line of its own
 };
 
 // Filter as "Textes RTF|*.rtf|Tous fichiers|*.*".

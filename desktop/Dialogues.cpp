@@ -69,6 +69,7 @@ BoîteMessage::BoîteMessage(const Boîte& boîte, QWidget* parent) : QMessageBo
     setTextFormat(Qt::PlainText);
     setWindowTitle(EnQString(boîte.Titre));
     setText(SansCoupureFautive(EnQString(boîte.Message).remove(u'\r')));
+    setInformativeText(EnQString(boîte.Objet));
     setIcon(boîte.Symbole == Icône::Critique   ? QMessageBox::Critical
             : boîte.Symbole == Icône::Question ? QMessageBox::Question
                                                : QMessageBox::Information);
@@ -85,8 +86,13 @@ BoîteMessage::BoîteMessage(const Boîte& boîte, QWidget* parent) : QMessageBo
         return bouton;
     };
     if (boîte.Choix == Boutons::OuiNon) {
-        setDefaultButton(ajouter(QStringLiteral("&Oui"), AcceptRole));
-        setEscapeButton(ajouter(QStringLiteral("&Non"), RejectRole));
+        // Where closing would lose something, the toolkit must find no button that closing stands for.
+        const bool sansRefus = boîte.Danger == Perte::ParNon;
+        auto* oui = ajouter(QStringLiteral("&Oui"), AcceptRole);
+        auto* non = ajouter(QStringLiteral("&Non"), sansRefus ? DestructiveRole : RejectRole);
+        setDefaultButton(boîte.Danger == Perte::ParOui ? non : oui);
+        if (!sansRefus)
+            setEscapeButton(non);
         return;
     }
     auto* ok = ajouter(QStringLiteral("OK"), AcceptRole);

@@ -100,7 +100,8 @@ void Corriger(const JeuDAssociation& jeu, const std::function<bool(int)>& juste)
 {
     auto& écran = jeu.Bouton.EcranDe();
     jeu.Bouton.Enabled = false;
-    if (!EstComplet(jeu) && !écran.ApplicationDe().Demander(u"Tu n'a pas terminé !\nVeux-tu vraiment quitter ?")) {
+    if (!EstComplet(jeu) && !écran.ApplicationDe().Demander(u"Tu n'a pas terminé !\nVeux-tu vraiment quitter ?",
+                                                            {.Danger = Perte::ParOui})) {
         jeu.Bouton.Enabled = true;
         return;
     }

@@ -142,8 +142,9 @@ void frmExercices::QueryUnload()
     // The grid goes with the screen: after a save that failed, this is the last one, and the file may be gone.
     if (BilanEnregistré || SauverBilan(*this) ||
         application_.Demander(u"Les résultats de " + état.NomElève +
-                              u" ne sont pas enregistrés. Si tu quittes maintenant, ils peuvent être tous perdus, "
-                              u"même ceux des autres jours.\n\nVeux-tu quitter quand même ?"))
+                                  u" ne sont pas enregistrés. Si tu quittes maintenant, ils peuvent être tous perdus, "
+                                  u"même ceux des autres jours.\n\nVeux-tu quitter quand même ?",
+                              {.Danger = Perte::ParOui}))
         Décharger();
 }
 

@@ -223,7 +223,9 @@ void frmGestionEleves::cmdSupprimer_Click()
         DemanderCode();
         return;
     }
-    if (cmbNoms.ListCount() > 0 && application_.Demander(u"Destruction irréversible. Souhaitez-vous continuer ?"))
+    if (cmbNoms.ListCount() > 0 &&
+        application_.Demander(u"Destruction irréversible. Souhaitez-vous continuer ?",
+                              {.Danger = Perte::ParOui, .Objet = u"Elève : " + cmbNoms.Text()}))
         SupprimerElève();
 }
 

@@ -204,6 +204,7 @@ TEST_P(Départ, AvecDesChangementsDemandeEtNonLesLaisse)
     Partir(banc.écran);
     EXPECT_EQ(banc.plateforme.boîtesMontrées[0].Titre, u"Avertissement");
     EXPECT_EQ(banc.plateforme.boîtesMontrées[0].Choix, Boutons::OuiNon);
+    EXPECT_EQ(banc.plateforme.boîtesMontrées[0].Danger, Perte::ParNon);
     EXPECT_FALSE(banc.écran.EstChargé());
     EXPECT_FALSE(banc.Existe("chat.rtf"));
     EXPECT_FALSE(banc.état.TexteModifié);

@@ -373,6 +373,8 @@ TEST(GestionEleves, PremièreSuppressionCréeLeCodeEtPoseLaQuestion)
     EXPECT_EQ(banc.Lire("Code.txt"), "\"120388\"\r\n");
     EXPECT_EQ(banc.plateforme.boîtesMontrées.back().Choix, Boutons::OuiNon);
     EXPECT_EQ(banc.plateforme.boîtesMontrées.back().Titre, u"Avertissement");
+    EXPECT_EQ(banc.plateforme.boîtesMontrées.back().Danger, Perte::ParOui);
+    EXPECT_EQ(banc.plateforme.boîtesMontrées.back().Objet, u"Elève : Paul");
     EXPECT_FALSE(banc.Existe("Paul.bil"));
     EXPECT_FALSE(écran.txtCode.Visible || écran.txtVérif.Visible || écran.lblCode.Visible);
     EXPECT_TRUE(banc.état.CodeValide);
