@@ -388,10 +388,6 @@ bool Fenêtre::Filtrer(QObject* visé, QEvent* événement)
 {
     if (fermée_ || !visé->isWidgetType())
         return false;
-    if (événement->type() == QEvent::MouseButtonPress) {
-        Synchroniser();
-        return false;
-    }
     if (événement->type() != QEvent::KeyPress && événement->type() != QEvent::InputMethod)
         return false;
     Synchroniser();

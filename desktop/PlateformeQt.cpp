@@ -444,6 +444,8 @@ void PlateformeQt::FocusChangé()
 bool PlateformeQt::eventFilter(QObject* visé, QEvent* événement)
 {
     switch (événement->type()) {
+    case QEvent::Show:
+    case QEvent::WindowActivate:
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonRelease:
     case QEvent::MouseButtonDblClick:
@@ -462,14 +464,24 @@ bool PlateformeQt::eventFilter(QObject* visé, QEvent* événement)
     default:
         return false;
     }
-    if (entréeJetée_)
+    const bool entrée = événement->type() != QEvent::Show && événement->type() != QEvent::WindowActivate;
+    if (entrée && entréeJetée_)
         return true;
-    if (événement->type() == QEvent::ContextMenu)
+    return visé->isWidgetType() && Filtrer(static_cast<QWidget&>(*visé), *événement);
+}
+
+bool PlateformeQt::Filtrer(QWidget& visé, QEvent& événement)
+{
+    auto* devant = Devant();
+    if (devant == nullptr || visé.window() != devant)
+        devant = nullptr;
+    else if (événement.type() == QEvent::MouseButtonPress || événement.type() == QEvent::MouseButtonDblClick)
+        devant->Synchroniser(); // what is clicked is what the screen shows
+    if (gestes_.Ecarter(visé, événement))
+        return true;
+    if (événement.type() == QEvent::ContextMenu)
         ChargerTraductions();
-    if (auto* devant = Devant();
-        devant != nullptr && visé->isWidgetType() && static_cast<QWidget*>(visé)->window() == devant)
-        return devant->Filtrer(visé, événement);
-    return false;
+    return devant != nullptr && devant->Filtrer(&visé, &événement);
 }
 
 } // namespace tirelune

@@ -1,6 +1,7 @@
 // The platform on a real display: windows, nested event loops, dialogs, clock and dice.
 #pragma once
 #include "core/Plateforme.h"
+#include "desktop/Gestes.h"
 
 #include <QObject>
 
@@ -71,6 +72,8 @@ private:
     class Séjour; // the time spent in such a loop
 
     char16_t SigneDécimal() override;
+    // What the program's widgets get to see. True: swallowed.
+    bool Filtrer(QWidget& visé, QEvent& événement);
 
     void MontrerFond(Fenêtre& fenêtre);
     // A window has been painted: what was put off until the first picture may come.
@@ -85,6 +88,7 @@ private:
     void FocusChangé();
     void ListerPolices();
 
+    Gestes gestes_;
     std::mt19937_64 dés_;
     unsigned long amorces_ = 0;
     std::vector<Fenêtre*> fenêtres_;

@@ -3,12 +3,14 @@
 #include "desktop/Conversions.h"
 #include "desktop/Vues.h"
 
+#include <QContextMenuEvent>
 #include <QLineEdit>
 #include <QMouseEvent>
 #include <QPlainTextEdit>
 #include <QSignalBlocker>
 
 #include <algorithm>
+#include <utility>
 
 namespace tirelune {
 
@@ -37,25 +39,50 @@ private:
         }
 
     protected:
+        void mousePressEvent(QMouseEvent* événement) override
+        {
+            pressée_ = événement->button() == Qt::LeftButton;
+            visée_ = cursorPositionAt(événement->position().toPoint());
+            if (!vue_.boîte_.Locked)
+                QLineEdit::mousePressEvent(événement);
+        }
+        void mouseMoveEvent(QMouseEvent* événement) override
+        {
+            if (!vue_.boîte_.Locked)
+                QLineEdit::mouseMoveEvent(événement);
+        }
         void mouseReleaseEvent(QMouseEvent* événement) override
         {
-            QLineEdit::mouseReleaseEvent(événement);
-            if (événement->button() == Qt::LeftButton && !hasSelectedText() && vue_.Agissante() && !double_)
-                vue_.boîte_.Cliquer(static_cast<std::size_t>(cursorPosition()));
-            double_ = false;
+            const bool clic = événement->button() == Qt::LeftButton && std::exchange(pressée_, false);
+            const bool verrouillée = vue_.boîte_.Locked;
+            const bool collage = événement->button() == Qt::MiddleButton;
+            if (!verrouillée && !(collage && vue_.boîte_.KeyPress)) // pasting is for its handler to allow, as keys are
+                QLineEdit::mouseReleaseEvent(événement);
+            const bool dedans = rect().contains(événement->position().toPoint());
+            if (!clic || !vue_.Agissante() || (verrouillée ? !dedans : hasSelectedText()))
+                return;
+            // A locked text is clicked like a label: where the button went down, wherever the pointer slips to.
+            vue_.boîte_.Cliquer(static_cast<std::size_t>(verrouillée ? visée_ : cursorPosition()));
         }
         void mouseDoubleClickEvent(QMouseEvent* événement) override
         {
-            double_ = true;
+            pressée_ = false; // the release to come ends this, and clicks no more
             const auto position = cursorPositionAt(événement->position().toPoint());
-            QLineEdit::mouseDoubleClickEvent(événement);
+            if (!vue_.boîte_.Locked)
+                QLineEdit::mouseDoubleClickEvent(événement);
             if (vue_.Agissante())
                 vue_.boîte_.DoubleCliquer(static_cast<std::size_t>(position));
+        }
+        void contextMenuEvent(QContextMenuEvent* événement) override
+        {
+            if (!vue_.boîte_.KeyPress)
+                QLineEdit::contextMenuEvent(événement);
         }
 
     private:
         VueChamp& vue_;
-        bool double_ = false;
+        int visée_ = 0; // where the button went down
+        bool pressée_ = false;
     };
 
     void Modifier(const QString& texte);
@@ -148,8 +175,7 @@ public:
         const QSignalBlocker silence{zone_};
         zone_.setReadOnly(boîte_.Locked);
         static_cast<Zone&>(zone_).SeMesurer();
-        zone_.setTextInteractionFlags(boîte_.Locked ? Qt::TextInteractionFlags{Qt::TextSelectableByMouse}
-                                                    : Qt::TextEditorInteraction);
+        zone_.setTextInteractionFlags(boîte_.Locked ? Qt::NoTextInteraction : Qt::TextEditorInteraction);
         if (const auto texte = Affiché(); texte != zone_.toPlainText()) {
             zone_.setPlainText(texte);
             zone_.updateGeometry();
@@ -203,22 +229,39 @@ private:
         }
 
     protected:
+        void mousePressEvent(QMouseEvent* événement) override
+        {
+            pressée_ = événement->button() == Qt::LeftButton;
+            visée_ = cursorForPosition(événement->position().toPoint()).position();
+            if (!vue_.boîte_.Locked)
+                QPlainTextEdit::mousePressEvent(événement);
+        }
         void mouseReleaseEvent(QMouseEvent* événement) override
         {
-            QPlainTextEdit::mouseReleaseEvent(événement);
-            if (événement->button() == Qt::LeftButton && !textCursor().hasSelection() && vue_.Agissante())
-                vue_.boîte_.Cliquer(vue_.DepuisWidget(textCursor().position()));
+            const bool clic = événement->button() == Qt::LeftButton && std::exchange(pressée_, false);
+            const bool verrouillée = vue_.boîte_.Locked;
+            if (!verrouillée)
+                QPlainTextEdit::mouseReleaseEvent(événement);
+            const bool dedans = viewport()->rect().contains(événement->position().toPoint());
+            if (!clic || !vue_.Agissante() || (verrouillée ? !dedans : textCursor().hasSelection()))
+                return;
+            // A locked text is clicked like a label: where the button went down, wherever the pointer slips to.
+            vue_.boîte_.Cliquer(vue_.DepuisWidget(verrouillée ? visée_ : textCursor().position()));
         }
         void mouseDoubleClickEvent(QMouseEvent* événement) override
         {
+            pressée_ = false; // the release to come ends this, and clicks no more
             const int position = cursorForPosition(événement->position().toPoint()).position();
-            QPlainTextEdit::mouseDoubleClickEvent(événement);
+            if (!vue_.boîte_.Locked)
+                QPlainTextEdit::mouseDoubleClickEvent(événement);
             if (vue_.Agissante())
                 vue_.boîte_.DoubleCliquer(vue_.DepuisWidget(position));
         }
 
     private:
         VueTexteSimple& vue_;
+        int visée_ = 0; // where the button went down
+        bool pressée_ = false;
     };
 
     [[nodiscard]] QString Affiché() const

@@ -1,0 +1,458 @@
+// What hands do without meaning it, on every screen: keys held down, double clicks, small drags.
+#include "desktop/Dialogues.h"
+#include "followup/frmGestionEleves.h"
+#include "tests/desktop/Clics.h"
+
+#include <QAbstractButton>
+#include <QDialog>
+#include <QFile>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPointer>
+
+#include <algorithm>
+#include <optional>
+
+namespace tirelune {
+
+namespace {
+
+void Enfoncer(QWidget& widget, int touche, bool répétée = false, const QString& texte = {})
+{
+    QTest::simulateEvent(&widget, true, touche, Qt::NoModifier, texte, répétée);
+}
+
+void Relâcher(QWidget& widget, int touche)
+{
+    QTest::simulateEvent(&widget, false, touche, Qt::NoModifier, {}, false);
+}
+
+// The window in front, be it a box.
+QWidget& EnAvant()
+{
+    auto* boîte = QApplication::activeModalWidget();
+    return boîte != nullptr ? *boîte : *QApplication::activeWindow();
+}
+
+QWidget& AuClavier()
+{
+    auto& fenêtre = EnAvant();
+    return fenêtre.focusWidget() != nullptr ? *fenêtre.focusWidget() : fenêtre;
+}
+
+QString Légende(const QWidget* widget)
+{
+    if (const auto* bouton = qobject_cast<const QAbstractButton*>(widget))
+        return bouton->text();
+    const auto* étiquette = qobject_cast<const QLabel*>(widget);
+    return étiquette != nullptr ? étiquette->text() : QString{};
+}
+
+void EnvoyerSouris(QWidget& widget, QEvent::Type type, QPoint lieu)
+{
+    const auto bouton = type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton;
+    const auto tenus = type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::LeftButton;
+    QMouseEvent événement{type, QPointF{lieu}, widget.mapToGlobal(QPointF{lieu}), bouton, tenus, Qt::NoModifier};
+    QCoreApplication::sendEvent(&widget, &événement);
+}
+
+// What lies at the point of the display in the window in front.
+QWidget& SousLePointeur(QPoint global)
+{
+    auto& fenêtre = EnAvant();
+    auto* dessous = fenêtre.childAt(fenêtre.mapFromGlobal(global));
+    return dessous != nullptr ? *dessous : fenêtre;
+}
+
+void SecondClic(QPoint global)
+{
+    auto& touché = SousLePointeur(global);
+    const QPointer<QWidget> encore{&touché};
+    EnvoyerSouris(touché, QEvent::MouseButtonDblClick, touché.mapFromGlobal(global));
+    if (encore != nullptr)
+        EnvoyerSouris(*encore, QEvent::MouseButtonRelease, encore->mapFromGlobal(global));
+}
+
+class EcranMains : public EcranEssai {
+public:
+    using EcranEssai::EcranEssai;
+
+    Button cmdSuite{*this, "cmdSuite", u"&Suite"};
+    Button cmdAutre{*this, "cmdAutre", u"&Autre"};
+    TextBox txtNom{*this, "txtNom"};
+    TextBox txtNotes{*this, "txtNotes", {.MultiLine = true}};
+    TextBox txtChoix{*this, "txtChoix", {.Caption = u"Le chat dort sous la table.", .MultiLine = true}};
+    TextBox txtLigne{*this, "txtLigne", {.Caption = u"Le chat dort."}};
+    Frame frameFin{*this, "frameFin", {.Caption = u"Fini", .Visible = false}};
+    Button cmdQuitter{*this, "cmdQuitter", u"&Quitter"};
+
+    Arrangement Disposer() override
+    {
+        return Colonne{Ligne{cmdSuite, cmdAutre},         txtNom, txtNotes, txtChoix, txtLigne,
+                       Cadre{frameFin, Ligne{cmdQuitter}}};
+    }
+};
+
+class Mains : public Clics {
+protected:
+    static constexpr int Longtemps = 20; // repeats, or turns of the loop
+
+    // Holds a key on the widget; what comes up meanwhile gets its repeats, and stays. Then the screen is left.
+    void Tenir(Ecran& écran, QWidget& widget, int touche);
+    void CliquerDeuxFois(Ecran& écran, const Clic& clic);
+
+    EcranMains banc{application};
+};
+
+void Mains::Tenir(Ecran& écran, QWidget& widget, int touche)
+{
+    int tours = 0;
+    QPointer<QWidget> venue;
+    QTimer relève;
+    QObject::connect(&relève, &QTimer::timeout, [&] {
+        if (venue == nullptr)
+            venue = &EnAvant();
+        EXPECT_EQ(venue.data(), &EnAvant()) << "une touche tenue a répondu";
+        if (++tours <= Longtemps)
+            Enfoncer(AuClavier(), touche, true);
+        else
+            Sortir(écran);
+    });
+    relève.start(0);
+    Enfoncer(widget, touche);
+    while (écran.EstChargé())
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+}
+
+void Mains::CliquerDeuxFois(Ecran& écran, const Clic& clic)
+{
+    auto* touché = Devant().childAt(clic.Widget->mapTo(&Devant(), clic.Lieu));
+    const auto global = clic.Widget->mapToGlobal(clic.Lieu);
+    const auto légende = Légende(touché);
+    int tours = 0;
+    bool changé = true;
+    const QWidget* venue = nullptr;
+    QTimer relève;
+    QObject::connect(&relève, &QTimer::timeout, [&] {
+        if (++tours == 1) {
+            venue = &EnAvant();
+            SecondClic(global);
+            return;
+        }
+        EXPECT_TRUE(!changé || venue == &EnAvant()) << "un second clic a répondu";
+        changé = false;
+        Sortir(écran);
+    });
+    relève.start(0);
+    clic.Donner();
+    ASSERT_EQ(réponses, 1);
+    if (tours > 0 || !écran.EstChargé())
+        return; // the second click has come upon something else
+    Mettre();
+    changé = &SousLePointeur(global) != touché || Légende(touché) != légende;
+    venue = &EnAvant();
+    tours = 1;
+    SecondClic(global);
+    EXPECT_LE(réponses, changé ? 1 : 2);
+}
+
+} // namespace
+
+// ---- Held keys -------------------------------------------------------------------------------------------------
+
+TEST_F(Mains, UneToucheTenueNePresseQuUneFois)
+{
+    SurChaqueClic([&](Ecran& écran, const Clic& clic) {
+        if (clic.Widget == nullptr || (clic.Widget->focusPolicy() & Qt::TabFocus) == 0)
+            return;
+        clic.Widget->setFocus(Qt::TabFocusReason);
+        Tenir(écran, *clic.Widget, Qt::Key_Return);
+        EXPECT_LE(réponses, 1);
+    });
+}
+
+TEST_F(Mains, EntréeTenueNeSupprimePersonne)
+{
+    Montrer("frmGestionEleves", [&](Ecran& écran) {
+        auto& gestion = dynamic_cast<frmGestionEleves&>(écran);
+        application.état.CodeValide = true;
+        auto& bouton = Widget(gestion.cmdSupprimer);
+        bouton.setFocus(Qt::TabFocusReason);
+        Ensuite(
+            [] { EXPECT_EQ(dynamic_cast<QMessageBox&>(EnAvant()).informativeText(), QStringLiteral("Elève : Léa")); });
+        Tenir(écran, bouton, Qt::Key_Return);
+    });
+    EXPECT_TRUE(QFile::exists(dossier.filePath("Léa.bil")));
+}
+
+TEST_F(Mains, UneLettreTenueNeComptePasPourPlusieurs)
+{
+    Montrer("frmPendu", [&](Ecran& écran) {
+        int touches = 0;
+        Devant().Synchroniser();
+        for (auto* élément : écran.Eléments()) {
+            auto* lettre = dynamic_cast<Label*>(élément);
+            if (lettre == nullptr || !lettre->Nom.starts_with("lblLettre"))
+                continue;
+            lettre->Click = [&touches] { ++touches; };
+        }
+        Enfoncer(AuClavier(), Qt::Key_Z, false, QStringLiteral("z"));
+        for (int i = 0; i < Longtemps; ++i)
+            Enfoncer(AuClavier(), Qt::Key_Z, true, QStringLiteral("z"));
+        EXPECT_EQ(touches, 1);
+    });
+}
+
+TEST_F(Mains, DansUnChampUneLettreTenueSeRépète)
+{
+    Avec(banc, [&] {
+        for (TextBox* champ : {&banc.txtNom, &banc.txtNotes}) {
+            auto& widget = Widget(*champ);
+            widget.setFocus();
+            Enfoncer(widget, Qt::Key_A, false, QStringLiteral("a"));
+            for (int i = 0; i < 4; ++i)
+                Enfoncer(widget, Qt::Key_A, true, QStringLiteral("a"));
+            EXPECT_EQ(champ->Text, u"aaaaa");
+            for (int i = 0; i < 4; ++i)
+                Enfoncer(widget, Qt::Key_Backspace, i > 0);
+            EXPECT_EQ(champ->Text, u"a");
+            Relâcher(widget, Qt::Key_Backspace);
+            Relâcher(widget, Qt::Key_A);
+        }
+    });
+}
+
+TEST_F(Mains, EntréeTenueDansUnChampNeConfirmeQuUneFois)
+{
+    int confirmés = 0;
+    banc.txtNom.Enter = [&] { ++confirmés; };
+    Avec(banc, [&] {
+        auto& champ = Widget(banc.txtNom);
+        champ.setFocus();
+        Enfoncer(champ, Qt::Key_Return);
+        for (int i = 0; i < Longtemps; ++i)
+            Enfoncer(champ, Qt::Key_Return, true);
+        EXPECT_EQ(confirmés, 1);
+    });
+}
+
+TEST_F(Mains, UneToucheTenueNÉcritPasDansLÉcranQuiVient)
+{
+    EcranMains dessus{application};
+    banc.cmdSuite.Click = [&] {
+        Ensuite([&] {
+            auto& champ = Widget(dessus.txtNom);
+            champ.setFocus();
+            Enfoncer(champ, Qt::Key_Space, true, QStringLiteral(" "));
+            EXPECT_EQ(dessus.txtNom.Text, u"");
+            Relâcher(champ, Qt::Key_Space);
+            Enfoncer(champ, Qt::Key_Space, false, QStringLiteral(" ")); // let go, it writes again
+            Enfoncer(champ, Qt::Key_Space, true, QStringLiteral(" "));
+            EXPECT_EQ(dessus.txtNom.Text, u"  ");
+            dessus.Décharger();
+        });
+        dessus.Afficher();
+    };
+    Avec(banc, [&] {
+        Widget(banc.cmdSuite).setFocus();
+        Enfoncer(Widget(banc.cmdSuite), Qt::Key_Space, false, QStringLiteral(" "));
+        Relâcher(Widget(banc.cmdSuite), Qt::Key_Return);
+        banc.cmdSuite.Cliquer();
+    });
+}
+
+TEST_F(Mains, UneToucheTenueNeParcourtPasLeCadreQuiVient)
+{
+    banc.cmdSuite.Click = [&] { banc.frameFin.Visible = true; };
+    Avec(banc, [&] {
+        auto& champ = Widget(banc.txtNom);
+        champ.setFocus();
+        Enfoncer(champ, Qt::Key_A, false, QStringLiteral("a"));
+        banc.cmdSuite.Cliquer();
+        Mettre();
+        Enfoncer(champ, Qt::Key_A, true, QStringLiteral("a"));
+        EXPECT_EQ(banc.txtNom.Text, u"a");
+    });
+}
+
+TEST_F(Mains, UnRaccourciTenuNeSertQuUneFois)
+{
+    int pressions = 0;
+    banc.cmdSuite.Click = [&] { ++pressions; };
+    Avec(banc, [&] {
+        auto& champ = Widget(banc.txtNom);
+        champ.setFocus();
+        QTest::simulateEvent(&champ, true, Qt::Key_S, Qt::AltModifier, QStringLiteral("s"), false);
+        EXPECT_TRUE(QTest::qWaitFor([&] { return pressions == 1; })); // the button goes down and up by itself
+        QTest::simulateEvent(&champ, true, Qt::Key_S, Qt::AltModifier, QStringLiteral("s"), true);
+        EXPECT_FALSE(Widget<QAbstractButton>(banc.cmdSuite).isDown());
+    });
+}
+
+// ---- Double clicks ---------------------------------------------------------------------------------------------
+
+TEST_F(Mains, UnSecondClicNePressePasCeQuiVientDeChanger)
+{
+    SurChaqueClic([&](Ecran& écran, const Clic& clic) {
+        if (clic.Widget != nullptr)
+            CliquerDeuxFois(écran, clic);
+    });
+}
+
+TEST_F(Mains, VérifierPuisSuivanteVeutDeuxClicsPosés)
+{
+    int pressions = 0;
+    banc.cmdSuite.Click = [&] {
+        ++pressions;
+        banc.cmdSuite.Caption = pressions % 2 != 0 ? u"Autre chose" : u"&Suite";
+    };
+    Avec(banc, [&] {
+        auto& bouton = Widget(banc.cmdSuite);
+        DoubleCliquer(bouton, bouton.rect().center());
+        EXPECT_EQ(pressions, 1);
+        Cliquer(banc.cmdSuite); // later: meant
+        EXPECT_EQ(pressions, 2);
+        // The third of a quick run comes as a plain press.
+        const auto lieu = bouton.rect().center();
+        const auto presser = [&](ulong moment) {
+            for (const auto type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
+                QMouseEvent événement{type,           QPointF{lieu},  bouton.mapToGlobal(QPointF{lieu}),
+                                      Qt::LeftButton, Qt::LeftButton, Qt::NoModifier};
+                événement.setTimestamp(moment);
+                QCoreApplication::sendEvent(&bouton, &événement);
+            }
+        };
+        const ulong début = 1'000'000;
+        for (const ulong moment : {début, début + 150, début + 300})
+            presser(moment);
+        EXPECT_EQ(pressions, 3);
+        presser(début + 2000);
+        EXPECT_EQ(pressions, 4);
+    });
+}
+
+TEST_F(Mains, UnBoutonInchangéPrendLesDeuxClics)
+{
+    int pressions = 0;
+    banc.cmdSuite.Click = [&] { ++pressions; };
+    Avec(banc, [&] {
+        auto& bouton = Widget(banc.cmdSuite);
+        DoubleCliquer(bouton, bouton.rect().center());
+        EXPECT_EQ(pressions, 2);
+    });
+}
+
+TEST_F(Mains, UnBoutonQuiVientSousLePointeurNePrendPasLeSecondClic)
+{
+    int pressions = 0;
+    banc.cmdAutre.Visible = false;
+    banc.cmdAutre.Click = [&] { ++pressions; };
+    Avec(banc, [&] {
+        auto& bouton = Widget(banc.cmdAutre);
+        const auto global = bouton.mapToGlobal(bouton.rect().center());
+        QTest::mouseClick(&Devant(), Qt::LeftButton, {}, Devant().mapFromGlobal(global));
+        banc.cmdAutre.Visible = true;
+        Mettre();
+        SecondClic(global);
+        EXPECT_EQ(pressions, 0);
+    });
+}
+
+// ---- Small drags -----------------------------------------------------------------------------------------------
+
+TEST_F(Mains, UnClicQuiGlisseUnPeuEstUnClic)
+{
+    SurChaqueClic([&](Ecran& écran, const Clic& clic) {
+        if (clic.Widget == nullptr)
+            return;
+        QTimer secours;
+        QObject::connect(&secours, &QTimer::timeout, [&] { Sortir(écran); });
+        secours.start(0);
+        auto& touché = SousLePointeur(clic.Widget->mapToGlobal(clic.Lieu));
+        const auto lieu = touché.mapFrom(clic.Widget, clic.Lieu);
+        EnvoyerSouris(touché, QEvent::MouseButtonPress, lieu);
+        EnvoyerSouris(touché, QEvent::MouseMove, lieu + QPoint{2, 1});
+        EnvoyerSouris(touché, QEvent::MouseMove, lieu + QPoint{4, 1});
+        EnvoyerSouris(touché, QEvent::MouseButtonRelease, lieu + QPoint{4, 1});
+        EXPECT_EQ(réponses, 1);
+    });
+}
+
+TEST_F(Mains, UnTexteVerrouilléSeCliqueOùLeBoutonDescend)
+{
+    std::vector<std::size_t> places;
+    for (TextBox* boîte : {&banc.txtChoix, &banc.txtLigne}) {
+        boîte->Locked = true;
+        boîte->Click = [&places, boîte] { places.push_back(boîte->SelStart); };
+    }
+    Avec(banc, [&] {
+        for (const TextBox* boîte : {&banc.txtChoix, &banc.txtLigne}) {
+            auto& widget = Widget(*boîte);
+            auto* touché = widget.childAt(30, 12) != nullptr ? widget.childAt(30, 12) : &widget;
+            const auto glisser = [&](int pixels) {
+                EnvoyerSouris(*touché, QEvent::MouseButtonPress, {30, 12});
+                EnvoyerSouris(*touché, QEvent::MouseMove, {30 + pixels, 12});
+                EnvoyerSouris(*touché, QEvent::MouseButtonRelease, {30 + pixels, 12});
+            };
+            places.clear();
+            for (const int pixels : {0, 4, 60, 4, 0})
+                glisser(pixels);
+            ASSERT_EQ(places.size(), 5U) << boîte->Nom;
+            EXPECT_EQ(std::count(places.begin(), places.end(), places.front()), 5) << boîte->Nom;
+            EXPECT_GT(places.front(), 0U);
+            EXPECT_EQ(boîte->SelLength(), 0U);
+            // The button came down elsewhere.
+            EnvoyerSouris(*touché, QEvent::MouseButtonRelease, {30, 12});
+            EXPECT_EQ(places.size(), 5U);
+        }
+    });
+}
+
+// ---- Questions -------------------------------------------------------------------------------------------------
+
+TEST_F(Mains, EntréeNeDétruitPas)
+{
+    Avec(banc, [&] {
+        Ensuite([] { QTest::keyClick(&AuClavier(), Qt::Key_Return); });
+        EXPECT_FALSE(application.Demander(u"Détruire ?", {.Danger = Perte::ParOui}));
+        Ensuite([] { QTest::keyClick(&AuClavier(), Qt::Key_Return); });
+        EXPECT_TRUE(application.Demander(u"Enregistrer ?", {.Danger = Perte::ParNon}));
+        Ensuite([] { QTest::keyClick(&AuClavier(), Qt::Key_Return); });
+        EXPECT_TRUE(application.Demander(u"Continuer ?"));
+    });
+}
+
+TEST_F(Mains, EchappementEtLaCroixNePerdentRien)
+{
+    Avec(banc, [&] {
+        for (const bool croix : {false, true}) {
+            Ensuite([croix] { croix ? (void)EnAvant().close() : QTest::keyClick(&AuClavier(), Qt::Key_Escape); });
+            EXPECT_FALSE(application.Demander(u"Détruire ?", {.Danger = Perte::ParOui}));
+            Ensuite([croix] {
+                auto& boîte = dynamic_cast<QMessageBox&>(EnAvant());
+                croix ? (void)boîte.close() : QTest::keyClick(&AuClavier(), Qt::Key_Escape);
+                EXPECT_TRUE(boîte.isVisible()) << "ni oui ni non";
+                Ensuite([&boîte] { boîte.findChild<QAbstractButton*>("&Non")->click(); });
+            });
+            EXPECT_FALSE(application.Demander(u"Enregistrer ?", {.Danger = Perte::ParNon}));
+        }
+        Ensuite([&] { banc.Décharger(); });
+        EXPECT_FALSE(application.Demander(u"Enregistrer ?", {.Danger = Perte::ParNon}));
+    });
+}
+
+TEST_F(Mains, LaQuestionNommeCeQuElleConcerne)
+{
+    Avec(banc, [&] {
+        Ensuite([] {
+            auto& boîte = dynamic_cast<QMessageBox&>(EnAvant());
+            EXPECT_EQ(boîte.text(), QStringLiteral("Détruire\u00A0?"));
+            EXPECT_EQ(boîte.informativeText(), QStringLiteral("Elève : Léa"));
+            boîte.reject();
+        });
+        EXPECT_FALSE(application.Demander(u"Détruire ?", {.Danger = Perte::ParOui, .Objet = u"Elève : Léa"}));
+    });
+}
+
+} // namespace tirelune
