@@ -112,6 +112,13 @@ void Ecran::FocusVenu(Elément& élément)
         élément.GotFocus();
 }
 
+void Ecran::FocusParti()
+{
+    const auto* avant = std::exchange(focus_, nullptr);
+    if (avant != nullptr && chargé_ && avant->LostFocus)
+        avant->LostFocus();
+}
+
 void Ecran::Avertir(Texte message, Texte titre)
 {
     application_.Avertir(std::move(message), std::move(titre));

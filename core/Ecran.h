@@ -77,6 +77,7 @@ public:
     [[nodiscard]] Elément* Focus() const { return focus_; }
     void PrendreFocus(Elément& élément);
     void FocusVenu(Elément& élément);
+    void FocusParti(); // to no other element
 
     void Inscrire(Elément& élément) { éléments_.push_back(&élément); }
     void Inscrire(Timer& minuterie) { minuteries_.push_back(&minuterie); }

@@ -33,13 +33,6 @@ void PeindreTouche(QPainter& peintre, const QRectF& place, const QColor& face, c
     peintre.drawRoundedRect(dessus.adjusted(1, 1, -1, -1), Arrondi, Arrondi);
 }
 
-void PeindreAnneau(QPainter& peintre, const QRect& place)
-{
-    peintre.setPen(QPen{Teinte::Anneau, 2.5});
-    peintre.setBrush(Qt::NoBrush);
-    peintre.drawRoundedRect(QRectF{place}.adjusted(1.5, 1.5, -1.5, -1.5), Arrondi, Arrondi);
-}
-
 int Interligne(const QFont& police)
 {
     return QFontMetrics{police}.lineSpacing();
@@ -178,8 +171,6 @@ void Etiquette::paintEvent(QPaintEvent* /*événement*/)
         peintre.setBrush(Qt::NoBrush);
         peintre.drawRoundedRect(QRectF{rect()}.adjusted(1, 1, -1, -1), Arrondi, Arrondi);
     }
-    if (hasFocus() && choisie_)
-        PeindreAnneau(peintre, rect());
 }
 
 void Etiquette::PeindreFond(QPainter& peintre) const
@@ -211,13 +202,6 @@ void Etiquette::PeindreFond(QPainter& peintre) const
     peintre.setPen(QPen{Teinte::Tranche, 2});
     peintre.setBrush(Qt::NoBrush);
     peintre.drawRoundedRect(place.adjusted(1, 1, -1, -1), Arrondi, Arrondi);
-}
-
-void Etiquette::focusInEvent(QFocusEvent* événement)
-{
-    if (événement->reason() != Qt::ActiveWindowFocusReason && événement->reason() != Qt::PopupFocusReason)
-        choisie_ = true;
-    QLabel::focusInEvent(événement);
 }
 
 void Etiquette::PeindreContenu(QPainter& peintre, QRect place)
@@ -310,7 +294,7 @@ void Etiquette::keyPressEvent(QKeyEvent* événement)
 {
     const bool touche =
         événement->key() == Qt::Key_Space || événement->key() == Qt::Key_Return || événement->key() == Qt::Key_Enter;
-    if (cliquable_ && choisie_ && touche && !événement->isAutoRepeat())
+    if (cliquable_ && touche && !événement->isAutoRepeat())
         clic();
     else
         événement->ignore();
@@ -395,8 +379,6 @@ void Bouton::paintEvent(QPaintEvent* /*événement*/)
     peintre.setFont(ajusté.Police);
     peintre.setPen(!isEnabled() ? Teinte::EncreEteinte : encre.isValid() ? encre : Teinte::Encre);
     peintre.drawText(place, ajusté.Drapeaux, text());
-    if (hasFocus())
-        PeindreAnneau(peintre, rect());
 }
 
 void Bouton::enterEvent(QEnterEvent* événement)

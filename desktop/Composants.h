@@ -59,7 +59,6 @@ protected:
     void keyPressEvent(QKeyEvent* événement) override;
     void enterEvent(QEnterEvent* événement) override;
     void leaveEvent(QEvent* événement) override;
-    void focusInEvent(QFocusEvent* événement) override;
     // What stands inside the borders; a drawing in the derived class.
     virtual void PeindreContenu(QPainter& peintre, QRect place);
 
@@ -78,7 +77,6 @@ private:
     bool cliquable_ = false;
     bool pressée_ = false;
     bool survolée_ = false;
-    bool choisie_ = false; // by the keyboard's user, not by the toolkit that needs some widget to start with
     TexteAjusté ajusté_;
 };
 

@@ -11,8 +11,12 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QKeyEvent>
+#include <QPlainTextEdit>
 #include <QScreen>
+#include <QScrollBar>
+#include <QTextEdit>
 #include <QVBoxLayout>
+#include <QWindow>
 
 #include <algorithm>
 #include <utility>
@@ -52,9 +56,16 @@ Fenêtre::Fenêtre(Ecran& écran, const QWidget* dessous)
     tout->addWidget(&contenu_, 1);
 }
 
+void Fenêtre::ResterAuDessus()
+{
+    winId(); // the window manager is told about windows that exist
+    windowHandle()->setTransientParent(dessous_ != nullptr ? dessous_->windowHandle() : nullptr);
+}
+
 void Fenêtre::MontrerFond()
 {
     setGeometry(pleine_);
+    ResterAuDessus();
     // Without a window manager nothing answers to this, and the geometry stands.
     showMaximized();
 }
@@ -115,6 +126,7 @@ void Fenêtre::Ouvrir()
         if (écran_.LaisseVoir)
             place.moveTopRight(dessous.topRight() - QPoint{Ecart, -Ecart}); // over bars rather than over text
         setGeometry(place);
+        ResterAuDessus();
         show();
     } else if (!isVisible()) {
         MontrerFond();
@@ -249,6 +261,7 @@ void Fenêtre::Synchroniser()
         NoterGéométrie();
         if (focusDemandé_)
             DonnerFocus();
+        GarderFocus();
         if (QuelquUnEcoute())
             NommerChamps(vues_);
     }
@@ -295,6 +308,8 @@ void Fenêtre::NoterFocus()
         return;
     if (const auto* vue = vues_.VueDuWidget(focusWidget()); vue != nullptr)
         vue->élément.RecevoirFocus();
+    else if (focusWidget() == this && !focusDemandé_)
+        écran_.FocusParti();
 }
 
 void Fenêtre::SynchroniserFenêtre()
@@ -314,7 +329,7 @@ void Fenêtre::DonnerFocus()
             return;
         }
     }
-    if (focusWidget() != nullptr)
+    if (focusWidget() != nullptr && focusWidget() != this)
         return;
     // Where there is something to type, typing can start at once.
     for (auto* élément : écran_.Eléments()) {
@@ -326,6 +341,47 @@ void Fenêtre::DonnerFocus()
             return;
         }
     }
+    GarderFocus();
+}
+
+namespace {
+
+bool PeutAvoirLeClavier(const QWidget& widget)
+{
+    return widget.isVisible() && widget.isEnabled();
+}
+
+} // namespace
+
+// Left to the toolkit, it would come to whatever element is next, and Enter would press that.
+void Fenêtre::GarderFocus()
+{
+    auto* ici = focusWidget();
+    if (ici == this || (ici != nullptr && PeutAvoirLeClavier(*ici)))
+        return;
+    quitté_ = ici;
+    setFocus(Qt::OtherFocusReason);
+}
+
+bool Fenêtre::focusNextPrevChild(bool suivant)
+{
+    if (auto* ici = focusWidget(); ici != nullptr && ici != this && !PeutAvoirLeClavier(*ici)) {
+        GarderFocus(); // it was taken away, and nobody has asked for the next
+        return true;
+    }
+    if (focusWidget() != this || quitté_ == nullptr)
+        return QWidget::focusNextPrevChild(suivant);
+    const auto voisin = [suivant](const QWidget* un) {
+        return suivant ? un->nextInFocusChain() : un->previousInFocusChain();
+    };
+    for (auto* un = voisin(quitté_); un != quitté_; un = voisin(un)) {
+        if (un == this || (un->focusPolicy() & Qt::TabFocus) == 0 || un->focusProxy() != nullptr ||
+            !PeutAvoirLeClavier(*un))
+            continue;
+        un->setFocus(suivant ? Qt::TabFocusReason : Qt::BacktabFocusReason);
+        return true;
+    }
+    return QWidget::focusNextPrevChild(suivant);
 }
 
 void Fenêtre::NoterGéométrie()
@@ -382,6 +438,32 @@ void Fenêtre::closeEvent(QCloseEvent* événement)
     événement->ignore();
     if (!fermée_)
         écran_.FermerParCroix();
+}
+
+// Keys that nobody wanted move the text that is to be read.
+void Fenêtre::keyPressEvent(QKeyEvent* événement)
+{
+    static constexpr int Défilantes[] = {Qt::Key_Up,       Qt::Key_Down, Qt::Key_PageUp,
+                                         Qt::Key_PageDown, Qt::Key_Home, Qt::Key_End};
+    const bool défile = std::count(std::begin(Défilantes), std::end(Défilantes), événement->key()) > 0;
+    if (auto* barre = défile ? BarreDeLecture() : nullptr; barre != nullptr)
+        QCoreApplication::sendEvent(barre, événement);
+    else
+        QWidget::keyPressEvent(événement);
+}
+
+QScrollBar* Fenêtre::BarreDeLecture() const
+{
+    QAbstractScrollArea* plusGrand = nullptr;
+    for (const auto& vue : vues_) {
+        auto* zone = qobject_cast<QAbstractScrollArea*>(vue->widget);
+        const bool texte = qobject_cast<QTextEdit*>(zone) != nullptr || qobject_cast<QPlainTextEdit*>(zone) != nullptr;
+        if (!texte || !zone->isVisible() || !zone->isEnabled() || zone->verticalScrollBar()->maximum() == 0)
+            continue;
+        if (plusGrand == nullptr || zone->height() > plusGrand->height())
+            plusGrand = zone;
+    }
+    return plusGrand != nullptr ? plusGrand->verticalScrollBar() : nullptr;
 }
 
 bool Fenêtre::Filtrer(QObject* visé, QEvent* événement)

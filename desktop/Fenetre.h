@@ -6,11 +6,14 @@
 #include "desktop/JeuDeVues.h"
 #include "desktop/Vue.h"
 
+#include <QPointer>
 #include <QRect>
 #include <QWidget>
 
 #include <functional>
 #include <vector>
+
+class QScrollBar;
 
 namespace tirelune {
 
@@ -59,6 +62,8 @@ public:
 protected:
     bool event(QEvent* événement) override;
     void closeEvent(QCloseEvent* événement) override;
+    void keyPressEvent(QKeyEvent* événement) override;
+    bool focusNextPrevChild(bool suivant) override;
 
 private:
     void Eviter(const QRect& lieu);
@@ -72,7 +77,10 @@ private:
     void RevoirVues();
     void PlacerPosés();
     void NoterGéométrie(); // writes back where the elements stand
+    void ResterAuDessus(); // of the window below, whatever becomes of both
     void DonnerFocus();
+    void GarderFocus(); // the keyboard waits in the window itself when its element is gone
+    [[nodiscard]] QScrollBar* BarreDeLecture() const;
     void Réveiller(); // asks for Synchroniser before the next events
 
     Ecran& écran_;
@@ -85,7 +93,8 @@ private:
     Bâtisseur bâtisseur_;
     std::vector<Vue*> sales_;
     double échelle_ = 1;
-    QRect pleine_; // where it stands when it fills the display
+    QRect pleine_;             // where it stands when it fills the display
+    QPointer<QWidget> quitté_; // had the keyboard last: Tab goes on from there
     bool fermée_ = false;
     bool ouverte_ = false;
     bool réveillée_ = false;

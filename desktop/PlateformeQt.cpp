@@ -55,7 +55,10 @@ PlateformeQt::PlateformeQt()
     AmorcerHasard();
     InstallerAccessibilité();
     qApp->installEventFilter(this);
-    QObject::connect(qApp, &QApplication::focusChanged, this, [this] { FocusChangé(); });
+    QObject::connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* foyer) {
+        anneau_.Suivre(foyer);
+        FocusChangé();
+    });
 }
 
 PlateformeQt::~PlateformeQt()
@@ -479,6 +482,7 @@ bool PlateformeQt::Filtrer(QWidget& visé, QEvent& événement)
         devant->Synchroniser(); // what is clicked is what the screen shows
     if (gestes_.Ecarter(visé, événement))
         return true;
+    anneau_.Voir(événement);
     if (événement.type() == QEvent::ContextMenu)
         ChargerTraductions();
     return devant != nullptr && devant->Filtrer(&visé, &événement);

@@ -1,6 +1,7 @@
 // The platform on a real display: windows, nested event loops, dialogs, clock and dice.
 #pragma once
 #include "core/Plateforme.h"
+#include "desktop/Anneau.h"
 #include "desktop/Gestes.h"
 
 #include <QObject>
@@ -89,6 +90,7 @@ private:
     void ListerPolices();
 
     Gestes gestes_;
+    Anneau anneau_;
     std::mt19937_64 dés_;
     unsigned long amorces_ = 0;
     std::vector<Fenêtre*> fenêtres_;

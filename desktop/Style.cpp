@@ -45,12 +45,6 @@ bool A(const QStyleOption& option, QStyle::State état)
     return (option.state & état) == état;
 }
 
-// Around what has the keyboard, once the keyboard has been used to get there.
-bool MontreAnneau(const QStyleOption& option)
-{
-    return A(option, QStyle::State_HasFocus | QStyle::State_KeyboardFocusChange);
-}
-
 void PeindreContour(QPainter& peintre, const QRectF& place, const QColor& trait, const QBrush& fond, double coin = Coin,
                     double épaisseur = Bord)
 {
@@ -59,12 +53,6 @@ void PeindreContour(QPainter& peintre, const QRectF& place, const QColor& trait,
     peintre.setPen(QPen{trait, épaisseur});
     peintre.setBrush(fond);
     peintre.drawRoundedRect(place.adjusted(retrait, retrait, -retrait, -retrait), coin, coin);
-}
-
-void PeindreAnneau(QPainter& peintre, const QRectF& place)
-{
-    static constexpr double Epaisseur = 3;
-    PeindreContour(peintre, place, Teinte::Anneau, Qt::NoBrush, Coin, Epaisseur);
 }
 
 QBrush Fond(const QStyleOption& option)
@@ -79,8 +67,6 @@ void PeindreChamp(QPainter& peintre, const QStyleOption& option, bool saisie)
     const bool survolé = A(option, QStyle::State_MouseOver | QStyle::State_Enabled);
     PeindreContour(peintre, QRectF{option.rect}, actif || survolé ? Teinte::BordActif : Teinte::BordChamp,
                    Fond(option));
-    if (MontreAnneau(option))
-        PeindreAnneau(peintre, QRectF{option.rect});
 }
 
 void PeindreFlèche(QPainter& peintre, const QRectF& place, double côté, bool versLeBas, const QColor& teinte)
@@ -150,8 +136,6 @@ void PeindreBouton(QPainter& peintre, const QStyleOption& option)
                        : survolé ? Teinte::BoutonSurvolé
                                  : Teinte::Bouton);
     }
-    if (MontreAnneau(option))
-        PeindreAnneau(peintre, place);
 }
 
 // A small button: of a tool bar, or with a picture in a dialog.
@@ -170,8 +154,6 @@ void PeindreOutil(QPainter& peintre, const QStyleOption& option)
                    : survolé ? Teinte::BoutonSurvolé
                    : permis  ? Teinte::Panneau
                              : Teinte::Eteint);
-    if (MontreAnneau(option))
-        PeindreAnneau(peintre, QRectF{option.rect});
 }
 
 void PeindreChoix(QPainter& peintre, const QRectF& place)
@@ -351,9 +333,7 @@ void Style::drawPrimitive(PrimitiveElement élément, const QStyleOption* option
             PeindreContour(*peintre, QRectF{option->rect}.adjusted(1, 1, -1, -1), Teinte::BordBouton, Qt::NoBrush,
                            Coin - Bord);
         break;
-    case PE_FrameFocusRect:
-        if (A(*option, State_KeyboardFocusChange))
-            PeindreAnneau(*peintre, QRectF{option->rect});
+    case PE_FrameFocusRect: // every element has the same ring: see Anneau
         break;
     case PE_PanelMenu:
         PeindreContour(*peintre, QRectF{option->rect}, Teinte::BordChamp, Teinte::Panneau);

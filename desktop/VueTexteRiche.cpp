@@ -247,37 +247,68 @@ private:
         return {cadre.left(), cadre.top(), std::max(4, largeur), cadre.height()};
     }
 
-    // The keyboard's way of clicking: arrows lead to a character, Enter and the space bar click it.
+    // The keyboard's way of clicking: arrows lead to a character, Enter and the space bar click it. Where nothing
+    // answers to a click, the window scrolls what is to be read.
     void Jouer(QKeyEvent& événement)
     {
-        if (événement.key() == Qt::Key_Return || événement.key() == Qt::Key_Enter || événement.key() == Qt::Key_Space) {
-            clavier_ = true;
-            if (vue_.Agissante())
-                vue_.boîte_.Cliquer(vue_.DepuisWidget(Visé()));
-            viewport()->update();
-            return;
-        }
-        using Pas = QTextCursor::MoveOperation;
-        static constexpr std::pair<int, Pas> Chemins[] = {{Qt::Key_Left, Pas::PreviousCharacter},
-                                                          {Qt::Key_Right, Pas::NextCharacter},
-                                                          {Qt::Key_Up, Pas::Up},
-                                                          {Qt::Key_Down, Pas::Down},
-                                                          {Qt::Key_Home, Pas::StartOfLine},
-                                                          {Qt::Key_End, Pas::EndOfLine}};
-        const auto* pas = std::find_if(std::begin(Chemins), std::end(Chemins),
-                                       [&](const auto& un) { return un.first == événement.key(); });
-        if (pas == std::end(Chemins)) {
+        if (!vue_.boîte_.Click) {
             événement.ignore();
             return;
         }
+        switch (événement.key()) {
+        case Qt::Key_Return:
+        case Qt::Key_Enter:
+        case Qt::Key_Space:
+            Pointer(Visé());
+            if (vue_.Agissante())
+                vue_.boîte_.Cliquer(vue_.DepuisWidget(Visé()));
+            return;
+        case Qt::Key_PageUp:
+            return Feuilleter(QAbstractSlider::SliderPageStepSub);
+        case Qt::Key_PageDown:
+            return Feuilleter(QAbstractSlider::SliderPageStepAdd);
+        case Qt::Key_Left:
+            return Aller(QTextCursor::PreviousCharacter);
+        case Qt::Key_Right:
+            return Aller(QTextCursor::NextCharacter);
+        case Qt::Key_Up:
+            return Aller(QTextCursor::Up);
+        case Qt::Key_Down:
+            return Aller(QTextCursor::Down);
+        case Qt::Key_Home:
+            return Aller(QTextCursor::Start);
+        case Qt::Key_End:
+            return Aller(QTextCursor::End);
+        default:
+            événement.ignore();
+        }
+    }
+
+    void Pointer(int position)
+    {
+        clavier_ = true;
+        Viser(position);
+    }
+
+    // The character pointed at stays where it is in the window; the text moves under it.
+    void Feuilleter(QAbstractSlider::SliderAction page)
+    {
+        const auto lieu = CadreVisé().center();
+        verticalScrollBar()->triggerAction(page);
+        Pointer(CaractèreSous({lieu.x(), std::clamp(lieu.y(), 0, viewport()->height() - 1)}));
+    }
+
+    void Aller(QTextCursor::MoveOperation pas)
+    {
         QTextCursor ici{document()};
         ici.setPosition(Visé());
-        ici.movePosition(pas->second);
-        clavier_ = true;
-        Viser(ici.position());
+        ici.movePosition(pas);
+        Pointer(ici.position());
         const auto cadre = CadreVisé();
         auto* barre = verticalScrollBar();
-        if (cadre.top() < 0)
+        if (pas == QTextCursor::Start || pas == QTextCursor::End)
+            barre->setValue(pas == QTextCursor::Start ? 0 : barre->maximum());
+        else if (cadre.top() < 0)
             barre->setValue(barre->value() + cadre.top());
         else if (cadre.bottom() > viewport()->height())
             barre->setValue(barre->value() + cadre.bottom() - viewport()->height());

@@ -530,9 +530,11 @@ TEST_F(Eléments, LeClavierQuiVientEtQuiPartSeDit)
         EXPECT_EQ(suite, "+nom "); // said at once, and only once
         Mettre();
         EXPECT_EQ(suite, "+nom ");
-        écran.txtNom.Visible = false; // the keyboard goes on to what comes next
+        écran.txtNom.Visible = false; // the keyboard waits for Tab
         Mettre();
         EXPECT_EQ(suite, "+nom -nom ");
+        EXPECT_EQ(écran.Focus(), nullptr);
+        QTest::keyClick(&Devant(), Qt::Key_Tab);
         EXPECT_EQ(écran.Focus(), &écran.txtCode);
     });
 }

@@ -4,12 +4,17 @@
 #include "tests/desktop/Clics.h"
 
 #include <QAbstractButton>
+#include <QAbstractScrollArea>
 #include <QDialog>
 #include <QFile>
+#include <QFocusFrame>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPointer>
+#include <QScrollBar>
+#include <QWheelEvent>
+#include <QWindow>
 
 #include <algorithm>
 #include <optional>
@@ -92,6 +97,16 @@ public:
         return Colonne{Ligne{cmdSuite, cmdAutre},         txtNom, txtNotes, txtChoix, txtLigne,
                        Cadre{frameFin, Ligne{cmdQuitter}}};
     }
+};
+
+class EcranTextes : public EcranEssai {
+public:
+    using EcranEssai::EcranEssai;
+
+    RichTextBox rtfLu{*this, "rtfLu"};
+    TextBox txtLu{*this, "txtLu", {.MultiLine = true}};
+
+    Arrangement Disposer() override { return Colonne{rtfLu, txtLu}; }
 };
 
 class Mains : public Clics {
@@ -406,6 +421,187 @@ TEST_F(Mains, UnTexteVerrouilléSeCliqueOùLeBoutonDescend)
             EnvoyerSouris(*touché, QEvent::MouseButtonRelease, {30, 12});
             EXPECT_EQ(places.size(), 5U);
         }
+    });
+}
+
+// ---- The keyboard's place --------------------------------------------------------------------------------------
+
+TEST_F(Mains, LeClavierNeVientQueLàOùLÉcranLeDemande)
+{
+    const auto vérifier = [&](const Ecran& écran) {
+        const auto* ici = Devant().focusWidget();
+        ASSERT_NE(ici, nullptr);
+        if (ici == &Devant() || qobject_cast<const QLineEdit*>(ici) != nullptr)
+            return;
+        const auto* vue = Devant().VueDuWidget(ici);
+        ASSERT_NE(vue, nullptr);
+        EXPECT_EQ(&vue->élément, écran.Focus()) << vue->élément.Nom;
+    };
+    SurChacun([&](Ecran& écran) {
+        QApplication::setActiveWindow(nullptr);
+        QApplication::setActiveWindow(&Devant()); // the toolkit likes to give it to somebody then
+        vérifier(écran);
+        // What has it goes: it goes nowhere.
+        for (auto* élément : écran.Eléments()) {
+            const auto* vue = Devant().VueDe(*élément);
+            if (vue == nullptr || vue->widget == nullptr || (vue->widget->focusPolicy() & Qt::TabFocus) == 0 ||
+                !vue->widget->isVisible() || !vue->widget->isEnabled())
+                continue;
+            for (Propriété<bool>* propriété : {&élément->Visible, &élément->Enabled}) {
+                vue->widget->setFocus(Qt::TabFocusReason);
+                *propriété = false;
+                Mettre();
+                EXPECT_EQ(Devant().focusWidget(), &Devant()) << élément->Nom;
+                *propriété = true;
+                Mettre();
+            }
+        }
+    });
+}
+
+TEST_F(Mains, TabRepartDOùLeClavierÉtait)
+{
+    Avec(banc, [&] {
+        Widget(banc.txtNom).setFocus();
+        banc.txtNom.Visible = false;
+        Mettre();
+        EXPECT_EQ(Devant().focusWidget(), &Devant());
+        QTest::keyClick(&Devant(), Qt::Key_Tab);
+        EXPECT_EQ(Devant().focusWidget(), &Widget(banc.txtNotes));
+        banc.txtNotes.Enabled = false;
+        Mettre();
+        QTest::keyClick(&Devant(), Qt::Key_Backtab, Qt::ShiftModifier);
+        EXPECT_EQ(Devant().focusWidget(), &Widget(banc.cmdAutre));
+    });
+}
+
+TEST_F(Mains, UnCadreQuiPartOuQuiCouvreNeDonnePasLeClavier)
+{
+    int pressions = 0;
+    banc.cmdSuite.Click = [&] { ++pressions; };
+    banc.cmdAutre.Click = [&] { ++pressions; };
+    banc.frameFin.Visible = true;
+    Avec(banc, [&] {
+        Widget(banc.cmdQuitter).setFocus(Qt::TabFocusReason);
+        banc.frameFin.Visible = false;
+        Mettre();
+        EXPECT_EQ(Devant().focusWidget(), &Devant());
+        for (const auto touche : {Qt::Key_Return, Qt::Key_Space})
+            QTest::keyClick(&Devant(), touche);
+        EXPECT_EQ(pressions, 0);
+    });
+}
+
+TEST_F(Mains, LAnneauNeVientQuAvecUneTouche)
+{
+    SurChacun([&](Ecran& /*écran*/) {
+        const auto cadre = [&] { return Devant().findChild<QFocusFrame*>(); };
+        QTest::mouseClick(&Devant(), Qt::LeftButton, {}, {1, Devant().height() - 1});
+        EXPECT_TRUE(cadre() == nullptr || !cadre()->isVisible());
+        std::set<const QWidget*> vus;
+        for (auto* ici = Devant().focusWidget();; ici = Devant().focusWidget()) {
+            QTest::keyClick(ici, Qt::Key_Tab, ici->objectName() == "rtfTexte" ? Qt::ControlModifier : Qt::NoModifier);
+            const auto* là = Devant().focusWidget();
+            ASSERT_NE(là, &Devant());
+            if (!vus.insert(là).second)
+                break;
+            ASSERT_NE(cadre(), nullptr);
+            EXPECT_TRUE(cadre()->isVisible()) << là->objectName().toStdString();
+            EXPECT_TRUE(cadre()->widget() == là || cadre()->widget() == là->parentWidget());
+            const QRect autour{cadre()->mapToGlobal(QPoint{0, 0}), cadre()->size()};
+            EXPECT_TRUE(autour.contains(QRect{là->mapToGlobal(QPoint{0, 0}), là->size()}))
+                << là->objectName().toStdString();
+        }
+        EXPECT_FALSE(vus.empty());
+        QTest::mouseClick(&Devant(), Qt::LeftButton, {}, {1, Devant().height() - 1});
+        EXPECT_TRUE(cadre() == nullptr || !cadre()->isVisible());
+    });
+}
+
+TEST_F(Mains, UnÉcranResteAuDessusDeCeluiQuiLAOuvert)
+{
+    EcranMains dessus{application};
+    Avec(banc, [&] {
+        auto* dessous = &Devant();
+        Ensuite([&] {
+            EXPECT_NE(&Devant(), dessous);
+            EXPECT_EQ(Devant().windowHandle()->transientParent(), dessous->windowHandle());
+            dessus.Décharger();
+        });
+        dessus.Afficher();
+        dessus.PetiteFenêtre = true;
+        Ensuite([&] {
+            EXPECT_EQ(Devant().windowHandle()->transientParent(), dessous->windowHandle());
+            dessus.Décharger();
+        });
+        dessus.Afficher();
+    });
+}
+
+// ---- Texts to read -----------------------------------------------------------------------------------------------
+
+TEST_F(Mains, LesTouchesFontDéfilerCeQuiSeLit)
+{
+    Texte long_;
+    for (int i = 0; i < 200; ++i)
+        long_ += u"Une ligne à lire.\r\n";
+    const auto parcourir = [&](QAbstractScrollArea& zone, QWidget& clavier) {
+        auto* barre = zone.verticalScrollBar();
+        ASSERT_GT(barre->maximum(), 0);
+        barre->setValue(0);
+        int avant = 0;
+        for (const auto touche : {Qt::Key_PageDown, Qt::Key_Down, Qt::Key_End}) {
+            for (int i = 0; i < 2 && avant != barre->maximum(); ++i)
+                QTest::keyClick(&clavier, touche);
+            EXPECT_GT(barre->value(), avant) << touche;
+            avant = barre->value();
+        }
+        for (const auto touche : {Qt::Key_PageUp, Qt::Key_Up, Qt::Key_Home}) {
+            for (int i = 0; i < 2; ++i)
+                QTest::keyClick(&clavier, touche);
+            EXPECT_LT(barre->value(), avant) << touche;
+            avant = barre->value();
+        }
+        EXPECT_EQ(barre->value(), 0);
+        QWheelEvent molette{QPointF{30, 30},
+                            zone.viewport()->mapToGlobal(QPointF{30, 30}),
+                            {},
+                            {0, -120},
+                            Qt::NoButton,
+                            Qt::NoModifier,
+                            Qt::NoScrollPhase,
+                            false};
+        QCoreApplication::sendEvent(zone.viewport(), &molette);
+        EXPECT_GT(barre->value(), 0);
+    };
+    EcranTextes textes{application};
+    textes.rtfLu.Locked = true;
+    textes.rtfLu.Text(long_);
+    textes.txtLu.Locked = true;
+    textes.txtLu.Text = long_;
+    Avec(textes, [&] {
+        auto& riche = Widget<QAbstractScrollArea>(textes.rtfLu);
+        auto& simple = Widget<QAbstractScrollArea>(textes.txtLu);
+        riche.setFocus();
+        parcourir(riche, riche);
+        simple.setFocus();
+        parcourir(simple, simple);
+        // A text that answers clicks takes the arrows for its characters, and shows them.
+        textes.rtfLu.Click = [] {};
+        riche.setFocus();
+        auto* barre = riche.verticalScrollBar();
+        barre->setValue(0);
+        QTest::keyClick(&riche, Qt::Key_PageDown);
+        EXPECT_GT(barre->value(), 0);
+        QTest::keyClick(&riche, Qt::Key_End);
+        EXPECT_EQ(barre->value(), barre->maximum());
+        QTest::keyClick(&riche, Qt::Key_Home);
+        EXPECT_EQ(barre->value(), 0);
+        // With the keyboard nowhere, what is to be read moves all the same.
+        textes.rtfLu.Enabled = false;
+        Mettre();
+        ASSERT_EQ(Devant().focusWidget(), &Devant());
+        parcourir(simple, Devant());
     });
 }
 
