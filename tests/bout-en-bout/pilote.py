@@ -37,6 +37,8 @@ PROGRAMME = os.environ.get("TIRELUNE_PROGRAMME", os.path.join(SOURCES, "build", 
 GREFFONS = os.environ.get("TIRELUNE_GREFFONS", os.path.join(SOURCES, "build", "release", "tests", "greffon"))
 CAPTURES = os.path.join(SOURCES, "build", "seance")
 DELAI = 20.0  # seconds, for anything that is to happen
+DELAI_DOUBLE_CLIC = 0.5  # seconds, somewhat more than the program's
+DISTANCE_DOUBLE_CLIC = 12  # pixels, the same
 PAS = 0.03    # between two looks
 SANS_TOUCHE = "âêîôûäëïöüÿñæœÀÂÉÈÊËÎÏÔÛÙÜÇÆŒ«»’…–—\u00a0"
 
@@ -286,6 +288,7 @@ class Pilote:
         self.nom = nom
         self.enveloppe = enveloppe
         self.reussis = self.echoues = self.numero_capture = 0
+        self.dernier_clic = 0, 0, 0.0
         self.captures = os.path.join(CAPTURES, nom)
         shutil.rmtree(self.captures, ignore_errors=True)
         os.makedirs(self.captures)
@@ -476,6 +479,11 @@ class Pilote:
         self.clic(cible, fois=2)
 
     def clic_en(self, x, y, bouton=1, fois=1):
+        # A hand that means a second click where it has just clicked takes its time; a quicker one is a double click.
+        avant_x, avant_y, avant = self.dernier_clic
+        if abs(x - avant_x) + abs(y - avant_y) <= DISTANCE_DOUBLE_CLIC:
+            time.sleep(max(0, avant + DELAI_DOUBLE_CLIC - time.monotonic()))
+        self.dernier_clic = x, y, time.monotonic()
         self._xdotool("mousemove", x, y, "click", "--repeat", fois, "--delay", 40, bouton)
 
     def ecarter_la_souris(self):
