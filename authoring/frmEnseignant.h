@@ -56,7 +56,7 @@ public:
     Frame framePolices{*this, "framePolices", {.Visible = false}};
     ScrollBar scrlPolices{*this, "scrlPolices", {.Libellé = u"Polices"}};
 
-    RichTextBox rtfTexte{*this, "rtfTexte", {.Police = u"Comic Sans MS"}};
+    RichTextBox rtfTexte{*this, "rtfTexte", {.Police = u"Comic Sans MS", .Tabulations = true}};
     RichTextBox rtfSauve{*this, "rtfSauve", {.Visible = false}}; // what btnAnnuler brings back
     Frame frameCorrection{*this, "frameCorrection", {.Caption = u"Patience...", .Visible = false}};
     TextBox txtMessageCorrection{

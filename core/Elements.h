@@ -44,6 +44,7 @@ struct EtatInitial {
     bool Sorted = false;      // of lists
     bool Saisie = false;      // of a combo box: values may be typed
     bool MultiLine = false;   // of a text box
+    bool Tabulations = false; // of a rich text box: Tab writes a tab
     bool UneLigne = false;    // of a rich text box: as high as its first line, which never breaks
     bool PourFichier = false; // of a text box: holds only what a field file can hold
     std::size_t MaxLength = 0;

@@ -20,7 +20,7 @@ void Appeler(const std::function<void()>& événement)
 } // namespace
 
 RichTextBox::RichTextBox(Ecran& écran, std::string_view nom, const EtatInitial& initial)
-    : Elément(écran, nom, initial), UneLigne(initial.UneLigne)
+    : Elément(écran, nom, initial), Tabulations(initial.Tabulations), UneLigne(initial.UneLigne)
 {
 }
 

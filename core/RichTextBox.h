@@ -60,6 +60,7 @@ public:
     std::function<void()> SelChange; // the selection has moved
 
     Propriété<bool> Locked{*this, false}; // the user can't change the text
+    const bool Tabulations;               // Tab writes a tab
     const bool UneLigne;                  // as high as its first line, which never breaks
 
     // The formatted text, copied whole from box to box.

@@ -77,6 +77,18 @@ void BarreMenus::Remplir(Hôte& hôte, JeuDeVues& vues, QWidget& où, const std:
     }
 }
 
+void PoserRaccourcis(Hôte& hôte, JeuDeVues& vues, const std::vector<Elément*>& éléments, QWidget& fenêtre)
+{
+    for (auto* élément : éléments) {
+        auto* option = dynamic_cast<MenuOption*>(élément);
+        if (option == nullptr || option->Raccourci.empty() || vues.VueDe(*option) != nullptr)
+            continue;
+        auto* action = new QAction{&fenêtre};
+        fenêtre.addAction(action);
+        vues.Ajouter(std::make_unique<VueMenu>(hôte, *option, *action, nullptr));
+    }
+}
+
 void BarreMenus::Ajuster(double échelle, int largeur)
 {
     // A bar whose entries lead straight on is all that its screen has to press: it is written larger.

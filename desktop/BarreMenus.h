@@ -26,4 +26,7 @@ private:
     std::vector<QMenu*> menus_;                             // below it
 };
 
+// An option that stands in no menu is there for its shortcut, which the window then knows.
+void PoserRaccourcis(Hôte& hôte, JeuDeVues& vues, const std::vector<Elément*>& éléments, QWidget& fenêtre);
+
 } // namespace tirelune

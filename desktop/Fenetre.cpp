@@ -7,6 +7,7 @@
 #include "desktop/Contenu.h"
 #include "desktop/Conversions.h"
 #include "desktop/Touches.h"
+#include "desktop/VueTexteRiche.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -77,6 +78,7 @@ void Fenêtre::Garnir()
         layout()->setMenuBar(menus_);
         menus_->show();
     }
+    PoserRaccourcis(*this, vues_, écran_.Eléments(), *this);
     if (écran_.Plan().Genre == Disposition::Page) {
         bandeau_ = new Bandeau{écran_.Présentation, this};
         static_cast<QBoxLayout*>(layout())->insertWidget(0, bandeau_);
@@ -185,6 +187,17 @@ void Fenêtre::Dégager(const QRect& lieu)
         if (dessus != nullptr && dessus->dessous_ == this && dessus->écran_.LaisseVoir && dessus->isVisible())
             dessus->Eviter(lieu);
     }
+}
+
+QRect Fenêtre::PassageChoisi() const
+{
+    for (const auto& vue : vues_) {
+        const auto* texte = dynamic_cast<const VueTexteRiche*>(vue.get());
+        if (texte != nullptr && texte->Zone().isReadOnly() && texte->Zone().isVisible() &&
+            texte->Zone().textCursor().hasSelection())
+            return texte->PlaceSélection();
+    }
+    return {};
 }
 
 // Below the place, or else above it.

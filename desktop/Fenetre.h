@@ -54,6 +54,7 @@ public:
     [[nodiscard]] bool Fermée() const override { return fermée_; }
     [[nodiscard]] double Echelle() const override { return échelle_; }
     void Dégager(const QRect& lieu) override;
+    [[nodiscard]] QRect PassageChoisi() const override;
     void Marquer(Vue& vue) override;
     [[nodiscard]] Vue* VueDe(const Elément& élément) const override { return vues_.VueDe(élément); }
     [[nodiscard]] Vue* VueDuWidget(const QWidget* widget) const override { return vues_.VueDuWidget(widget); }

@@ -33,6 +33,8 @@ public:
     [[nodiscard]] virtual Chute TomberEn(QPoint global) const = 0;
     // What is chosen at this place of the display is to be seen.
     virtual void Dégager(const QRect& lieu) = 0;
+    // Where the display shows what is selected in a text that is read; nothing: there is no such selection.
+    [[nodiscard]] virtual QRect PassageChoisi() const = 0;
 
 protected:
     ~Hôte() = default;

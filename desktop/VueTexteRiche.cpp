@@ -8,6 +8,7 @@
 
 #include <QAbstractTextDocumentLayout>
 #include <QAccessible>
+#include <QAction>
 #include <QKeyEvent>
 #include <QMimeData>
 #include <QMouseEvent>
@@ -65,7 +66,6 @@ public:
         setAcceptRichText(false);
         setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
         setAcceptDrops(false);
-        setTabChangesFocus(true);
         setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     }
 
@@ -136,6 +136,14 @@ public:
     }
 
 protected:
+    bool event(QEvent* événement) override
+    {
+        if (événement->type() != QEvent::ShortcutOverride || !EstRaccourci(static_cast<const QKeyEvent&>(*événement)))
+            return QTextEdit::event(événement);
+        événement->ignore(); // the screen's own way of cutting, pasting or undoing
+        return true;
+    }
+
     void mousePressEvent(QMouseEvent* événement) override
     {
         pressée_ = événement->button() == Qt::LeftButton;
@@ -189,6 +197,11 @@ protected:
             Jouer(*événement);
             return;
         }
+        const bool tabulation = événement->key() == Qt::Key_Tab || événement->key() == Qt::Key_Backtab;
+        if (tabulation && (événement->modifiers() & Qt::ControlModifier) != 0) {
+            QWidget::focusNextPrevChild(événement->key() == Qt::Key_Tab); // the way out, where Tab writes
+            return;
+        }
         const bool entrée = événement->key() == Qt::Key_Return || événement->key() == Qt::Key_Enter;
         if (entrée && vue_.boîte_.UneLigne) {
             événement->ignore();
@@ -203,6 +216,13 @@ protected:
         QTextEdit::keyPressEvent(événement);
         if (textCursor().position() != avant)
             vue_.MontrerCurseur();
+    }
+
+    [[nodiscard]] QMimeData* createMimeDataFromSelection() const override
+    {
+        auto* simple = new QMimeData;
+        simple->setText(EnQString(vue_.boîte_.SelText()));
+        return simple;
     }
 
     void insertFromMimeData(const QMimeData* source) override
@@ -229,6 +249,15 @@ protected:
     }
 
 private:
+    [[nodiscard]] bool EstRaccourci(const QKeyEvent& touche) const
+    {
+        if ((touche.modifiers() & Qt::ControlModifier) == 0)
+            return false;
+        const auto actions = window()->findChildren<QAction*>();
+        return std::any_of(actions.begin(), actions.end(), [&](const QAction* une) {
+            return une->isEnabled() && une->shortcut() == QKeySequence{touche.keyCombination()};
+        });
+    }
     [[nodiscard]] int HauteurLigne() const
     {
         const auto première = document()->documentLayout()->blockBoundingRect(document()->firstBlock());
@@ -333,6 +362,7 @@ VueTexteRiche::VueTexteRiche(Hôte& hôte, RichTextBox& boîte, QWidget* parent)
     mise_.Haut = [barre = zone_.verticalScrollBar()] { return barre->value(); };
     mise_.Défiler = [barre = zone_.verticalScrollBar()](int haut) { barre->setValue(haut); };
     zone_.document()->setDocumentLayout(&mise_);
+    zone_.setTabChangesFocus(!boîte.Tabulations);
     if (boîte.UneLigne)
         static_cast<Page&>(zone_).MettreEnLigne();
     retouches_.Noter(0, 0, boîte.Longueur());
@@ -513,18 +543,17 @@ void VueTexteRiche::MettreSélection()
         zone_.verticalScrollBar()->setValue(défilement);
     else
         MontrerCurseur();
-    DégagerSélection();
+    if (zone_.textCursor().hasSelection())
+        hôte_.Dégager(PlaceSélection());
 }
 
-void VueTexteRiche::DégagerSélection()
+QRect VueTexteRiche::PlaceSélection() const
 {
     auto bout = zone_.textCursor();
-    if (!bout.hasSelection())
-        return;
     auto cadre = zone_.cursorRect(bout);
     bout.setPosition(bout.anchor());
     cadre = cadre.united(zone_.cursorRect(bout));
-    hôte_.Dégager({zone_.viewport()->mapToGlobal(cadre.topLeft()), cadre.size()});
+    return {zone_.viewport()->mapToGlobal(cadre.topLeft()), cadre.size()};
 }
 
 // Places far off are guesses: what comes into sight is laid out, and may push the caret out again.

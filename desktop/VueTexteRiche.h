@@ -29,6 +29,8 @@ public:
     // In a text that is only read: the character that the keyboard would click.
     [[nodiscard]] int Visé() const;
     void Viser(int position);
+    // On the display.
+    [[nodiscard]] QRect PlaceSélection() const;
 
 private:
     class Page;
@@ -41,7 +43,6 @@ private:
     [[nodiscard]] Habillage Habiller(const QTextBlock& bloc);
     void Mettre(Retouche retouche);
     void MettreSélection();
-    void DégagerSélection();
     void MontrerCurseur();
     void SuivreEchelle();
     void HausserCurseur();

@@ -3,27 +3,53 @@
 #include "desktop/Conversions.h"
 #include "desktop/Vues.h"
 
+#include <QAbstractItemView>
 #include <QComboBox>
 #include <QCompleter>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QScreen>
 #include <QSignalBlocker>
+#include <QWheelEvent>
+
+#include <algorithm>
 
 namespace tirelune {
 
 namespace {
 
+// Where the items drop down, the passage that the user works on staying in sight: shorter, or else beside it.
+QRect PlaceDuVolet(QRect volet, const QRect& passage, const QRect& écran, bool versLeHaut, int rangée)
+{
+    static constexpr int Ecart = 2;
+    static constexpr int RangéesMinimum = 4;
+    if (!volet.intersects(passage))
+        return volet;
+    auto court = volet;
+    versLeHaut ? court.setTop(passage.bottom() + Ecart) : court.setBottom(passage.top() - Ecart);
+    if (court.height() >= RangéesMinimum * rangée)
+        return court;
+    if (passage.right() + Ecart + volet.width() <= écran.right())
+        volet.moveLeft(passage.right() + Ecart);
+    else if (passage.left() - Ecart - volet.width() >= écran.left())
+        volet.moveRight(passage.left() - Ecart);
+    else
+        volet.moveBottom(std::max(écran.top() + volet.height(), passage.top() - Ecart));
+    return volet;
+}
+
 class VueCombo final : public Vue {
 public:
     VueCombo(Hôte& hôte, ComboBox& combo, QWidget* parent)
-        : Vue(hôte, combo, new QComboBox{parent}), combo_(combo), liste_(static_cast<QComboBox&>(*widget))
+        : Vue(hôte, combo, new Déroulante{*this, parent}), combo_(combo), liste_(static_cast<QComboBox&>(*widget))
     {
         liste_.setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
         liste_.setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
         liste_.setMinimumContentsLength(combo.Saisie ? 5 : 14);
         liste_.setMaxVisibleItems(16);
         liste_.setAttribute(Qt::WA_InputMethodEnabled);
+        liste_.view()->installEventFilter(&liste_);
         if (combo.Saisie) {
             liste_.setEditable(true);
             liste_.setInsertPolicy(QComboBox::NoInsert);
@@ -76,6 +102,53 @@ public:
     }
 
 private:
+    class Déroulante final : public QComboBox {
+    public:
+        Déroulante(VueCombo& vue, QWidget* parent) : QComboBox(parent), vue_(vue) {}
+
+        void showPopup() override
+        {
+            QComboBox::showPopup();
+            auto* volet = view()->window();
+            const auto passage = vue_.hôte_.PassageChoisi();
+            if (count() == 0 || passage.isEmpty())
+                return;
+            const bool versLeHaut = volet->y() < mapToGlobal(QPoint{0, 0}).y();
+            volet->setGeometry(PlaceDuVolet(volet->geometry(), passage, screen()->availableGeometry(), versLeHaut,
+                                            view()->sizeHintForRow(0)));
+        }
+        bool eventFilter(QObject* visé, QEvent* événement) override
+        {
+            if (visé != view() || événement->type() != QEvent::KeyPress || !vue_.RefuseLesTouches())
+                return QComboBox::eventFilter(visé, événement);
+            hidePopup();
+            return true;
+        }
+
+    protected:
+        void keyPressEvent(QKeyEvent* événement) override
+        {
+            if (vue_.RefuseLesTouches()) // with Alt or Ctrl held, they were not shown to the handler
+                événement->ignore();
+            else
+                QComboBox::keyPressEvent(événement);
+        }
+        void wheelEvent(QWheelEvent* événement) override { événement->ignore(); } // what is to be read scrolls
+
+    private:
+        VueCombo& vue_;
+    };
+
+    // Not even the arrows do anything: what they would pick is picked with the mouse alone.
+    [[nodiscard]] bool RefuseLesTouches() const
+    {
+        Touche flèche;
+        flèche.Code = Touche::Bas;
+        if (combo_.KeyPress)
+            combo_.KeyPress(flèche);
+        return flèche.Avalée;
+    }
+
     ComboBox& combo_;
     QComboBox& liste_;
     std::vector<Texte> montrés_;
