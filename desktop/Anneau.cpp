@@ -11,7 +11,7 @@ namespace tirelune {
 
 namespace {
 
-constexpr int Epaisseur = 3; // pixels around the element
+constexpr int Epaisseur = 4; // pixels around the element
 
 // Above what it surrounds, and that much larger.
 class Pose final : public QProxyStyle {
@@ -19,6 +19,8 @@ public:
     int styleHint(StyleHint question, const QStyleOption* option, const QWidget* widget,
                   QStyleHintReturn* réponse) const override
     {
+        if (question == SH_FocusFrame_Mask)
+            return 0; // it is round, and comes a little over the element
         return question == SH_FocusFrame_AboveWidget ? 1 : QProxyStyle::styleHint(question, option, widget, réponse);
     }
     int pixelMetric(PixelMetric mesure, const QStyleOption* option, const QWidget* widget) const override
@@ -61,11 +63,11 @@ protected:
         static constexpr double Coin = 8;
         QPainter peintre{this};
         peintre.setRenderHint(QPainter::Antialiasing);
-        const auto place = QRectF{rect()}.adjusted(1.5, 1.5, -1.5, -1.5);
-        peintre.setPen(QPen{Qt::white, 3}); // on grounds as dark as the ring
-        peintre.drawRoundedRect(place, Coin, Coin);
-        peintre.setPen(QPen{Teinte::Anneau, 2});
-        peintre.drawRoundedRect(place, Coin, Coin);
+        const auto place = QRectF{rect()}.adjusted(2.5, 2.5, -2.5, -2.5);
+        for (const auto& trait : {QPen{Qt::white, 5}, QPen{Teinte::Anneau, 3}}) { // seen on any ground
+            peintre.setPen(trait);
+            peintre.drawRoundedRect(place, Coin, Coin);
+        }
     }
 };
 

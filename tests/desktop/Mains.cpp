@@ -1,23 +1,31 @@
 // What hands do without meaning it, on every screen: keys held down, double clicks, small drags.
+#include "core/Collage.h"
 #include "desktop/Dialogues.h"
 #include "followup/frmGestionEleves.h"
 #include "tests/desktop/Clics.h"
 
 #include <QAbstractButton>
+#include <QAbstractItemView>
 #include <QAbstractScrollArea>
+#include <QClipboard>
+#include <QComboBox>
+#include <QContextMenuEvent>
 #include <QDialog>
 #include <QFile>
 #include <QFocusFrame>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QMimeData>
 #include <QPointer>
 #include <QScrollBar>
+#include <QTextEdit>
 #include <QWheelEvent>
 #include <QWindow>
 
 #include <algorithm>
 #include <optional>
+#include <tuple>
 
 namespace tirelune {
 
@@ -107,6 +115,16 @@ public:
     TextBox txtLu{*this, "txtLu", {.MultiLine = true}};
 
     Arrangement Disposer() override { return Colonne{rtfLu, txtLu}; }
+};
+
+class EcranListe : public EcranEssai {
+public:
+    using EcranEssai::EcranEssai;
+
+    RichTextBox rtfTrous{*this, "rtfTrous"};
+    ComboBox cmbMots{*this, "cmbMots"};
+
+    Arrangement Disposer() override { return Colonne{rtfTrous, Ligne{cmbMots, Ressort{}}}; }
 };
 
 class Mains : public Clics {
@@ -374,6 +392,65 @@ TEST_F(Mains, UnBoutonQuiVientSousLePointeurNePrendPasLeSecondClic)
     });
 }
 
+TEST_F(Mains, UnBoutonDeSourisTenuNeFaitRienDansCeQuiVient)
+{
+    int pressions = 0;
+    banc.cmdQuitter.Click = [&] { ++pressions; };
+    banc.txtLigne.Click = [&] { ++pressions; };
+    banc.txtLigne.Locked = true;
+    banc.txtLigne.Visible = false;
+    Avec(banc, [&] {
+        const auto venirSous = [&](Elément& venu, const Elément& visé) {
+            auto& cible = Widget(visé);
+            const auto global = cible.mapToGlobal(cible.rect().center());
+            EnvoyerSouris(Devant(), QEvent::MouseButtonPress, Devant().mapFromGlobal(global));
+            venu.Visible = true;
+            Mettre();
+            auto& touché = SousLePointeur(global);
+            EnvoyerSouris(touché, QEvent::MouseMove, touché.mapFromGlobal(global) + QPoint{2, 0});
+            EnvoyerSouris(touché, QEvent::MouseButtonRelease, touché.mapFromGlobal(global));
+        };
+        venirSous(banc.frameFin, banc.cmdQuitter);
+        venirSous(banc.txtLigne, banc.txtLigne);
+        EXPECT_EQ(pressions, 0);
+    });
+}
+
+TEST_F(Mains, RelâcherDansUneBoîteNYRépondPas)
+{
+    banc.cmdSuite.Click = [&] {
+        Ensuite([] {
+            const QPointer<QWidget> boîte{&EnAvant()};
+            for (const auto touche : {Qt::Key_Space, Qt::Key_Return})
+                Relâcher(AuClavier(), touche);
+            EXPECT_TRUE(boîte->isVisible());
+            dynamic_cast<QDialog&>(*boîte).reject();
+        });
+        EXPECT_FALSE(application.Demander(u"Encore ?"));
+    };
+    Avec(banc, [&] {
+        Widget(banc.cmdSuite).setFocus();
+        Enfoncer(Widget(banc.cmdSuite), Qt::Key_Return);
+    });
+}
+
+TEST_F(Mains, UnChampQuiTrieSesTouchesNeSeRemplitPasÀLaSouris)
+{
+    banc.txtNom.KeyPress = [](Touche& touche) { touche.Avaler(); };
+    Avec(banc, [&] {
+        auto& champ = Widget<QLineEdit>(banc.txtNom);
+        Ensuite([] { EXPECT_EQ(QApplication::activePopupWidget(), nullptr); });
+        QContextMenuEvent menu{QContextMenuEvent::Mouse, {5, 5}, champ.mapToGlobal(QPoint{5, 5})};
+        QCoreApplication::sendEvent(&champ, &menu);
+        QCoreApplication::processEvents();
+        QApplication::clipboard()->setText(QStringLiteral("123"));
+        for (const auto avec : {Qt::Key_V, Qt::Key_Insert})
+            QTest::keyClick(&champ, avec, avec == Qt::Key_V ? Qt::ControlModifier : Qt::ShiftModifier);
+        QTest::mouseClick(&champ, Qt::MiddleButton);
+        EXPECT_EQ(banc.txtNom.Text, u"");
+    });
+}
+
 // ---- Small drags -----------------------------------------------------------------------------------------------
 
 TEST_F(Mains, UnClicQuiGlisseUnPeuEstUnClic)
@@ -602,6 +679,169 @@ TEST_F(Mains, LesTouchesFontDéfilerCeQuiSeLit)
         Mettre();
         ASSERT_EQ(Devant().focusWidget(), &Devant());
         parcourir(simple, Devant());
+    });
+}
+
+// ---- The editor --------------------------------------------------------------------------------------------------
+
+TEST_F(Mains, DansLÉditeurLesTouchesFontCeQueFontLesMenus)
+{
+    Montrer("frmEnseignant", [&](Ecran& écran) {
+        auto& e = dynamic_cast<frmEnseignant&>(écran);
+        auto& page = Widget<QTextEdit>(e.rtfTexte);
+        page.setFocus();
+        QTest::keyClicks(&page, "ab");
+        QTest::keyClick(&page, Qt::Key_Tab);
+        QTest::keyClicks(&page, "c");
+        EXPECT_EQ(e.rtfTexte.Text(), u"ab\tc");
+        EXPECT_EQ(Devant().focusWidget(), &page);
+
+        // Each goes through the option of the menu, once.
+        int couper = 0;
+        int copier = 0;
+        int coller = 0;
+        const auto compter = [](std::function<void()>& clic, int& fois) {
+            clic = [&fois, vrai = clic] {
+                ++fois;
+                vrai();
+            };
+        };
+        compter(e.mnuCouper.Click, couper);
+        compter(e.mnuCopier.Click, copier);
+        compter(e.mnuColler.Click, coller);
+        QTest::keyClick(&page, Qt::Key_A, Qt::ControlModifier);
+        EXPECT_EQ(e.rtfTexte.SelLength(), 4U);
+        QTest::keyClick(&page, Qt::Key_C, Qt::ControlModifier);
+        EXPECT_EQ(plateforme.LirePressePapiers(), u"ab\tc");
+        QTest::keyClick(&page, Qt::Key_X, Qt::ControlModifier);
+        EXPECT_EQ(e.rtfTexte.Text(), u"");
+        QTest::keyClick(&page, Qt::Key_V, Qt::ControlModifier);
+        EXPECT_EQ(e.rtfTexte.Text(), u"ab\tc");
+        EXPECT_EQ(std::tuple(couper, copier, coller), std::tuple(1, 1, 1));
+    });
+}
+
+TEST_F(Mains, CtrlZDéfaitCeQueDéfaitLeBouton)
+{
+    Montrer("frmEnseignant", [&](Ecran& écran) {
+        auto& e = dynamic_cast<frmEnseignant&>(écran);
+        auto& page = Widget<QTextEdit>(e.rtfTexte);
+        page.setFocus();
+        QTest::keyClicks(&page, "chat");
+        QTest::keyClick(&page, Qt::Key_A, Qt::ControlModifier);
+        QTest::mouseClick(Devant().findChild<QWidget*>("btnCouper"), Qt::LeftButton);
+        EXPECT_EQ(e.rtfTexte.Text(), u"");
+        QTest::keyClick(&page, Qt::Key_Z, Qt::ControlModifier);
+        EXPECT_EQ(e.rtfTexte.Text(), u"chat");
+        QTest::keyClick(&page, Qt::Key_Z, Qt::ControlModifier); // once only
+        EXPECT_EQ(e.rtfTexte.Text(), u"chat");
+    });
+}
+
+TEST_F(Mains, CeQuiSortDUnTexteEstSimpleEtCeQuiEntreEstNettoyé)
+{
+    EcranTextes textes{application};
+    Avec(textes, [&] {
+        auto& page = Widget<QTextEdit>(textes.rtfLu);
+        page.setFocus();
+        textes.rtfLu.Text(u"un\r\ndeux");
+        textes.rtfLu.SelBold = true;
+        Mettre();
+        // The context menu's own copying.
+        page.selectAll();
+        page.copy();
+        const auto* copié = QApplication::clipboard()->mimeData();
+        EXPECT_EQ(copié->formats(), QStringList{"text/plain"});
+        EXPECT_EQ(DepuisQString(copié->text()), u"un\r\ndeux");
+        // Its pasting, and that of the middle button: both insert what the clipboard holds.
+        auto* riche = new QMimeData;
+        riche->setHtml(QStringLiteral("<b>gras</b>"));
+        riche->setText(QStringLiteral("gras\u2028fin"));
+        QApplication::clipboard()->setMimeData(riche);
+        page.paste();
+        EXPECT_EQ(textes.rtfLu.Text(), NormaliserCollage(u"gras\u2028fin"));
+    });
+}
+
+// ---- Lists that drop down ----------------------------------------------------------------------------------------
+
+TEST_F(Mains, AucuneToucheNeChoisitUnMotOùLaSourisSeuleLePeut)
+{
+    EcranListe liste{application};
+    liste.cmbMots.AddItems({u"chat", u"chien"});
+    liste.cmbMots.KeyPress = [](Touche& touche) { touche.Avaler(); };
+    Avec(liste, [&] {
+        auto& combo = Widget<QComboBox>(liste.cmbMots);
+        combo.setFocus();
+        for (const auto touche : {Qt::Key_F4, Qt::Key_Down, Qt::Key_Space, Qt::Key_C, Qt::Key_Home, Qt::Key_Return})
+            for (const auto avec : {Qt::NoModifier, Qt::AltModifier, Qt::ControlModifier}) {
+                QTest::keyClick(&combo, touche, avec, 0);
+                EXPECT_FALSE(combo.view()->isVisible()) << touche << " " << avec;
+            }
+        EXPECT_EQ(liste.cmbMots.ListIndex, -1);
+        combo.showPopup(); // by the mouse
+        QTest::keyClick(combo.view(), Qt::Key_Down);
+        EXPECT_FALSE(combo.view()->isVisible()) << "une touche la referme";
+        EXPECT_EQ(liste.cmbMots.ListIndex, -1);
+        combo.showPopup();
+        QTest::mouseClick(combo.view()->viewport(), Qt::LeftButton, {},
+                          combo.view()->visualRect(combo.model()->index(1, 0)).center());
+        EXPECT_EQ(liste.cmbMots.Text, u"chien");
+    });
+}
+
+TEST_F(Mains, LaMoletteNeChoisitRien)
+{
+    EcranListe liste{application};
+    liste.cmbMots.AddItems({u"chat", u"chien"});
+    Avec(liste, [&] {
+        auto& combo = Widget<QComboBox>(liste.cmbMots);
+        combo.setFocus();
+        QWheelEvent molette{QPointF{5, 5},
+                            combo.mapToGlobal(QPointF{5, 5}),
+                            {},
+                            {0, -120},
+                            Qt::NoButton,
+                            Qt::NoModifier,
+                            Qt::NoScrollPhase,
+                            false};
+        QCoreApplication::sendEvent(&combo, &molette);
+        EXPECT_EQ(liste.cmbMots.ListIndex, -1);
+    });
+}
+
+TEST_F(Mains, LaListeNeCouvrePasLeTrou)
+{
+    EcranListe liste{application};
+    for (int i = 0; i < 30; ++i)
+        liste.cmbMots.AddItem(u"un mot assez long");
+    Texte texte;
+    for (int i = 0; i < 40; ++i)
+        texte += u"Le ____ dort sous la grande table.\r\n";
+    liste.rtfTrous.Locked = true;
+    liste.rtfTrous.Text(texte);
+    Avec(liste, [&] {
+        auto& combo = Widget<QComboBox>(liste.cmbMots);
+        auto& page = Widget<QTextEdit>(liste.rtfTrous);
+        int vus = 0;
+        const std::size_t ligne = texte.find(u'\n') + 1;
+        for (std::size_t place = 3; place < texte.size(); place += ligne) {
+            liste.rtfTrous.Sélectionner(place, 4);
+            Mettre();
+            page.ensureCursorVisible();
+            auto curseur = page.textCursor();
+            const auto fin = page.cursorRect(curseur);
+            curseur.setPosition(curseur.anchor());
+            const auto trou = page.cursorRect(curseur).united(fin);
+            combo.showPopup();
+            auto* volet = combo.view()->window();
+            const QRect àVoir{page.viewport()->mapToGlobal(trou.topLeft()), trou.size()};
+            vus += volet->geometry().intersects(àVoir) ? 0 : 1;
+            EXPECT_GE(volet->height(), 4 * combo.view()->sizeHintForRow(0));
+            EXPECT_TRUE(combo.screen()->geometry().contains(volet->geometry()));
+            combo.hidePopup();
+        }
+        EXPECT_EQ(vus, 40);
     });
 }
 
