@@ -788,6 +788,7 @@ TEST(Editeur, RetirerLaMiseEnFormeAutomatiqueDemandeConfirmation)
     banc.écran.mnuAuto.Cliquer();
     EXPECT_TRUE(banc.écran.mnuAuto.Checked);
     EXPECT_EQ(banc.plateforme.boîtesMontrées[0].Titre, u"Espaces et Ponctuation");
+    EXPECT_EQ(banc.plateforme.boîtesMontrées[0].Danger, Perte::ParOui);
     EXPECT_EQ(banc.plateforme.boîtesMontrées[0].Choix, Boutons::OuiNon);
     banc.AnnoncerBoîte(message, Réponse::Oui);
     banc.écran.mnuAuto.Cliquer();

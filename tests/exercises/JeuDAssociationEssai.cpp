@@ -182,6 +182,7 @@ TEST(JeuDAssociation, RangéesVidesSontAConfirmer)
     Remplir(écran, {u"gai", u"âpre"});
     banc.plateforme.boîtes.push_back({PasTerminé, Réponse::Non, u"Avertissement", {}});
     écran.DemanderCorrection();
+    EXPECT_EQ(banc.plateforme.boîtesMontrées.back().Danger, Perte::ParOui);
     EXPECT_EQ(écran.cmdQuitter.Caption, u"&Corriger");
     EXPECT_TRUE(écran.cmdQuitter.Enabled);
     EXPECT_TRUE(écran.cmb.Enabled);
