@@ -473,6 +473,8 @@ QScrollBar* Fenêtre::BarreDeLecture() const
         const bool texte = qobject_cast<QTextEdit*>(zone) != nullptr || qobject_cast<QPlainTextEdit*>(zone) != nullptr;
         if (!texte || !zone->isVisible() || !zone->isEnabled() || zone->verticalScrollBar()->maximum() == 0)
             continue;
+        if (zone == focusWidget())
+            return zone->verticalScrollBar();
         if (plusGrand == nullptr || zone->height() > plusGrand->height())
             plusGrand = zone;
     }

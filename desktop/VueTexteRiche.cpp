@@ -199,7 +199,9 @@ protected:
         }
         const bool tabulation = événement->key() == Qt::Key_Tab || événement->key() == Qt::Key_Backtab;
         if (tabulation && (événement->modifiers() & Qt::ControlModifier) != 0) {
-            QWidget::focusNextPrevChild(événement->key() == Qt::Key_Tab); // the way out, where Tab writes
+            setTabChangesFocus(true); // the way out, where Tab writes
+            focusNextPrevChild(événement->key() == Qt::Key_Tab);
+            setTabChangesFocus(!vue_.boîte_.Tabulations);
             return;
         }
         const bool entrée = événement->key() == Qt::Key_Return || événement->key() == Qt::Key_Enter;

@@ -121,6 +121,7 @@ void Clics::Presser(Elément& élément, std::vector<Clic>& clics)
     const auto donner = [this, widget, lieu] {
         EXPECT_TRUE(EstTouché(*widget, lieu)) << widget->objectName().toStdString();
         auto* touché = Devant().childAt(widget->mapTo(&Devant(), lieu));
+        ASSERT_NE(touché, nullptr);
         QTest::mouseClick(touché, Qt::LeftButton, {}, touché->mapFrom(&Devant(), widget->mapTo(&Devant(), lieu)));
     };
     clics.push_back({élément.Nom, donner, widget, lieu});
