@@ -15,6 +15,7 @@ constexpr VueTexte Conseil =
     u"du système : clic droit sur la barre, Propriétés, option Masquer automatiquement.";
 constexpr std::size_t LongueurCode = 6;
 constexpr int CôtéEnseigne = 3000;  // twips
+constexpr int LargeurCode = 6000;   // twips: its title in full
 constexpr int LargeurNotice = 8400; // twips
 constexpr int LignesBlanches = 7;   // the editor shows its fonts seven at a time
 
@@ -59,16 +60,16 @@ Arrangement frmTirelune::Disposer()
     return Colonne{
         Extensible(Pile{
             Centré{AuMoins(CôtéEnseigne, CôtéEnseigne, imgEnseigne)},
-            Centré{Cadre{frameCodeEnseignant,
-                         Colonne{
-                             lblCodeEnseignant,
-                             Ligne{txtCodeEnseignant, Label1},
-                             // No room is kept for what comes up at the first use alone.
-                             Pile{lblVérificationCode},
-                             Pile{txtVérificationCode},
-                             Pile{lblCodeRappel},
-                             Ligne{Ressort{}, cmdCode, cmdAnnuler},
-                         }}},
+            Centré{Cadre{frameCodeEnseignant, AuMoins(LargeurCode, 0,
+                                                      Colonne{
+                                                          lblCodeEnseignant,
+                                                          Ligne{txtCodeEnseignant, Label1},
+                                                          // No room is kept for what comes up at the first use alone.
+                                                          Pile{lblVérificationCode},
+                                                          Pile{txtVérificationCode},
+                                                          Pile{lblCodeRappel},
+                                                          Ligne{Ressort{}, cmdCode, cmdAnnuler},
+                                                      })}},
         }),
         Centré{Cadre{Frame1, AuMoins(LargeurNotice, 0, Colonne(Label2))}},
     };
