@@ -47,7 +47,7 @@ const QColor EncreFoncée = Teinte::Encre;
 
 double Contraste(const QColor& une, const QColor& autre)
 {
-    const auto [sombre, claire] = std::minmax(Luminance(une), Luminance(autre));
+    const auto [sombre, claire] = std::minmax({Luminance(une), Luminance(autre)});
     return (claire + 0.05) / (sombre + 0.05);
 }
 
