@@ -77,7 +77,7 @@ std::vector<Texte> Cellules(const Grid& grille)
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* octets, std::size_t taille)
 {
-    Suite suite{{}};
+    SuiteDOctets suite{{}};
     PlateformeFuzz plateforme{suite};
     plateforme.Poser("Léa.bil", {reinterpret_cast<const char*>(octets), taille});
     Application application{plateforme};

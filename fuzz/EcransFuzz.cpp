@@ -25,7 +25,7 @@ constexpr VueTexte Phrases =
     u"cueillir des mûres au bord du chemin.\r\nLe soir, grand-mère allume la lampe et lit.\r\n";
 
 // A text of its own kind: ordinary, with few marks, without a blank, with underscores, nearly empty.
-TexteRiche TexteTiré(Suite& suite)
+TexteRiche TexteTiré(SuiteDOctets& suite)
 {
     const auto choix = suite.Octet();
     Texte lettres{Phrases};
@@ -109,7 +109,7 @@ void VérifierRésultats(const frmExercices& choix, bool exercice)
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* octets, std::size_t taille)
 {
-    Suite suite{{octets, taille}};
+    SuiteDOctets suite{{octets, taille}};
     PlateformeFuzz plateforme{suite};
     plateforme.Geste = [&](Ecran& écran) { FaireUnGeste(écran, plateforme, suite); };
     PoserFichiers(plateforme);

@@ -12,7 +12,7 @@ namespace {
 
 constexpr std::array<VueTexte, 8> Saisies{u"", u"a", u"Le chat dort.", u"é", u"\"", u"\u65E5", u"*", u"12 "};
 
-Touche TireeDe(Suite& suite)
+Touche TireeDe(SuiteDOctets& suite)
 {
     static constexpr std::array<Touche, 12> Touches{{
         {u'a', 'A'},
@@ -31,7 +31,7 @@ Touche TireeDe(Suite& suite)
     return Touches[suite.Parmi(Touches.size())];
 }
 
-void ToucherTexte(TextBox& boîte, Suite& suite)
+void ToucherTexte(TextBox& boîte, SuiteDOctets& suite)
 {
     const auto geste = suite.Octet() % 6;
     const auto place = suite.Parmi(boîte.Text().size() + 1);
@@ -47,7 +47,7 @@ void ToucherTexte(TextBox& boîte, Suite& suite)
         boîte.Saisir(Texte{Saisies[suite.Parmi(Saisies.size())]});
 }
 
-void ToucherTexteRiche(RichTextBox& boîte, Suite& suite)
+void ToucherTexteRiche(RichTextBox& boîte, SuiteDOctets& suite)
 {
     const auto geste = suite.Octet() % 6;
     const auto place = suite.Parmi(boîte.Longueur() + 1);
@@ -64,7 +64,7 @@ void ToucherTexteRiche(RichTextBox& boîte, Suite& suite)
         boîte.Editer(place, longueur, TexteRiche{Texte{Saisies[suite.Parmi(Saisies.size())]}});
 }
 
-void ToucherListe(Liste& liste, Suite& suite)
+void ToucherListe(Liste& liste, SuiteDOctets& suite)
 {
     const auto geste = suite.Octet() % 6;
     const int rang = static_cast<int>(suite.Parmi(static_cast<std::size_t>(liste.ListCount()) + 1)) - 1;
@@ -79,7 +79,7 @@ void ToucherListe(Liste& liste, Suite& suite)
         liste.Choisir(rang);
 }
 
-void Glisser(Frame& cadre, const std::vector<Elément*>& éléments, Suite& suite)
+void Glisser(Frame& cadre, const std::vector<Elément*>& éléments, SuiteDOctets& suite)
 {
     const double x = suite.Octet() * 40.0;
     const double y = suite.Octet() * 40.0;
@@ -91,7 +91,7 @@ void Glisser(Frame& cadre, const std::vector<Elément*>& éléments, Suite& suit
 }
 
 // Never above the platform's own folder: pupils' files go where this leads.
-void OuvrirDossier(DirListBox& dossiers, const PlateformeFuzz& plateforme, Suite& suite)
+void OuvrirDossier(DirListBox& dossiers, const PlateformeFuzz& plateforme, SuiteDOctets& suite)
 {
     const int rang = static_cast<int>(suite.Parmi(dossiers.SousDossiers().size() + 1)) - 1;
     const auto racine = DepuisChemin(plateforme.dossier);
@@ -99,7 +99,7 @@ void OuvrirDossier(DirListBox& dossiers, const PlateformeFuzz& plateforme, Suite
         dossiers.Ouvrir(rang);
 }
 
-void Toucher(Elément& élément, Ecran& écran, const PlateformeFuzz& plateforme, Suite& suite)
+void Toucher(Elément& élément, Ecran& écran, const PlateformeFuzz& plateforme, SuiteDOctets& suite)
 {
     if (!élément.Enabled || !élément.EstAtteignable())
         return;
@@ -126,7 +126,7 @@ void Toucher(Elément& élément, Ecran& écran, const PlateformeFuzz& plateform
 
 } // namespace
 
-void FaireUnGeste(Ecran& écran, PlateformeFuzz& plateforme, Suite& suite)
+void FaireUnGeste(Ecran& écran, PlateformeFuzz& plateforme, SuiteDOctets& suite)
 {
     const auto& éléments = écran.Eléments();
     switch (suite.Octet() % 16) {

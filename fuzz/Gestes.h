@@ -2,12 +2,12 @@
 #pragma once
 #include "core/Ecran.h"
 #include "fuzz/Plateforme.h"
-#include "fuzz/Suite.h"
+#include "fuzz/SuiteDOctets.h"
 
 namespace tirelune {
 
 // One gesture of the bytes' choosing: a click, a key, a drag, a tick, another size, the close box.
-void FaireUnGeste(Ecran& écran, PlateformeFuzz& plateforme, Suite& suite);
+void FaireUnGeste(Ecran& écran, PlateformeFuzz& plateforme, SuiteDOctets& suite);
 
 void VérifierEcran(const Ecran& écran);
 

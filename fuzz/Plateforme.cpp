@@ -48,7 +48,7 @@ void Ecrire(const Chemin& fichier, std::string_view octets)
 
 } // namespace
 
-PlateformeFuzz::PlateformeFuzz(Suite& suite) : dossier(DossierVidé()), suite_(suite) {}
+PlateformeFuzz::PlateformeFuzz(SuiteDOctets& suite) : dossier(DossierVidé()), suite_(suite) {}
 
 void PlateformeFuzz::Poser(const std::string& nom, std::string_view octets) const
 {

@@ -3,7 +3,7 @@
 #pragma once
 #include "core/Ecran.h"
 #include "fuzz/Exiger.h"
-#include "fuzz/Suite.h"
+#include "fuzz/SuiteDOctets.h"
 #include "tests/support/PlateformeMuette.h"
 
 #include <functional>
@@ -15,7 +15,7 @@ namespace tirelune {
 
 class PlateformeFuzz final : public PlateformeMuette {
 public:
-    explicit PlateformeFuzz(Suite& suite);
+    explicit PlateformeFuzz(SuiteDOctets& suite);
 
     double Horloge() override { return heure_; }
     double Hasard() override;
@@ -55,7 +55,7 @@ private:
     void Avancer(double temps);
     [[nodiscard]] std::optional<Texte> ChoisirFichier();
 
-    Suite& suite_;
+    SuiteDOctets& suite_;
     double heure_ = 36000;
     double temps_ = 0;
     std::uint64_t dés_ = 0x9E3779B97F4A7C15;

@@ -71,7 +71,7 @@ void Jouer(frmExercices& choix, int index, bool bien)
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* octets, std::size_t taille)
 {
-    Suite suite{{}};
+    SuiteDOctets suite{{}};
     PlateformeFuzz plateforme{suite};
     plateforme.Poser("Léa.bil", "");
     Application application{plateforme};

@@ -106,7 +106,7 @@ void Essayer(EcranLecture& écran, const PlateformeFuzz& plateforme, std::string
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* données, std::size_t taille)
 {
     const std::string_view octets{reinterpret_cast<const char*>(données), taille};
-    Suite suite{{}};
+    SuiteDOctets suite{{}};
     PlateformeFuzz plateforme{suite};
     Application application{plateforme};
     EcranLecture écran{application};

@@ -6,9 +6,9 @@
 
 namespace tirelune {
 
-class Suite {
+class SuiteDOctets {
 public:
-    explicit Suite(std::span<const std::uint8_t> octets) : octets_(octets) {}
+    explicit SuiteDOctets(std::span<const std::uint8_t> octets) : octets_(octets) {}
 
     [[nodiscard]] bool Epuisée() const { return octets_.empty(); }
     // 0 for ever once all is taken: the tamest decision.
