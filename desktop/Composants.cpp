@@ -251,7 +251,7 @@ void Etiquette::PeindreContenu(QPainter& peintre, QRect place)
 // Two told colours that can't be read on one another; the same colour twice hides on purpose.
 void Etiquette::PeindrePlaqueSous(QPainter& peintre, const QRect& texte, const QColor& couleur) const
 {
-    static constexpr int GrandesLettres = 24; // pixels, and bold ones from 19 on
+    static constexpr int GrandesLettres = 24; // pixels; WCAG 2.1: 18 points, or 14 bold ones
     static constexpr int GrandesLettresGrasses = 18;
     const bool grandes = font().pixelSize() >= (font().bold() ? GrandesLettresGrasses : GrandesLettres);
     const auto sol = fond.isValid() ? fond : Teinte::Panneau;

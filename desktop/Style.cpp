@@ -20,7 +20,6 @@ namespace tirelune {
 
 namespace {
 
-constexpr int Coin = 9;
 constexpr int Bord = 2;
 constexpr int Tranche = 3;   // height of the lower edge of a button
 constexpr int BordTexte = 5; // of what scrolls: its round corners lie outside of what is shown in it
@@ -45,8 +44,8 @@ bool A(const QStyleOption& option, QStyle::State état)
     return (option.state & état) == état;
 }
 
-void PeindreContour(QPainter& peintre, const QRectF& place, const QColor& trait, const QBrush& fond, double coin = Coin,
-                    double épaisseur = Bord)
+void PeindreContour(QPainter& peintre, const QRectF& place, const QColor& trait, const QBrush& fond,
+                    double coin = Arrondi, double épaisseur = Bord)
 {
     const double retrait = épaisseur / 2;
     peintre.setRenderHint(QPainter::Antialiasing);
@@ -161,7 +160,7 @@ void PeindreChoix(QPainter& peintre, const QRectF& place)
     peintre.setRenderHint(QPainter::Antialiasing);
     peintre.setPen(Qt::NoPen);
     peintre.setBrush(Teinte::Sélection);
-    peintre.drawRoundedRect(place, Coin - Bord, Coin - Bord);
+    peintre.drawRoundedRect(place, Arrondi - Bord, Arrondi - Bord);
 }
 
 int LargeurCoche(const QWidget* widget)
@@ -245,7 +244,7 @@ void Arrondir(QStyleHintReturn* réponse, const QRect& place)
     if (masque == nullptr)
         return;
     QPainterPath contour;
-    contour.addRoundedRect(QRectF{place}, Coin, Coin);
+    contour.addRoundedRect(QRectF{place}, Arrondi, Arrondi);
     masque->region = QRegion{contour.toFillPolygon().toPolygon()};
 }
 
@@ -331,7 +330,7 @@ void Style::drawPrimitive(PrimitiveElement élément, const QStyleOption* option
             PeindreChoix(*peintre, QRectF{option->rect}.adjusted(1, 1, -1, -1));
         else if (A(*option, State_MouseOver | State_Enabled))
             PeindreContour(*peintre, QRectF{option->rect}.adjusted(1, 1, -1, -1), Teinte::BordBouton, Qt::NoBrush,
-                           Coin - Bord);
+                           Arrondi - Bord);
         break;
     case PE_FrameFocusRect: // every element has the same ring: see Anneau
         break;
