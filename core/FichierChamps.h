@@ -26,7 +26,7 @@ std::vector<Texte> DécouperChamps(std::string_view octets, Valeurs valeurs = Va
 
 // What a file may hold, so that a damaged one can't take all the memory.
 inline constexpr std::uintmax_t TailleDUnFichierDeChamps = 64U << 20U; // bytes
-inline constexpr std::size_t ChampsDUnFichier = 500'000;
+inline constexpr std::size_t ChampsDUnFichier = 1'000'000;
 
 // The same of a file, and of the bytes of one. Too large with more bytes or fields than a file may hold.
 Lecture<std::vector<Texte>> DécouperFichier(std::string_view octets, Valeurs valeurs = Valeurs::SurPlusieursLignes);

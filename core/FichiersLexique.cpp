@@ -1,0 +1,33 @@
+#include "core/FichiersLexique.h"
+
+#include "core/Enregistrements.h"
+#include "core/FichierChamps.h"
+
+#include <utility>
+
+namespace tirelune {
+
+Texte NomDicTexte(VueTexte titre)
+{
+    return Texte{titre} + u".dic";
+}
+
+Chemin FichierLexique(VueTexte dossier, VueTexte nom)
+{
+    return EnChemin(Joindre(dossier, NomRéel(dossier, nom)));
+}
+
+LectureLexique LireLexique(const Chemin& fichier, Grid& grille)
+{
+    grille.Rows(0);
+    const auto octets = LireFichier(fichier, TailleDUnFichierDeChamps);
+    if (!octets)
+        return octets.Echec == EchecLecture::Absent ? LectureLexique::Absente : LectureLexique::Refusée;
+    auto champs = DécouperFichier(*octets);
+    if (!champs || (champs->empty() ? !octets->empty() : champs->front() != Marqueur))
+        return LectureLexique::Refusée;
+    RangerFiches(std::move(*champs), grille, 0, Colonnes::AuBesoin);
+    return LectureLexique::Faite;
+}
+
+} // namespace tirelune
