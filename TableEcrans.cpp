@@ -12,6 +12,7 @@
 #include "exercises/memory/frmPoursuite.h"
 #include "exercises/memory/frmSérie.h"
 #include "exercises/order/frmMotsEnDésordre.h"
+#include "exercises/order/frmMotsInversés.h"
 #include "exercises/spelling/frmPendu.h"
 #include "exercises/vocabulary/frmTrous.h"
 #include "followup/frmCodeCouleur.h"
@@ -66,6 +67,7 @@ void RemplirTable(Application& application)
     table["frmExercices"] = Seul<frmExercices>;
     table["frmGestionEleves"] = Seul<frmGestionEleves>;
     table["frmMotsEnDésordre"] = SurLeChoix<frmMotsEnDésordre>;
+    table["frmMotsInversés"] = SurLeChoix<frmMotsInversés>;
     table["frmPendu"] = SurLeChoix<frmPendu>;
     table["frmPhotographier"] = SurLeChoix<frmPhotographier>;
     table["frmPoursuite"] = SurLeChoix<frmPoursuite>;

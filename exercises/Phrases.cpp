@@ -43,13 +43,13 @@ void EcrireAlphabetDesPhrases(Constantes& état)
 }
 
 std::optional<std::vector<Texte>> TirerPhrase(Plateforme& plateforme, VueTexte texte, VueTexte lettres,
-                                              NombreDeMots longueur, VueTexte banque)
+                                              NombreDeMots longueur, VueTexte banque, const RefusDePhrase& refusée)
 {
     for (int tirage = 0; tirage < TiragesMaximum; ++tirage) {
         const auto place = Tirer(plateforme, static_cast<double>(texte.size()));
         auto mots = LirePhrase(texte.substr(DépartDePhrase(texte, place)), lettres, longueur.Maximum);
         if (mots.size() >= longueur.Minimum && mots.size() <= longueur.Maximum &&
-            banque.find(EnPhrase(mots)) == VueTexte::npos)
+            banque.find(EnPhrase(mots)) == VueTexte::npos && !(refusée && refusée(mots)))
             return mots;
     }
     return std::nullopt;

@@ -3,6 +3,7 @@
 #include "core/Constantes.h"
 #include "core/Plateforme.h"
 
+#include <functional>
 #include <limits>
 #include <optional>
 #include <span>
@@ -20,11 +21,14 @@ struct NombreDeMots {
     std::size_t Maximum = std::numeric_limits<std::size_t>::max();
 };
 
-// The words of a sentence of that length that `banque` doesn't hold anywhere in it. At most 99 draws, one for each try;
-// nothing when none of them brings such a sentence. A character that is in `lettres` belongs to a word, a sign of
-// FinsDePhrase ends the sentence and its last word, and anything else parts two words.
+using RefusDePhrase = std::function<bool(const std::vector<Texte>& mots)>;
+
+// The words of a sentence of that length that `banque` doesn't hold anywhere in it, and that nothing else refuses. At
+// most 99 draws, one for each try; nothing when none of them brings such a sentence. A character that is in `lettres`
+// belongs to a word, a sign of FinsDePhrase ends the sentence and its last word, and anything else parts two words.
 std::optional<std::vector<Texte>> TirerPhrase(Plateforme& plateforme, VueTexte texte, VueTexte lettres,
-                                              NombreDeMots longueur, VueTexte banque = {});
+                                              NombreDeMots longueur, VueTexte banque = {},
+                                              const RefusDePhrase& refusée = {});
 
 // The words joined by single blanks.
 Texte EnPhrase(std::span<const Texte> mots);

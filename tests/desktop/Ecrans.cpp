@@ -21,6 +21,8 @@ const std::map<std::string, Noms> Réserves{
     {"frmExercices", {"cmbVocabulaire", "fgRésultats", "lblIndex", "listeBil", "rtfTexte"}},
     {"frmGestionEleves", {"listeBil"}},
     {"frmMotsEnDésordre", {"cmbMots", "cmbOrdre", "lblBanque", "lblCorrigé", "lblPassage"}},
+    {"frmMotsInversés",
+     {"cmbMots", "cmbOrdre", "lblBanque", "lblCorrigé", "lblMot", "lblNombreMots", "rtfInversion", "rtfPassage"}},
     {"frmPendu", {"cmbMots", "imgRéf", "lblRéf"}},
     {"frmPoursuite", {"lblCorrigé", "lblPassage"}},
     {"frmQuestionnaire1", {"fgQuestions"}},

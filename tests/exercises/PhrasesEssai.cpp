@@ -56,6 +56,15 @@ TEST(Phrases, PhraseDeLaBanqueEstRefusée)
     EXPECT_TRUE(Tirée(u". a b c.", {1}, u"a b d. "));
 }
 
+TEST(Phrases, PhraseRefuséeEstTiréeANouveau)
+{
+    Banc banc;
+    banc.Hasards({0.0, 0.5});
+    const auto commenceParA = [](const std::vector<Texte>& mots) { return mots.front() == u"a"; };
+    EXPECT_EQ(TirerPhrase(banc.plateforme, u". a b. c d.", Lettres, {1}, {}, commenceParA),
+              (std::vector<Texte>{u"c", u"d."}));
+}
+
 TEST(Phrases, CentièmeTirageNAPasLieu)
 {
     Banc banc;
