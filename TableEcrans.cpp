@@ -13,6 +13,7 @@
 #include "exercises/memory/frmSérie.h"
 #include "exercises/order/frmMotsEnDésordre.h"
 #include "exercises/order/frmMotsInversés.h"
+#include "exercises/spelling/frmAlphabet.h"
 #include "exercises/spelling/frmPendu.h"
 #include "exercises/vocabulary/frmTrous.h"
 #include "followup/frmCodeCouleur.h"
@@ -61,6 +62,7 @@ std::unique_ptr<Ecran> SurLEditeur(Ecran& ouvreur)
 void RemplirTable(Application& application)
 {
     auto& table = application.écrans;
+    table["frmAlphabet"] = SurLeChoix<frmAlphabet>;
     table["frmClosures"] = SurLeChoix<frmClosures>;
     table["frmCodeCouleur"] = SurLeChoix<frmCodeCouleur>;
     table["frmEnseignant"] = SurLAccueil<frmEnseignant>;

@@ -104,6 +104,10 @@ public:
 
     std::function<void()> GotFocus; // the keyboard has come to the element
     std::function<void()> LostFocus;
+    // Set for what the mouse can take and let go over another element. It takes it: false, it stays. It lets it go,
+    // over nothing too. A click remains a click.
+    std::function<bool()> Prendre;
+    std::function<void(const Elément* cible)> Lâcher;
     std::function<void()> Observateur; // set by who draws the element
 
     [[nodiscard]] Ecran& EcranDe() const { return écran_; }

@@ -6,6 +6,7 @@
 #include "desktop/BarreMenus.h"
 #include "desktop/Contenu.h"
 #include "desktop/Conversions.h"
+#include "desktop/Glisse.h"
 #include "desktop/Touches.h"
 #include "desktop/VueTexteRiche.h"
 
@@ -85,6 +86,10 @@ void Fenêtre::Garnir()
         bâtisseur_.BâtirPage(écran_.Plan(), *bandeau_);
     } else {
         bâtisseur_.BâtirPlan(écran_.Plan());
+    }
+    for (const auto& vue : vues_) {
+        if (vue->élément.Lâcher && vue->widget != nullptr)
+            new Glisse{*this, *vue};
     }
     OrdonnerTabulation();
     Observer();

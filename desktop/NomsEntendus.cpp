@@ -117,6 +117,9 @@ QString SansEtat(const Elément& élément)
     if (const auto* champ = dynamic_cast<const TextBox*>(&élément);
         champ != nullptr && champ->Click && !champ->MultiLine)
         return PremierNonVide({Prononçable(champ->Text()), libellé, QStringLiteral("vide")});
+    if (const auto* ligne = dynamic_cast<const RichTextBox*>(&élément);
+        ligne != nullptr && ligne->Click && ligne->UneLigne)
+        return PremierNonVide({EnQString(ligne->Text()), libellé, QStringLiteral("vide")});
     return PremierNonVide({libellé, LibelléVoisin(élément), TexteLu(élément), bulle, NomDuGenre(élément)});
 }
 

@@ -1,5 +1,7 @@
 #include "desktop/Signes.h"
 
+#include "core/RichTextBox.h"
+
 #include <QPainter>
 #include <QPolygonF>
 
@@ -39,6 +41,8 @@ Signe SigneDe(const Elément& élément)
             return Signe::Aucun;
         }
     }
+    if (const auto* ligne = dynamic_cast<const RichTextBox*>(&élément); ligne != nullptr && ligne->UneLigne)
+        return élément.BackColor == Bleu ? Signe::Choisi : SigneDuFond(élément.BackColor);
     if (dynamic_cast<const TextBox*>(&élément) != nullptr)
         return SigneDuFond(élément.BackColor);
     return Signe::Aucun;

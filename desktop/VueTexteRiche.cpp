@@ -4,6 +4,7 @@
 #include "desktop/Apparence.h"
 #include "desktop/Conversions.h"
 #include "desktop/FormatsQt.h"
+#include "desktop/Signes.h"
 #include "desktop/Vues.h"
 
 #include <QAbstractTextDocumentLayout>
@@ -24,6 +25,8 @@
 namespace tirelune {
 
 namespace {
+
+constexpr double ContrasteMinimum = 3; // of large letters: WCAG 2.1
 
 bool FinitLigne(char16_t caractère)
 {
@@ -78,7 +81,14 @@ public:
             setTextInteractionFlags(Qt::NoTextInteraction);
         setFocusPolicy(Qt::StrongFocus);
         setAttribute(Qt::WA_InputMethodEnabled);
-        viewport()->setCursor(verrouillée ? Qt::ArrowCursor : Qt::IBeamCursor);
+        const auto lue = EstUneEtiquette() ? Qt::PointingHandCursor : Qt::ArrowCursor;
+        viewport()->setCursor(verrouillée ? lue : Qt::IBeamCursor);
+    }
+
+    // It is clicked as a whole, and none of its characters is pointed at.
+    [[nodiscard]] bool EstUneEtiquette() const
+    {
+        return vue_.boîte_.UneLigne && vue_.boîte_.Locked && vue_.boîte_.Click;
     }
 
     // What lies below the first line is out of sight.
@@ -170,7 +180,8 @@ protected:
     {
         if (!isReadOnly())
             QTextEdit::mouseReleaseEvent(événement);
-        const bool clic = pressée_ && événement->button() == Qt::LeftButton;
+        const bool dedans = !vue_.boîte_.UneLigne || viewport()->rect().contains(événement->position().toPoint());
+        const bool clic = pressée_ && dedans && événement->button() == Qt::LeftButton;
         pressée_ = false;
         if (!clic || !vue_.Agissante())
             return;
@@ -242,6 +253,10 @@ protected:
     void paintEvent(QPaintEvent* événement) override
     {
         QTextEdit::paintEvent(événement);
+        if (vue_.boîte_.UneLigne) {
+            PeindreLeSigne();
+            return;
+        }
         if (!hasFocus() || !isReadOnly() || !clavier_)
             return;
         QPainter peintre{viewport()};
@@ -251,6 +266,19 @@ protected:
     }
 
 private:
+    // At the right end, as on a label.
+    void PeindreLeSigne()
+    {
+        const auto signe = SigneDe(vue_.boîte_);
+        if (signe == Signe::Aucun)
+            return;
+        QPainter peintre{viewport()};
+        peintre.setRenderHint(QPainter::Antialiasing);
+        const int marge = static_cast<int>(document()->documentMargin());
+        const int côté = viewport()->height() - 2 * marge;
+        const QRect bout{viewport()->width() - côté - marge, marge, côté, côté};
+        PeindreSigne(peintre, signe, bout, EncreSur(palette().color(QPalette::Base), Teinte::Encre));
+    }
     [[nodiscard]] bool EstRaccourci(const QKeyEvent& touche) const
     {
         if ((touche.modifiers() & Qt::ControlModifier) == 0)
@@ -290,6 +318,10 @@ private:
         case Qt::Key_Return:
         case Qt::Key_Enter:
         case Qt::Key_Space:
+            if (EstUneEtiquette()) {
+                vue_.boîte_.Cliquer(0);
+                return;
+            }
             Pointer(Visé());
             if (vue_.Agissante())
                 vue_.boîte_.Cliquer(vue_.DepuisWidget(Visé()));
@@ -442,7 +474,11 @@ const QTextCharFormat& VueTexteRiche::FormatDe(const Format& format)
     const auto place = formats_.find(format);
     if (place != formats_.end())
         return place->second;
-    return formats_.emplace(format, EnQt(format, échelleMontrée_)).first->second;
+    auto qt = EnQt(format, échelleMontrée_);
+    if (boîte_.UneLigne && fondMontré_.isValid() && qt.foreground() != Qt::NoBrush &&
+        Contraste(qt.foreground().color(), fondMontré_) < ContrasteMinimum)
+        qt.setBackground(EncreSur(qt.foreground().color(), Qt::black)); // on a ground of their own
+    return formats_.emplace(format, std::move(qt)).first->second;
 }
 
 Habillage VueTexteRiche::Habiller(const QTextBlock& bloc)
@@ -464,9 +500,11 @@ void VueTexteRiche::SuivreEchelle()
     static const auto LigneEntière = // 75 characters, as far apart as French has them
         QStringLiteral("Chaque matin, le petit renard file vers la forêt où son amie attend déjà là");
     const double voulue = hôte_.Echelle() * (boîte_.Locked ? 1.15 : 1);
-    if (voulue == échelleMontrée_)
+    const auto fond = EnQColor(boîte_.BackColor, {});
+    if (voulue == échelleMontrée_ && (fond == fondMontré_ || !boîte_.UneLigne))
         return;
     échelleMontrée_ = voulue;
+    fondMontré_ = fond;
     formats_.clear();
     if (!boîte_.UneLigne) {
         mise_.Interligne = boîte_.Locked ? 1.4 : 1.2;

@@ -5,6 +5,7 @@
 #include "desktop/Retouches.h"
 #include "desktop/Vue.h"
 
+#include <QColor>
 #include <QTextCharFormat>
 #include <QTextCursor>
 #include <QTextEdit>
@@ -57,6 +58,7 @@ private:
     Retouches retouches_;
     std::unordered_map<Format, QTextCharFormat, HachageFormat> formats_;
     double échelleMontrée_ = 0;
+    QColor fondMontré_;
     bool enSynchro_ = false;
     bool enRetouche_ = false; // the widget's text follows the element's
 };

@@ -17,6 +17,7 @@ const std::filesystem::path Sources{DOSSIER_SOURCES};
 
 // What no screen shows: lists, tables and marks that rules work with. All the rest must have its place.
 const std::map<std::string, Noms> Réserves{
+    {"frmAlphabet", {"cmbMots", "lblPassage"}},
     {"frmEnseignant", {"rtfSauve"}},
     {"frmExercices", {"cmbVocabulaire", "fgRésultats", "lblIndex", "listeBil", "rtfTexte"}},
     {"frmGestionEleves", {"listeBil"}},
@@ -152,6 +153,7 @@ TEST_F(Ecrans, LaTabulationSuitLOrdreDuTravail)
         {"frmQuestionnaire1", {"cmdCommencer", "cmdOk", "chkRéponse(0)", "chkRéponse(4)", "cmdVérifier"}},
         {"frmPoursuite", {"cmdCommencer", "rtfPoursuite", "lblMot(0)", "lblMot(9)", "cmdContinuer"}},
         {"frmMotsEnDésordre", {"lblMot(0)", "txtPhrase", "cmdTerminé", "cmdSuivant"}},
+        {"frmAlphabet", {"rtfMot(0)", "rtfMot(9)", "cmdQuitter"}},
         {"frmPendu", {"lblLettre(0)", "lblLettre(25)", "cmdSuivant"}},
     };
     for (const auto& [nom, ordre] : ordres) {
