@@ -73,15 +73,10 @@ struct Rangée : Ligne {
     template <class T>
     explicit Rangée(Tableau<T>& éléments);
 };
-// Side by side, sharing the whole width.
-struct Partagée : Ligne {
-    template <class T>
-    explicit Partagée(Tableau<T>& éléments);
-};
-// Keys to press, in two rows, all as wide as one another.
+// Keys to press, in rows that share the whole width, all as wide as one another.
 struct Touches : Grille {
     template <class T>
-    explicit Touches(Tableau<T>& éléments);
+    explicit Touches(Tableau<T>& éléments, int rangées = 2);
 };
 struct Centré : Arrangement {
     Centré(Arrangement un) : Arrangement(Disposition::Centré, {std::move(un)}) {} // NOLINT(google-explicit-constructor)

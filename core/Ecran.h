@@ -108,6 +108,8 @@ protected:
     // The rule by which a text fills its screen: 150 twips less in width, `marge` less in height; a screen of
     // less than 1000 twips either way is set to 1000 by 1000.
     void AjusterBoîte(RichTextBox& boîte, int marge = 1100);
+    // The usual size of letters (points), more where the window's width has grown faster than they have.
+    [[nodiscard]] double PointsSelonLargeur() const;
     [[nodiscard]] bool Attendre(std::chrono::milliseconds durée);
     [[nodiscard]] bool AttendreArrêt(Timer& minuterie);
     void Repeindre();
@@ -149,13 +151,7 @@ Grille::Grille(int colonnes, Tableau<T>& éléments) : Arrangement(Disposition::
     Colonnes = colonnes;
 }
 template <class T>
-Partagée::Partagée(Tableau<T>& éléments) : Ligne(éléments)
-{
-    for (auto& un : Enfants)
-        un.Etirement = 1;
-}
-template <class T>
-Touches::Touches(Tableau<T>& éléments) : Grille((éléments.Nombre() + 1) / 2, éléments)
+Touches::Touches(Tableau<T>& éléments, int rangées) : Grille((éléments.Nombre() + rangées - 1) / rangées, éléments)
 {
     for (auto& touche : Enfants)
         touche.Etirement = 1;

@@ -56,12 +56,15 @@ frmGestionEleves::frmGestionEleves(Application& application)
 Arrangement frmGestionEleves::Disposer()
 {
     return Colonne{
-        Extensible(Ligne{
+        Ressort{},
+        Ligne{
             Extensible(
                 Cadre{frameElèves,
                       Colonne{
+                          Ressort{},
                           AuMoins(4500, 0, cmbNoms),
                           Ligne{cmdAjouter, cmdSupprimer, Ressort{}},
+                          Ressort{},
                           Pile{
                               Colonne{txtNom, Ligne{lblConsigne, Ressort{}, cmdAnnuler}},
                               Colonne{lblCode, Ligne{AuMoins(1800, 0, txtCode), AuMoins(1800, 0, txtVérif), Ressort{}}},
@@ -74,15 +77,22 @@ Arrangement frmGestionEleves::Disposer()
                                  lblRéseau,
                                  Label1,
                                  Extensible(Pile{
-                                     Colonne{Ligne{cmdCheminRéseau, Ressort{}}, Ressort{}},
+                                     Colonne{Ressort{}, Ligne{Ressort{}, cmdCheminRéseau, Ressort{}}, Ressort{}},
                                      Colonne{drvLecteurs, Extensible(AuMoins(0, 2400, dirLecteurs)),
                                              Ligne{cmdValiderCheminRéseau, Ressort{}}},
                                  }),
                              }}),
-        }),
+        },
+        Ressort{},
         lblMisDeCôté,
         Ligne{Ressort{}, cmdQuitter},
     };
+}
+
+void frmGestionEleves::Resize()
+{
+    for (auto* élément : Eléments())
+        élément->FontSize = PointsSelonLargeur();
 }
 
 void frmGestionEleves::Load()

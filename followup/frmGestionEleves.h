@@ -63,6 +63,7 @@ private:
     static constexpr std::size_t LongueurCode = 6;
 
     void Load() override;
+    void Resize() override;
     void Unload() override;
     Arrangement Disposer() override;
 

@@ -23,7 +23,7 @@ Arrangement frmTexteMasqué::Disposer()
         .Consigne = Label1,
         .Points = BandeDePoints(lblPoints),
         .Travail = Libre{rtfMasqué},
-        .Pied = Partagée(lblLettre),
+        .Pied = Touches(lblLettre, 1),
         .Dessus = EnPlace(fin),
     }};
 }
