@@ -158,6 +158,7 @@ public:
     Propriété<bool> AutoSize{*this, false};     // as wide as its caption
     Propriété<Dessin> Picture{*this, Dessin{}}; // before its caption
     Propriété<Texte> Plaque{*this, Texte{}};    // a short text at its right end
+    Propriété<bool> Verrouillé{*this, false};   // its turn hasn't come yet
     Propriété<Pointeur> MousePointer{*this, Pointeur::Normal};
     const bool Centré;
     const Sens SensDesCouleurs;

@@ -135,6 +135,8 @@ QString Etat(const Elément& élément)
         return QStringLiteral("faux");
     case Signe::Choisi:
         return QStringLiteral("choisi");
+    case Signe::Verrou:
+        return QStringLiteral("verrouillé");
     case Signe::Aucun:
         break;
     }

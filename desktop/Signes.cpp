@@ -32,6 +32,8 @@ Signe SigneDeLEncre(Couleur encre)
 Signe SigneDe(const Elément& élément)
 {
     if (const auto* label = dynamic_cast<const Label*>(&élément); label != nullptr) {
+        if (label->Verrouillé)
+            return Signe::Verrou;
         switch (label->SensDesCouleurs) {
         case Sens::Réponse:
             return SigneDuFond(label->BackColor);
@@ -68,6 +70,13 @@ void PeindreSigne(QPainter& peintre, Signe signe, const QRectF& place, const QCo
         peintre.setBrush(encre);
         peintre.drawPolygon(QPolygonF{{point(0.7, 0.24), point(0.32, 0.5), point(0.7, 0.76)}});
         break;
+    case Signe::Verrou: { // a padlock
+        peintre.drawArc(QRectF{point(0.3, 0.1), point(0.7, 0.66)}, 0, 180 * 16);
+        peintre.setBrush(encre);
+        peintre.setPen(Qt::NoPen);
+        peintre.drawRoundedRect(QRectF{point(0.16, 0.42), point(0.84, 0.92)}, côté * 0.1, côté * 0.1);
+        break;
+    }
     case Signe::Aucun:
         break;
     }

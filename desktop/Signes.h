@@ -8,7 +8,7 @@ class QRectF;
 
 namespace tirelune {
 
-enum class Signe { Aucun, Juste, Faux, Choisi };
+enum class Signe { Aucun, Juste, Faux, Choisi, Verrou };
 
 [[nodiscard]] Signe SigneDe(const Elément& élément);
 

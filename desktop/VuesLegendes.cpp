@@ -78,7 +78,11 @@ private:
     void Habiller()
     {
         étiquette_.enLigne = label_.AutoSize;
-        étiquette_.signe = SigneDe(label_);
+        if (const auto signe = SigneDe(label_); signe != étiquette_.signe) {
+            étiquette_.signe = signe;
+            étiquette_.updateGeometry();
+            étiquette_.update();
+        }
         if (const auto légende = EnAffichage(label_.Caption()); légende != étiquette_.text())
             étiquette_.setText(légende);
     }

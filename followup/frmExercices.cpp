@@ -137,6 +137,15 @@ void frmExercices::Load()
     frameElève.Visible = true;
 }
 
+void frmExercices::Resize()
+{
+    const double points = PointsSelonLargeur();
+    for (int i = 0; i < NombreExercices; ++i) {
+        lblExo(i).FontSize = points;
+        lblMoyenne(i).FontSize = points;
+    }
+}
+
 void frmExercices::QueryUnload()
 {
     // The grid goes with the screen: after a save that failed, this is the last one, and the file may be gone.
@@ -324,6 +333,7 @@ void frmExercices::cmbTextes_Click()
         PeindreTexte(*rangée);
     else
         EffacerCouleurs();
+    MontrerVerrous(); // the speed that counts is the one that shows
 }
 
 // ---- The text --------------------------------------------------------------------------------------------------
@@ -384,6 +394,7 @@ void frmExercices::MontrerRésultats(const Texte& titre)
         PeindreTexte(*rangée);
     else
         EffacerCouleurs();
+    MontrerVerrous();
 }
 
 void frmExercices::ChargerVocabulaire()
@@ -408,13 +419,26 @@ void frmExercices::lblExo_Click(int i)
     lblExo(i).MousePointer = Pointeur::Sablier;
     lblIndex.Caption = EnTexte(i);
     OuvrirExercice(i);
+    MontrerVerrous();
     lblExo(i).MousePointer = Pointeur::Normal;
     lblExo(i).Bordure = false;
 }
 
+bool frmExercices::EstVerrouillé(int i) const
+{
+    return i > IndexQuestionnaire1 && lblVitesse.Caption().empty();
+}
+
+void frmExercices::MontrerVerrous()
+{
+    const bool chargé = !Rogner(lblTexte.Caption).empty();
+    for (int i = 0; i < NombreExercices; ++i)
+        lblExo(i).Verrouillé = chargé && EstVerrouillé(i);
+}
+
 void frmExercices::OuvrirExercice(int i)
 {
-    if (i > IndexQuestionnaire1 && lblVitesse.Caption().empty()) {
+    if (EstVerrouillé(i)) {
         Avertir(u"Tu dois faire l'exercice - QUESTIONNAIRE 1 - avant tous les autres.");
         return;
     }

@@ -62,6 +62,7 @@ public:
 private:
     void Load() override;
     void QueryUnload() override;
+    void Resize() override;
     Arrangement Disposer() override;
 
     void cmdOk_Click();
@@ -82,6 +83,9 @@ private:
     void MontrerRésultats(const Texte& titre);
     void ChargerVocabulaire();
     void EffacerCouleurs();
+    // Whether the text has to be read first, in the first questionnaire.
+    [[nodiscard]] bool EstVerrouillé(int i) const;
+    void MontrerVerrous();
     void OuvrirExercice(int i);
     // Row of a title, compared trimmed; nothing when the text was never worked on.
     [[nodiscard]] std::optional<int> ChercherTexte(const Texte& titre) const;

@@ -277,6 +277,9 @@ TEST_F(Ecoute, UnEtatSeDitAprèsLeNom)
         écran.lblMot.BackColor = Blanc;
         écran.lblMot.Plaque = u"8";
         EXPECT_EQ(Nom(écran.lblMot), "lune, 8");
+        écran.lblMot.Plaque = Texte{};
+        écran.lblMot.Verrouillé = true;
+        EXPECT_EQ(Nom(écran.lblMot), "lune, verrouillé");
         EXPECT_EQ(Nom(écran.lblVerdict), "Bonne réponse"); // its words say it
     });
 }

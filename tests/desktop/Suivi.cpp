@@ -1,4 +1,5 @@
 // Signing in and the list of pupils, by keyboard and mouse.
+#include "desktop/Composants.h"
 #include "followup/frmExercices.h"
 #include "followup/frmGestionEleves.h"
 #include "tests/desktop/Atelier.h"
@@ -44,6 +45,33 @@ protected:
 };
 
 } // namespace
+
+TEST_F(Suivi, LesExercicesSeLisentAvecLeurNote)
+{
+    static constexpr int PlusPetitesLettres = 14; // pixels
+    Elève("Léa.bil");
+    frmExercices choix{application};
+    Avec(choix, [&] {
+        const auto agrandir = [&](QSize taille) {
+            Devant().setGeometry({QPoint{0, 0}, taille});
+            Mettre();
+            QCoreApplication::sendPostedEvents();
+        };
+        choix.frameElève.Visible = false;
+        for (auto& exercice : choix.lblExo)
+            exercice.Plaque = u"10";
+        agrandir({800, 580});
+        for (int i = 0; i < NombreExercices; ++i) {
+            auto& étiquette = Widget<Etiquette>(choix.lblExo(i));
+            EXPECT_TRUE(étiquette.MontreTout()) << i;
+            EXPECT_GE(étiquette.PoliceMontrée().pixelSize(), PlusPetitesLettres) << i;
+        }
+        const int petites = Widget(choix.lblExo(0)).font().pixelSize();
+        agrandir({1920, 1080});
+        Mettre();
+        EXPECT_GE(Widget(choix.lblExo(0)).font().pixelSize(), petites * 19 / 10) << "there is room";
+    });
+}
 
 TEST_F(Suivi, EntréeSurLaListeFerméeConfirmeLeNom)
 {

@@ -7,6 +7,8 @@
 #include "followup/GrilleRésultats.h"
 #include "tests/support/Banc.h"
 
+#include <algorithm>
+
 namespace tirelune {
 
 namespace {
@@ -777,6 +779,27 @@ TEST(Exercices, SansVitesseLeQuestionnaireUnPasseEnPremier)
         EXPECT_EQ(choix->lblExo(i).MousePointer, Pointeur::Normal);
         EXPECT_EQ(choix->lblIndex.Caption, EnTexte(i));
     }
+}
+
+TEST(Exercices, CeQuiAttendLeQuestionnaireUnPorteUnVerrou)
+{
+    Banc banc;
+    Connexion choix{banc, Fiches({Fiche(u"B", u"80")})};
+    const auto verrous = [&] {
+        return std::count_if(choix->lblExo.begin(), choix->lblExo.end(),
+                             [](const Label& un) { return un.Verrouillé(); });
+    };
+    EXPECT_EQ(verrous(), 0) << "a text comes first";
+    ChargerTexte(banc, *choix, EcrireTexte(banc, "A.rtf", TexteRiche{Long()}));
+    EXPECT_EQ(verrous(), NombreExercices - 1);
+    EXPECT_FALSE(choix->lblExo(0).Verrouillé);
+    banc.QuandOuvert<frmQuestionnaire1>([&](frmQuestionnaire1&) { choix->lblVitesse.Caption = u"90"; });
+    choix->lblExo(0).Cliquer();
+    EXPECT_EQ(verrous(), 0) << "the text has been read";
+    ChargerTexte(banc, *choix, EcrireTexte(banc, "C.rtf", TexteRiche{Long()}));
+    EXPECT_EQ(verrous(), NombreExercices - 1);
+    choix->cmbTextes.Choisir(0);
+    EXPECT_EQ(verrous(), 0) << "the speed that shows is the one that counts";
 }
 
 TEST(Exercices, QuestionnaireDeuxVeutSonFichier)
