@@ -7,7 +7,7 @@
 #include <QAction>
 #include <QFontMetrics>
 #include <QMenu>
-#include <QStyle>
+#include <QStyleOption>
 
 namespace tirelune {
 
@@ -34,7 +34,7 @@ public:
     void Synchroniser() override
     {
         if (!action_.isSeparator()) // a separator with a text shows it
-            action_.setText(EnAffichage(option_.Caption()));
+            action_.setText(EnAffichage(option_.Caption()).trimmed());
         action_.setEnabled(option_.Enabled);
         action_.setVisible(option_.Visible);
         if (option_.Checked)
@@ -106,13 +106,21 @@ void BarreMenus::Ajuster(double échelle, int largeur)
         const auto texte = mesure.size(Qt::TextShowMnemonic, EnAffichage(option->Caption()));
         voulue += style()->sizeFromContents(QStyle::CT_MenuBarItem, nullptr, texte, this).width();
     }
-    // The blanks around captions spread the menus out; where there is no room they go first.
-    for (const auto& [option, action] : entrées_) {
-        const auto entière = EnAffichage(option->Caption());
-        const auto montrée = voulue <= largeur ? entière : entière.trimmed();
-        if (action->text() != montrée)
-            action->setText(montrée);
+    if (const bool écartées = voulue <= largeur; écartées != écartées_) {
+        écartées_ = écartées;
+        QEvent mesurée{QEvent::FontChange}; // the bar measures its entries again
+        changeEvent(&mesurée);
     }
+}
+
+// The blanks around captions spread the menus out; where there is no room they go first, and nobody hears them.
+void BarreMenus::initStyleOption(QStyleOptionMenuItem* option, const QAction* action) const
+{
+    QMenuBar::initStyleOption(option, action);
+    const auto entrée =
+        std::find_if(entrées_.begin(), entrées_.end(), [action](const auto& une) { return une.second == action; });
+    if (écartées_ && entrée != entrées_.end())
+        option->text = EnAffichage(entrée->first->Caption());
 }
 
 } // namespace tirelune

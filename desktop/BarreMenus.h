@@ -20,10 +20,12 @@ public:
     void Ajuster(double échelle, int largeur);
 
 private:
+    void initStyleOption(QStyleOptionMenuItem* option, const QAction* action) const override;
     void Remplir(Hôte& hôte, JeuDeVues& vues, QWidget& où, const std::vector<Menu>& entrées);
 
     std::vector<std::pair<MenuOption*, QAction*>> entrées_; // of the bar itself
     std::vector<QMenu*> menus_;                             // below it
+    bool écartées_ = false;                                 // the blanks around the captions find room
 };
 
 // An option that stands in no menu is there for its shortcut, which the window then knows.
