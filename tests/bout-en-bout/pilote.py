@@ -286,6 +286,7 @@ class Pilote:
         enveloppe: a command that runs the program, as `env NAME=VALUE`, and becomes it.
         """
         self.nom = nom
+        self.taille = taille
         self.enveloppe = enveloppe
         self.reussis = self.echoues = self.numero_capture = 0
         self.dernier_clic = 0, 0, 0.0
@@ -659,6 +660,26 @@ class Pilote:
         subprocess.run(["import", "-window", "root", fichier], check=True, timeout=60)
         return fichier
 
+    def image(self):
+        """The pixels of the whole display."""
+        return subprocess.run(["import", "-window", "root", "-depth", "8", "rgb:-"], check=True,
+                              stdout=subprocess.PIPE, timeout=60).stdout
+
+    def partie(self, image, lieu):
+        """The pixels of a part of such a picture."""
+        return b"".join(image[3 * (y * self.taille[0] + lieu.x):3 * (y * self.taille[0] + lieu.x + lieu.width)]
+                        for y in range(lieu.y, lieu.y + lieu.height))
+
+    def suivre(self, nom, texte, fin):
+        """Watch a text come up in a box, white before; where it stops another element shows. Its last word then."""
+        contenu = self.attendre(nom).accessible.get_text_iface()
+        fins = [(m[0], Atspi.Text.get_character_extents(contenu, m.end() - 1, Atspi.CoordType.SCREEN))
+                for m in re.finditer(r"[\w-]+", texte)]
+        image = self.image()
+        while not self.chercher(fin):
+            derniere, image = image, self.image()
+        return next(mot for mot, lieu in reversed(fins) if self.partie(derniere, lieu).strip(b"\xff"))
+
     def couleurs(self, zone):
         """The colours of a widget, or of (left, top, width, height): counts of pixels by (red, green, blue)."""
         x, y, l, h = self.attendre(zone).place if isinstance(zone, str) else zone
@@ -693,6 +714,14 @@ def mots_barres(chemin):
     with open(chemin, encoding="cp1252", newline="") as fichier:
         rtf = re.sub(r"\\'(..)", lambda m: bytes.fromhex(m[1]).decode("cp1252"), fichier.read())
     return re.findall(r"\\strike (.*?)\\strike0", rtf)
+
+
+def ecrire_rtf(chemin, texte):
+    """One paragraph without marks."""
+    with open(chemin, "w", encoding="ascii", newline="") as fichier:
+        fichier.write("{\\rtf1\\ansi\\ansicpg1252\\deff0{\\fonttbl{\\f0\\fscript Comic Sans MS;}}\r\n\\pard\\f0\\fs28 "
+                      + "".join(c if c.isascii() else f"\\'{c.encode('cp1252')[0]:02x}" for c in texte)
+                      + "\\par\r\n}\r\n")
 
 
 def champs(donnees):
