@@ -22,6 +22,7 @@ namespace {
 constexpr int Bord = 8;   // around what a screen shows; pixels of an 800 x 600 display, as all here
 constexpr int Espace = 6; // between two neighbours
 constexpr int HauteurPied = 66;
+constexpr double PointsDuPied = 16; // of all buttons there
 
 // Rules compute the places of such work: it has the screen's corner, and nearly its width.
 bool EstPlacéParLesRègles(const Arrangement& travail)
@@ -72,7 +73,9 @@ void Bâtisseur::BâtirPage(const Arrangement& page, Bandeau& bandeau)
     colonne->addLayout(place, 1);
     if (parties[Page::Pied].Genre != Disposition::Vide) {
         auto* pied = new PiedDePage{&plan};
+        pointsDesBoutons_ = PointsDuPied;
         Remplir(pied, parties[Page::Pied]);
+        pointsDesBoutons_ = 0;
         AvecMarges(*pied->layout(), Bord, Espace, Bord, Espace);
         SelonEchelle([this, pied] { pied->setFixedHeight(qRound(HauteurPied * hôte_.Echelle())); });
         colonne->addWidget(pied);
@@ -114,7 +117,10 @@ void Bâtisseur::AvecEspace(QLayout& layout)
 Vue& Bâtisseur::Créer(const Arrangement& place, QWidget* parent)
 {
     assert(place.Occupant != nullptr);
-    return vues_.Ajouter(CréerVue(hôte_, *place.Occupant, parent));
+    auto& vue = vues_.Ajouter(CréerVue(hôte_, *place.Occupant, parent));
+    if (dynamic_cast<const Button*>(place.Occupant) != nullptr)
+        vue.points = pointsDesBoutons_;
+    return vue;
 }
 
 void Bâtisseur::Remplir(QWidget* cadre, const Arrangement& contenu)

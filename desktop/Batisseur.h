@@ -56,6 +56,7 @@ private:
     JeuDeVues& vues_;
     Contenu& contenu_;
     std::vector<std::function<void()>> mesures_;
+    double pointsDesBoutons_ = 0; // in the part of the page that is being built; 0: each button's own
 };
 
 } // namespace tirelune

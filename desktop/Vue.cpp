@@ -83,7 +83,8 @@ void Vue::NoterPlace(const QRect& place)
 void Vue::Synchroniser()
 {
     const double agrandissement = placeur != nullptr ? placeur->EchelleDesPlaces() : hôte_.Echelle();
-    const auto police = PolicePour(élément.Police, élément.FontSize, élément.Gras, agrandissement);
+    const auto police =
+        PolicePour(élément.Police, points > 0 ? points : élément.FontSize(), élément.Gras, agrandissement);
     if (widget->font() != police)
         widget->setFont(police);
     if (const auto bulle = EnQString(élément.ToolTipText()).trimmed(); bulle != widget->toolTip())

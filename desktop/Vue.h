@@ -64,6 +64,7 @@ public:
     QWidget* const widget;      // owned by its parent; none for what another widget paints
     bool sale = true;           // waits for its turn to be synced
     Placeur* placeur = nullptr; // none: a layout places it
+    double points = 0;          // of its letters, where its place says it; 0: the element's own
 
     // Sets on the widget what differs from the element.
     virtual void Synchroniser();

@@ -59,14 +59,10 @@ Arrangement frmPoursuite::Disposer()
         .Travail =
             Pile{
                 Libre{rtfPoursuite},
-                Centré{Cadre{frameConsigne, AuMoins(10000, 0, Colonne{lblConsigne, Centré{cmdCommencer}})}},
-                Cadre{frameMot,
-                      Colonne{
-                          Label1,
-                          Extensible(Grille{2, lblMot}),
-                          Ligne{Ressort{}, cmdContinuer},
-                      }},
+                Centré{Cadre{frameConsigne, AuMoins(10000, 0, lblConsigne)}},
+                Cadre{frameMot, Colonne{Label1, Extensible(Grille{2, lblMot})}},
             },
+        .Pied = Ligne{Ressort{}, Pile{Suite{frameConsigne, cmdCommencer}, Suite{frameMot, cmdContinuer}}},
     }};
 }
 
