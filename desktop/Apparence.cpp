@@ -45,6 +45,19 @@ const QColor EncreFoncée = Teinte::Encre;
 
 } // namespace
 
+void PeindreTouche(QPainter& peintre, const QRectF& place, const QColor& face, const QColor& bord, bool enfoncée)
+{
+    peintre.setRenderHint(QPainter::Antialiasing);
+    peintre.setPen(Qt::NoPen);
+    peintre.setBrush(bord);
+    if (!enfoncée)
+        peintre.drawRoundedRect(place, Arrondi, Arrondi);
+    peintre.setPen(QPen{bord, 2});
+    peintre.setBrush(face);
+    const auto dessus = enfoncée ? place.adjusted(0, HauteurTranche, 0, 0) : place.adjusted(0, 0, 0, -HauteurTranche);
+    peintre.drawRoundedRect(dessus.adjusted(1, 1, -1, -1), Arrondi, Arrondi);
+}
+
 double Contraste(const QColor& une, const QColor& autre)
 {
     const auto [sombre, claire] = std::minmax({Luminance(une), Luminance(autre)});

@@ -38,7 +38,11 @@ void ReprendreCouleurs(const QPalette& bureau);
 // Texts keep the name of the font; only the picture changes where the machine lacks it.
 void RemplacerPolicePropre();
 
-inline constexpr int Arrondi = 9; // radius of the corners of all that has some, in pixels
+inline constexpr int Arrondi = 9;        // radius of the corners of all that has some, in pixels
+inline constexpr int HauteurTranche = 3; // height of the lower edge of what can be pressed, in pixels
+
+// Something that lies on the ground, or can be pressed into it.
+void PeindreTouche(QPainter& peintre, const QRectF& place, const QColor& face, const QColor& bord, bool enfoncée);
 
 // The contrast ratio of two colours, from 1 to 21: WCAG 2.1.
 double Contraste(const QColor& une, const QColor& autre);

@@ -1,6 +1,7 @@
 #include "desktop/Composants.h"
 
 #include "desktop/Apparence.h"
+#include "desktop/Conversions.h"
 
 #include <QApplication>
 #include <QEvent>
@@ -18,24 +19,20 @@ namespace tirelune {
 
 namespace {
 
-constexpr int Tranche = 3; // height of the lower edge of what can be pressed, in pixels
-
-// Something that lies on the ground, or can be pressed into it.
-void PeindreTouche(QPainter& peintre, const QRectF& place, const QColor& face, const QColor& bord, bool enfoncée)
-{
-    peintre.setPen(Qt::NoPen);
-    peintre.setBrush(bord);
-    if (!enfoncée)
-        peintre.drawRoundedRect(place, Arrondi, Arrondi);
-    peintre.setPen(QPen{bord, 2});
-    peintre.setBrush(face);
-    const auto dessus = enfoncée ? place.adjusted(0, Tranche, 0, 0) : place.adjusted(0, 0, 0, -Tranche);
-    peintre.drawRoundedRect(dessus.adjusted(1, 1, -1, -1), Arrondi, Arrondi);
-}
+constexpr double ContrasteDUnTrait = 3; // WCAG 2.1: what is no text, and large letters
 
 int Interligne(const QFont& police)
 {
     return QFontMetrics{police}.lineSpacing();
+}
+
+bool SeVoitSur(const Dessin& dessin, const QColor& sol)
+{
+    const auto seVoit = [&sol](Couleur teinte) {
+        return teinte.EstAutomatique() || Contraste(EnQColor(teinte, {}), sol) >= ContrasteDUnTrait;
+    };
+    return std::all_of(dessin.Formes.begin(), dessin.Formes.end(),
+                       [&](const Forme& une) { return seVoit(une.Trait) && seVoit(une.Fond); });
 }
 
 } // namespace
@@ -76,8 +73,8 @@ int Etiquette::Drapeaux() const
 
 int Etiquette::Marge() const
 {
-    if (cliquable_)
-        return std::max(6, font().pixelSize() / 2);
+    if (cliquable_) // a picture needs less room around it than letters
+        return std::max(5, font().pixelSize() / (pictogramme.Formes.empty() ? 2 : 3));
     return bordure || fond.isValid() ? std::max(4, font().pixelSize() / 4) : 1;
 }
 
@@ -107,6 +104,18 @@ int Etiquette::LargeurSigne() const
     return signe == Signe::Aucun ? 0 : font().pixelSize();
 }
 
+// On both sides, so that the text stays in the middle.
+int Etiquette::MargeDuVerdict() const
+{
+    return verdict ? 2 * LargeurSigne() : 0;
+}
+
+// Of what stands beside the text.
+int Etiquette::LargeurAjouts() const
+{
+    return LargeurPictogramme() + LargeurPlaque() + (verdict ? 2 * MargeDuVerdict() : LargeurSigne());
+}
+
 int Etiquette::LargeurPictogramme() const
 {
     return pictogramme.Formes.empty() ? 0 : font().pixelSize() * 3 / 2;
@@ -122,8 +131,7 @@ QSize Etiquette::sizeHint() const
     const int marge = 2 * Marge();
     const int largeurMaximale = font().pixelSize() * 26;
     const auto taille = TailleTexte(font(), Montré(), Drapeaux(), largeurMaximale);
-    return {std::max(taille.width(), font().pixelSize() / 2) + marge + LargeurPictogramme() + LargeurPlaque() +
-                LargeurSigne(),
+    return {std::max(taille.width(), font().pixelSize() / 2) + marge + LargeurAjouts(),
             std::max(taille.height(), Interligne(font())) + marge};
 }
 
@@ -131,7 +139,8 @@ QSize Etiquette::minimumSizeHint() const
 {
     // Letters may get smaller before anything is cut.
     const auto voulue = sizeHint();
-    const int hauteur = cliquable_ ? Interligne(font()) * 8 / 10 + Tranche + 4 : Interligne(font()) * 6 / 10 + Marge();
+    const int hauteur =
+        cliquable_ ? Interligne(font()) * 8 / 10 + HauteurTranche + 4 : Interligne(font()) * 6 / 10 + Marge();
     return {std::min(voulue.width() * 6 / 10, font().pixelSize() * 6), hauteur};
 }
 
@@ -143,7 +152,7 @@ bool Etiquette::hasHeightForWidth() const
 int Etiquette::heightForWidth(int largeur) const
 {
     const int marge = 2 * Marge();
-    return TailleTexte(font(), Montré(), Drapeaux(), std::max(1, largeur - marge)).height() + marge;
+    return TailleTexte(font(), Montré(), Drapeaux(), std::max(1, largeur - marge - LargeurAjouts())).height() + marge;
 }
 
 QRect Etiquette::PlaceDuContenu() const
@@ -151,13 +160,39 @@ QRect Etiquette::PlaceDuContenu() const
     const int marge = std::min(Marge(), width() / 8);
     if (!cliquable_)
         return rect().adjusted(marge, marge / 2, -marge, -(marge / 2));
-    const int haut = pressée_ ? Tranche : 0;
-    return rect().adjusted(marge, haut + 2, -marge, haut - Tranche - 2);
+    const int haut = pressée_ ? HauteurTranche : 0;
+    return rect().adjusted(marge, haut + 2, -marge, haut - HauteurTranche - 2);
 }
 
 bool Etiquette::MontreTout()
 {
-    return text().isEmpty() || ajusté_.Mesurer(font(), Montré(), PlaceDuContenu().size(), Drapeaux()).Entier;
+    if (text().isEmpty())
+        return true;
+    const auto place = Partager(PlaceDuContenu()).Texte.size();
+    return ajusté_.Mesurer(font(), Montré(), place, Drapeaux()).Entier;
+}
+
+QFont Etiquette::PoliceMontrée()
+{
+    return ajusté_.Mesurer(font(), Montré(), Partager(PlaceDuContenu()).Texte.size(), Drapeaux()).Police;
+}
+
+Etiquette::Parties Etiquette::Partager(QRect place) const
+{
+    Parties parties;
+    parties.Pictogramme = QRect{place.topLeft(), QSize{LargeurPictogramme(), place.height()}};
+    place.setLeft(place.left() + LargeurPictogramme());
+    const auto prendreLeBout = [&place](int largeur, int écart) {
+        const QRect bout{place.right() - largeur + 1, place.y(), largeur, place.height()};
+        if (largeur > 0)
+            place.setRight(bout.left() - écart);
+        return bout;
+    };
+    parties.Plaque = prendreLeBout(LargeurPlaque(), 0);
+    if (!verdict)
+        parties.Signe = prendreLeBout(std::min(LargeurSigne(), place.width() / 3), 2);
+    parties.Texte = place.adjusted(MargeDuVerdict(), 0, -MargeDuVerdict(), 0);
+    return parties;
 }
 
 void Etiquette::paintEvent(QPaintEvent* /*événement*/)
@@ -207,38 +242,29 @@ void Etiquette::PeindreFond(QPainter& peintre) const
 void Etiquette::PeindreContenu(QPainter& peintre, QRect place)
 {
     const auto sol = fond.isValid() ? fond : Teinte::Panneau;
-    if (const int largeur = LargeurPictogramme(); largeur > 0) {
-        const QRectF carré{QPointF(place.x(), place.center().y() - largeur * 0.4), QSizeF(largeur, largeur) * 0.8};
-        Peindre(peintre, pictogramme, carré);
-        place.setLeft(place.left() + largeur);
-    }
-    if (const int largeur = LargeurPlaque(); largeur > 0) {
-        const QRect bout{place.right() - largeur + 1, place.y(), largeur, place.height()};
+    const auto parties = Partager(place);
+    const auto encreDesAjouts = EncreSur(sol, encre.isValid() ? encre : Teinte::Encre);
+    PeindrePictogramme(peintre, parties.Pictogramme, sol);
+    if (!plaque.isEmpty()) {
         auto police = font();
         police.setBold(true);
         peintre.setFont(police);
-        peintre.setPen(EncreSur(sol, Teinte::Encre));
-        peintre.drawText(bout, Qt::AlignCenter, plaque);
-        place.setRight(bout.left());
+        peintre.setPen(encreDesAjouts);
+        peintre.drawText(parties.Plaque, Qt::AlignCenter, plaque);
     }
-    if (signe != Signe::Aucun && !verdict) {
-        const int largeur = std::min(LargeurSigne(), place.width() / 3);
-        const QRect bout{place.right() - largeur + 1, place.y(), largeur, place.height()};
-        PeindreSigne(peintre, signe, bout, EncreSur(sol, Teinte::Encre));
-        place.setRight(bout.left() - 2);
-    }
+    if (!verdict)
+        PeindreSigne(peintre, signe, parties.Signe, encreDesAjouts);
     if (text().isEmpty())
         return;
     const auto montré = Montré();
-    const int avant = verdict ? 2 * LargeurSigne() : 0; // on both sides, so that the text stays in the middle
-    place.adjust(avant, 0, -avant, 0);
+    place = parties.Texte;
     const auto& ajusté = ajusté_.Mesurer(font(), montré, place.size(), Drapeaux());
     const auto automatique = fond.isValid() ? EncreSur(fond, Teinte::Encre) : palette().color(QPalette::WindowText);
     const auto couleur = !isEnabled() ? Teinte::EncreEteinte : encre.isValid() ? encre : automatique;
     const auto boîte = QFontMetrics{ajusté.Police}.boundingRect(place, ajusté.Drapeaux, montré);
     if (isEnabled())
         PeindrePlaqueSous(peintre, boîte, couleur);
-    if (avant > 0) {
+    if (MargeDuVerdict() > 0) {
         const int côté = LargeurSigne();
         PeindreSigne(peintre, signe, QRectF(boîte.left() - 1.4 * côté, boîte.center().y() - côté / 2.0, côté, côté),
                      couleur);
@@ -246,6 +272,21 @@ void Etiquette::PeindreContenu(QPainter& peintre, QRect place)
     peintre.setFont(ajusté.Police);
     peintre.setPen(couleur);
     peintre.drawText(place, ajusté.Drapeaux, montré);
+}
+
+void Etiquette::PeindrePictogramme(QPainter& peintre, const QRect& place, const QColor& sol) const
+{
+    if (pictogramme.Formes.empty())
+        return;
+    const double côté = place.width() * 0.8;
+    const QRectF carré{QPointF(place.x(), place.center().y() - côté / 2), QSizeF(côté, côté)};
+    if (!SeVoitSur(pictogramme, sol)) {
+        const double bord = côté * 0.12;
+        peintre.setPen(Qt::NoPen);
+        peintre.setBrush(Qt::white);
+        peintre.drawRoundedRect(carré.adjusted(-bord, -bord, bord, bord), Arrondi / 2.0, Arrondi / 2.0);
+    }
+    Peindre(peintre, pictogramme, carré);
 }
 
 // Two told colours that can't be read on one another; the same colour twice hides on purpose.
@@ -256,7 +297,7 @@ void Etiquette::PeindrePlaqueSous(QPainter& peintre, const QRect& texte, const Q
     const bool grandes = font().pixelSize() >= (font().bold() ? GrandesLettresGrasses : GrandesLettres);
     const auto sol = fond.isValid() ? fond : Teinte::Panneau;
     if (couleur == sol || (!fond.isValid() && !encre.isValid()) ||
-        Contraste(couleur, sol) >= (grandes || !fond.isValid() ? 3.0 : 4.5))
+        Contraste(couleur, sol) >= (grandes || !fond.isValid() ? ContrasteDUnTrait : 4.5))
         return;
     peintre.setPen(Qt::NoPen);
     peintre.setBrush(EncreSur(couleur, Qt::white));
@@ -349,8 +390,9 @@ QSize Bouton::sizeHint() const
 {
     const int taille = font().pixelSize();
     const auto texte = TailleTexte(font(), text(), DrapeauxBouton, taille * 18);
-    const int minimum = text().size() > 2 ? taille * 6 : taille * 3;
-    return {std::max(texte.width() + taille * 2, minimum), texte.height() + taille + Tranche};
+    const int minimum = taille * (text().size() > 2 ? 6 : 3);
+    const int largeur = text().size() == 1 ? taille * 2 : std::max(texte.width() + taille * 2, minimum);
+    return {largeur, texte.height() + taille + HauteurTranche};
 }
 
 QSize Bouton::minimumSizeHint() const
@@ -374,7 +416,8 @@ void Bouton::paintEvent(QPaintEvent* /*événement*/)
         peintre.setBrush(Teinte::Eteint);
         peintre.drawRoundedRect(QRectF{rect()}.adjusted(1, 1, -1, -1), Arrondi, Arrondi);
     }
-    const auto place = rect().adjusted(8, 2 + (isDown() ? Tranche : 0), -8, -2 - (isDown() ? 0 : Tranche));
+    const auto place =
+        rect().adjusted(8, 2 + (isDown() ? HauteurTranche : 0), -8, -2 - (isDown() ? 0 : HauteurTranche));
     const auto& ajusté = ajusté_.Mesurer(font(), text(), place.size(), DrapeauxBouton);
     peintre.setFont(ajusté.Police);
     peintre.setPen(!isEnabled() ? Teinte::EncreEteinte : encre.isValid() ? encre : Teinte::Encre);
@@ -431,6 +474,8 @@ void Papier::paintEvent(QPaintEvent* /*événement*/)
 
 void PiedDePage::paintEvent(QPaintEvent* /*événement*/)
 {
+    if (!MontreQuelqueChose(*this)) // the work may need the place meanwhile
+        return;
     QPainter peintre{this};
     peintre.fillRect(rect(), Teinte::Panneau);
     peintre.fillRect(QRect{0, 0, width(), 2}, Teinte::BordPanneau);
@@ -470,7 +515,7 @@ void Panneau::AjusterMarges()
     const int bord = std::max(8, font().pixelSize() / 2);
     const int haut = couvrant ? 0 : enTête ? bord / 2 : HauteurTitre() + bord;
     if (auto* contenu = layout())
-        contenu->setContentsMargins(bord, haut, bord, bord + Tranche);
+        contenu->setContentsMargins(bord, haut, bord, bord + HauteurTranche);
     const int largeurTitre = titre_.isEmpty() ? 0 : QFontMetrics{font()}.horizontalAdvance(titre_) * 7 / 10;
     setMinimumWidth(couvrant ? 0 : std::min(largeurTitre + 2 * bord, 560));
 }
@@ -518,12 +563,13 @@ void Panneau::PeindreCarte(QPainter& peintre) const
         peintre.setClipping(false);
     }
     const int bord = std::max(10, font().pixelSize() * 3 / 4);
-    const auto place = bande.adjusted(bord, 0, enTête ? -bande.height() * 2 : -bord, 0);
-    peintre.setFont(AjusterPolice(PoliceTitre(), titre_, place.size(), Qt::AlignVCenter));
+    const auto place = bande.adjusted(bord, 0, enTête ? -bande.height() * 3 / 2 : -bord, 0);
+    static constexpr int Drapeaux = Qt::AlignVCenter | Qt::AlignLeft | Qt::TextWordWrap;
+    peintre.setFont(AjusterPolice(PoliceTitre(), titre_, place.size(), Drapeaux));
     peintre.setPen(coloré            ? EncreSur(fond, encre.isValid() ? encre : Teinte::Encre)
                    : encre.isValid() ? encre
                                      : Teinte::Encre);
-    peintre.drawText(place, Qt::AlignVCenter | Qt::AlignLeft, titre_);
+    peintre.drawText(place, Drapeaux, titre_);
 }
 
 // What a cover holds stands in the middle of its place.

@@ -50,6 +50,8 @@ public:
     [[nodiscard]] int heightForWidth(int largeur) const override;
     // Nothing of the caption is cut where it stands now.
     [[nodiscard]] bool MontreTout();
+    // The letters of the caption where it stands now.
+    [[nodiscard]] QFont PoliceMontrée();
 
 protected:
     void paintEvent(QPaintEvent* événement) override;
@@ -61,17 +63,28 @@ protected:
     void leaveEvent(QEvent* événement) override;
     // What stands inside the borders; a drawing in the derived class.
     virtual void PeindreContenu(QPainter& peintre, QRect place);
+    [[nodiscard]] virtual bool EstVide() const;
 
 private:
+    // Where what it shows stands; a sign of a verdict stands in the text's own place.
+    struct Parties {
+        QRect Pictogramme;
+        QRect Plaque;
+        QRect Signe;
+        QRect Texte;
+    };
     [[nodiscard]] QString Montré() const;
     [[nodiscard]] int Drapeaux() const;
     [[nodiscard]] int Marge() const;
     [[nodiscard]] QRect PlaceDuContenu() const;
-    [[nodiscard]] bool EstVide() const;
+    [[nodiscard]] Parties Partager(QRect place) const;
     [[nodiscard]] int LargeurSigne() const;
+    [[nodiscard]] int MargeDuVerdict() const;
+    [[nodiscard]] int LargeurAjouts() const;
     [[nodiscard]] int LargeurPictogramme() const;
     [[nodiscard]] int LargeurPlaque() const;
     void PeindreFond(QPainter& peintre) const;
+    void PeindrePictogramme(QPainter& peintre, const QRect& place, const QColor& sol) const;
     void PeindrePlaqueSous(QPainter& peintre, const QRect& texte, const QColor& couleur) const;
 
     bool cliquable_ = false;
@@ -92,6 +105,7 @@ public:
 
 protected:
     void PeindreContenu(QPainter& peintre, QRect place) override;
+    [[nodiscard]] bool EstVide() const override { return dessin.Formes.empty(); }
 };
 
 class Bouton final : public QPushButton {

@@ -74,9 +74,12 @@ BoîteMessage::BoîteMessage(const Boîte& boîte, QWidget* parent) : QMessageBo
             : boîte.Symbole == Icône::Question ? QMessageBox::Question
                                                : QMessageBox::Information);
     static constexpr int MoindreLargeur = 18; // letters: a short message is no narrower than its title
+    static constexpr int LargeurUsuelle = 34; // a long one is broken into lines
     static constexpr int ColonneDuTexte = 2;
+    const int lettre = font().pixelSize();
+    const auto texte = TailleTexte(font(), text(), Qt::TextWordWrap, LargeurUsuelle * lettre);
     if (auto* grille = dynamic_cast<QGridLayout*>(layout()))
-        grille->setColumnMinimumWidth(ColonneDuTexte, MoindreLargeur * font().pixelSize());
+        grille->setColumnMinimumWidth(ColonneDuTexte, std::max(texte.width() + lettre / 2, MoindreLargeur * lettre));
     const auto ajouter = [this](const QString& légende, ButtonRole rôle) {
         auto* bouton = new Bouton{this};
         bouton->setText(légende);

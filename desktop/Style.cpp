@@ -12,6 +12,7 @@
 #include <QPainterPath>
 #include <QScreen>
 #include <QStyleOption>
+#include <QTabBar>
 #include <QToolTip>
 
 #include <algorithm>
@@ -21,7 +22,6 @@ namespace tirelune {
 namespace {
 
 constexpr int Bord = 2;
-constexpr int Tranche = 3;   // height of the lower edge of a button
 constexpr int BordTexte = 5; // of what scrolls: its round corners lie outside of what is shown in it
 
 int Lettre(const QFont& police)
@@ -124,17 +124,14 @@ void PeindreBouton(QPainter& peintre, const QStyleOption& option)
     const bool enfoncé = A(option, QStyle::State_Sunken);
     const bool survolé = A(option, QStyle::State_MouseOver);
     const QRectF place{option.rect};
-    if (!A(option, QStyle::State_Enabled)) {
+    if (!A(option, QStyle::State_Enabled))
         PeindreContour(peintre, place, Teinte::BordChamp, Teinte::Eteint);
-    } else {
-        if (!enfoncé)
-            PeindreContour(peintre, place, Teinte::BordBouton, Teinte::BordBouton);
-        const auto face = enfoncé ? place.adjusted(0, Tranche, 0, 0) : place.adjusted(0, 0, 0, -Tranche);
-        PeindreContour(peintre, face, Teinte::BordBouton,
-                       enfoncé   ? Teinte::BoutonEnfoncé
-                       : survolé ? Teinte::BoutonSurvolé
-                                 : Teinte::Bouton);
-    }
+    else
+        PeindreTouche(peintre, place,
+                      enfoncé   ? Teinte::BoutonEnfoncé
+                      : survolé ? Teinte::BoutonSurvolé
+                                : Teinte::Bouton,
+                      Teinte::BordBouton, enfoncé);
 }
 
 // A small button: of a tool bar, or with a picture in a dialog.
@@ -161,6 +158,27 @@ void PeindreChoix(QPainter& peintre, const QRectF& place)
     peintre.setPen(Qt::NoPen);
     peintre.setBrush(Teinte::Sélection);
     peintre.drawRoundedRect(place, Arrondi - Bord, Arrondi - Bord);
+}
+
+// The title of a column.
+void PeindreEnTête(QPainter& peintre, const QStyleOption& option)
+{
+    const auto place = option.rect;
+    peintre.fillRect(place, Teinte::Fond);
+    peintre.fillRect(QRect{place.x(), place.bottom() - Bord + 1, place.width(), Bord}, Teinte::BordChamp);
+    peintre.fillRect(QRect{place.right(), place.y(), 1, place.height()}, Teinte::BordPanneau);
+}
+
+// A tab above its page: the one in front runs into it.
+void PeindreOnglet(QPainter& peintre, const QStyleOption& option)
+{
+    const bool devant = A(option, QStyle::State_Selected);
+    const bool survolé = A(option, QStyle::State_MouseOver | QStyle::State_Enabled);
+    peintre.setClipRect(option.rect);
+    PeindreContour(peintre, QRectF{option.rect}.adjusted(0, devant ? 0 : Bord, 0, Arrondi), Teinte::BordChamp,
+                   devant    ? Teinte::Panneau
+                   : survolé ? Teinte::BoutonSurvolé
+                             : Teinte::Eteint);
 }
 
 int LargeurCoche(const QWidget* widget)
@@ -252,7 +270,7 @@ void Arrondir(QStyleHintReturn* réponse, const QRect& place)
 
 int HauteurUsuelle(const QFont& police)
 {
-    return QFontMetrics{police}.height() + Lettre(police) + Tranche;
+    return QFontMetrics{police}.height() + Lettre(police) + HauteurTranche;
 }
 
 void InstallerApparence()
@@ -340,6 +358,12 @@ void Style::drawPrimitive(PrimitiveElement élément, const QStyleOption* option
     case PE_PanelTipLabel:
         PeindreContour(*peintre, QRectF{option->rect}, Teinte::BordChamp, option->palette.brush(QPalette::ToolTipBase));
         break;
+    case PE_FrameGroupBox:
+        PeindreContour(*peintre, QRectF{option->rect}, Teinte::BordPanneau, Teinte::Panneau);
+        break;
+    case PE_FrameTabWidget:
+        PeindreContour(*peintre, QRectF{option->rect}, Teinte::BordChamp, Teinte::Panneau);
+        break;
     case PE_FrameMenu:
     case PE_PanelMenuBar:
         break;
@@ -355,12 +379,17 @@ void Style::drawControl(ControlElement élément, const QStyleOption* option, QP
 {
     peintre->save();
     const auto* menu = qstyleoption_cast<const QStyleOptionMenuItem*>(option);
+    const auto* onglet = qstyleoption_cast<const QStyleOptionTab*>(option);
     if (élément == CE_PushButtonBevel)
         PeindreBouton(*peintre, *option);
     else if (élément == CE_MenuItem && menu != nullptr)
         PeindreOption(*peintre, *menu, widget);
     else if (élément == CE_MenuBarItem && menu != nullptr)
         PeindreMenu(*peintre, *menu);
+    else if (élément == CE_HeaderSection)
+        PeindreEnTête(*peintre, *option);
+    else if (onglet != nullptr && élément == CE_TabBarTabShape && onglet->shape == QTabBar::RoundedNorth)
+        PeindreOnglet(*peintre, *option);
     else if (élément == CE_MenuBarEmptyArea)
         peintre->fillRect(option->rect, option->palette.brush(QPalette::Window));
     else
@@ -460,6 +489,7 @@ QSize Style::sizeFromContents(ContentsType genre, const QStyleOption* option, co
     const auto police = PoliceDe(widget);
     const int lettre = Lettre(police);
     const int hauteur = HauteurUsuelle(police);
+    const auto* menu = qstyleoption_cast<const QStyleOptionMenuItem*>(option);
     switch (genre) {
     case CT_LineEdit:
     case CT_ComboBox: // it has room for a picture already, which takes the arrow
@@ -474,10 +504,11 @@ QSize Style::sizeFromContents(ContentsType genre, const QStyleOption* option, co
     case CT_RadioButton:
     case CT_ItemViewItem:
         return QProxyStyle::sizeFromContents(genre, option, contenu, widget).expandedTo({0, hauteur});
-    case CT_MenuBarItem:
-        return {contenu.width() + lettre * 3 / 2, hauteur};
+    case CT_MenuBarItem: {
+        const auto texte = menu == nullptr ? contenu : QFontMetrics{police}.size(Qt::TextShowMnemonic, menu->text);
+        return {texte.width() + lettre * 3 / 2, hauteur};
+    }
     case CT_MenuItem: {
-        const auto* menu = qstyleoption_cast<const QStyleOptionMenuItem*>(option);
         if (menu != nullptr && menu->menuItemType == QStyleOptionMenuItem::Separator)
             return {contenu.width(), lettre / 2};
         const bool raccourci = menu != nullptr && menu->text.contains(u'\t');
@@ -527,7 +558,7 @@ int Style::pixelMetric(PixelMetric mesure, const QStyleOption* option, const QWi
     case PM_ButtonShiftHorizontal:
         return 0;
     case PM_ButtonShiftVertical:
-        return Tranche;
+        return HauteurTranche;
     case PM_ToolTipLabelFrameWidth:
         return lettre / 3;
     case PM_SmallIconSize:

@@ -46,7 +46,7 @@ public:
     {
         liste_.setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
         liste_.setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-        liste_.setMinimumContentsLength(combo.Saisie ? 5 : 14);
+        liste_.setMinimumContentsLength(combo.Saisie ? 3 : 14);
         liste_.setMaxVisibleItems(16);
         liste_.setAttribute(Qt::WA_InputMethodEnabled);
         liste_.view()->installEventFilter(&liste_);

@@ -418,6 +418,27 @@ TEST_F(Eléments, UneImageSePeintEtSeClique)
     });
 }
 
+TEST_F(Eléments, LeBordDUneImageCliquableEstPlein)
+{
+    écran.imgTête.Picture = Dessin{10, 10, {{GenreForme::Ellipse, {{4, 4}, {6, 6}}, Noir, 1, Jaune}}};
+    écran.imgTête.Click = [] {};
+    Avec(écran, [&] {
+        const auto bordPlein = [&] {
+            const auto image = Widget(écran.imgTête).grab().toImage();
+            const int milieu = image.width() / 2;
+            for (int x = std::max(12, milieu - 30); x < std::min(image.width() - 12, milieu + 30); ++x) {
+                if (image.pixelColor(x, 0) != image.pixelColor(milieu, 0))
+                    return false;
+            }
+            return true;
+        };
+        EXPECT_TRUE(bordPlein());
+        écran.imgTête.Picture = Dessin{};
+        Mettre();
+        EXPECT_FALSE(bordPlein()) << "nothing to see there";
+    });
+}
+
 TEST_F(Eléments, CliquerUnCadre)
 {
     écran.frame.Click = [&] { ++clics; };
@@ -622,7 +643,13 @@ TEST_F(Atelier, LesMenusSuiventLeursOptions)
         auto* barre = Devant().findChild<QMenuBar*>();
         ASSERT_NE(barre, nullptr);
         ASSERT_EQ(barre->actions().size(), 2);
-        EXPECT_EQ(barre->actions()[0]->text(), "     &Fichier     ");
+        EXPECT_EQ(barre->actions()[0]->text(), "&Fichier") << "blanks are not to be heard";
+        const auto largeur = [&] { return barre->actionGeometry(barre->actions()[0]).width(); };
+        const int écartée = largeur();
+        Devant().resize(120, 400);
+        Mettre();
+        EXPECT_LT(largeur(), écartée - 5 * barre->fontMetrics().horizontalAdvance(u' '))
+            << "they spread it all the same";
         auto entrées = barre->actions()[0]->menu()->actions();
         ASSERT_EQ(entrées.size(), 3);
         EXPECT_TRUE(entrées[1]->isSeparator());

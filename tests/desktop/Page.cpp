@@ -116,6 +116,8 @@ TEST_F(Pages, UnEtatSeVoitSansCouleur)
     écran.lblMot.BackColor = Jaune;
     EXPECT_EQ(SigneDe(écran.lblMot), Signe::Choisi);
     EXPECT_EQ(SigneDe(écran.lblPoints), Signe::Aucun) << "a count is no answer";
+    écran.lblPoints.Verrouillé = true;
+    EXPECT_EQ(SigneDe(écran.lblPoints), Signe::Verrou);
     écran.lblVerdict.ForeColor = VertFoncé;
     EXPECT_EQ(SigneDe(écran.lblVerdict), Signe::Juste);
     écran.lblVerdict.ForeColor = Rouge;
@@ -144,6 +146,111 @@ TEST_F(Pages, LeSigneEstPeint)
         EXPECT_GT(bout(Vert), 20);
         EXPECT_GT(bout(Rouge), 20);
         EXPECT_GT(bout(Jaune), 20);
+        écran.lblMot.Verrouillé = true;
+        EXPECT_GT(bout(Blanc), 20);
+    });
+}
+
+namespace {
+
+int Compter(const QImage& image, const QColor& couleur)
+{
+    int points = 0;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x)
+            points += image.pixelColor(x, y) == couleur ? 1 : 0;
+    }
+    return points;
+}
+
+} // namespace
+
+namespace {
+
+// How often the widget is painted while it is there.
+class CompteurDePeintures final : public QObject {
+public:
+    explicit CompteurDePeintures(QWidget& widget) { widget.installEventFilter(this); }
+    int fois = 0;
+    bool eventFilter(QObject* /*visé*/, QEvent* événement) override
+    {
+        fois += événement->type() == QEvent::Paint ? 1 : 0;
+        return false;
+    }
+};
+
+} // namespace
+
+TEST_F(Pages, UnSigneNouveauSePeintAussitôt)
+{
+    écran.lblMot.Click = [] {};
+    Avec(écran, [&] {
+        Mettre();
+        QCoreApplication::processEvents();
+        CompteurDePeintures compteur{Widget(écran.lblMot)};
+        écran.lblMot.Verrouillé = true;
+        Mettre();
+        QCoreApplication::processEvents();
+        EXPECT_GT(compteur.fois, 0);
+    });
+}
+
+TEST_F(Pages, UnPictogrammeInvisibleSurSonFondReçoitUnePlaque)
+{
+    static constexpr Couleur BleuProfond = Couleur::Rvb(15, 74, 134);
+    écran.lblMot.ForeColor = Noir;
+    écran.lblMot.Picture = Dessin{10, 10, {{GenreForme::Ellipse, {{1, 1}, {9, 9}}, BleuProfond, 1}}};
+    écran.lblMot.Click = [] {};
+    écran.lblMot.BackColor = Rouge;
+    Avec(écran, [&] {
+        EXPECT_GT(Compter(Image(écran.lblMot), Qt::white), 50) << "blue on red";
+        écran.lblMot.BackColor = Jaune;
+        Mettre();
+        EXPECT_EQ(Compter(Image(écran.lblMot), Qt::white), 0) << "blue on yellow shows";
+    });
+}
+
+TEST_F(Pages, UneLégendeCompteAvecCeQuiSeTientAuprès)
+{
+    écran.lblMot.Click = [] {};
+    écran.lblMot.Caption = Texte(40, u'm');
+    Avec(écran, [&] {
+        auto& étiquette = Widget<Etiquette>(écran.lblMot);
+        étiquette.setParent(&Devant()); // out of its layout
+        étiquette.resize(étiquette.sizeHint());
+        ASSERT_TRUE(étiquette.MontreTout());
+        const auto juste = étiquette.font().pixelSize() * 12; // at the smallest letters, the caption alone
+        étiquette.resize(juste, étiquette.height());
+        ASSERT_TRUE(étiquette.MontreTout());
+        étiquette.plaque = QStringLiteral("10");
+        étiquette.pictogramme = Dessin{10, 10, {{GenreForme::Ellipse, {{1, 1}, {9, 9}}}}};
+        étiquette.resize(étiquette.font().pixelSize() * 4, étiquette.height());
+        EXPECT_FALSE(étiquette.MontreTout());
+    });
+}
+
+TEST_F(Pages, LesBoutonsDuPiedOntUneSeuleTaille)
+{
+    écran.cadre.Visible = true;
+    écran.cmdSuivant.FontSize = 10;
+    Avec(écran, [&] {
+        EXPECT_EQ(Widget(écran.cmdSuivant).font(), Widget(écran.cmdDuCadre).font());
+        EXPECT_GT(Widget(écran.cmdSuivant).font().pixelSize(), Widget(écran.lblVerdict).font().pixelSize());
+    });
+}
+
+TEST_F(Pages, UnPiedSansBoutonLaisseVoirLeTravail)
+{
+    écran.cmdSuivant.Visible = false;
+    écran.BackColor = Olive;
+    Avec(écran, [&] {
+        const auto bas = [&] {
+            return Devant().grab().toImage().pixelColor(Devant().width() / 2, Devant().height() - 8);
+        };
+        EXPECT_NE(bas(), Teinte::Panneau);
+        écran.cmdSuivant.Visible = true;
+        Mettre();
+        EXPECT_EQ(bas(), Teinte::Panneau);
     });
 }
 

@@ -5,6 +5,8 @@
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QGroupBox>
+#include <QHeaderView>
 #include <QIcon>
 #include <QImage>
 #include <QListWidget>
@@ -13,6 +15,9 @@
 #include <QPainter>
 #include <QScrollBar>
 #include <QStyle>
+#include <QTabBar>
+#include <QTabWidget>
+#include <QTableWidget>
 #include <QToolTip>
 
 #include <algorithm>
@@ -155,6 +160,27 @@ TEST_F(Styles, UneBulleGranditAvecSaFenêtre)
         EXPECT_GE((*bulle)->height(), (*bulle)->fontMetrics().height());
         QToolTip::hideText();
     });
+}
+
+// What only the toolkit's dialogs have.
+TEST_F(Styles, LesDialoguesOntLesTraitsDesEcrans)
+{
+    QTabWidget onglets;
+    onglets.addTab(new QGroupBox{QStringLiteral("Copies")}, QStringLiteral("Page"));
+    onglets.addTab(new QWidget, QStringLiteral("Options"));
+    QTableWidget table{1, 1};
+    onglets.resize(400, 300);
+    table.resize(400, 300);
+    const auto image = onglets.grab().toImage();
+    const auto devant = onglets.tabBar()->geometry().topLeft() + onglets.tabBar()->tabRect(0).topLeft();
+    const auto derrière = onglets.tabBar()->geometry().topLeft() + onglets.tabBar()->tabRect(1).topLeft();
+    EXPECT_EQ(image.pixelColor(devant + QPoint{14, 4}), Teinte::Panneau);
+    EXPECT_EQ(image.pixelColor(derrière + QPoint{14, 6}), Teinte::Eteint);
+    auto* cadre = onglets.widget(0);
+    EXPECT_EQ(cadre->grab().toImage().pixelColor(cadre->width() / 2, cadre->height() - 1), Teinte::BordPanneau);
+    auto* entête = table.horizontalHeader();
+    EXPECT_EQ(entête->grab().toImage().pixelColor(3, 1), Teinte::Fond);
+    EXPECT_EQ(entête->grab().toImage().pixelColor(3, entête->height() - 1), Teinte::BordChamp);
 }
 
 // A scale of the display that is no whole number.
