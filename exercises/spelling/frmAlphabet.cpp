@@ -54,7 +54,7 @@ Arrangement frmAlphabet::Disposer()
                 Ligne{Ressort{}, Extensible(Colonne{rtfMot}, PartDeLaColonne(choix_.cmbVocabulaire)), Ressort{}},
                 Ressort{},
             },
-        .Pied = Ligne{Extensible(Partagée(lblLettre)), cmdQuitter},
+        .Pied = Ligne{Extensible(Touches(lblLettre, 1)), cmdQuitter},
         .Dessus = EnPlace(notice),
     }};
 }
