@@ -507,8 +507,18 @@ class Pilote:
         x, y, l, h = self.jusqu_a(place, f"character {rang} of {nom!r} is shown")
         return x + l // 2, y + h // 2
 
+    def caractere_en_vue(self, nom, rang):
+        """The same, brought in sight by the wheel when it isn't."""
+        gauche, haut, largeur, hauteur = self.attendre(nom).place
+        while True:
+            lieu = self.caractere(nom, rang)
+            if haut < lieu[1] < haut + hauteur:
+                return lieu
+            self._xdotool("mousemove", gauche + largeur // 2, haut + hauteur // 2, "click", 4 if lieu[1] <= haut else 5)
+            self.jusqu_a(lambda lieu=lieu: self.caractere(nom, rang) != lieu, f"the wheel moves {nom!r}")
+
     def clic_caractere(self, nom, rang, fois=1):
-        self.clic_en(*self.caractere(nom, rang), fois=fois)
+        self.clic_en(*self.caractere_en_vue(nom, rang), fois=fois)
 
     def selection(self, nom):
         """What is selected in a text box: from where, to where; both the same for a mere caret."""
