@@ -46,7 +46,7 @@ private:
 constexpr auto PasTerminé = u"Tu n'a pas terminé !\nVeux-tu vraiment quitter ?";
 
 // Three rows whose answers are "gai", "âpre" and "gai".
-EcranAssociation& Ouvrir(Banc& banc)
+EcranAssociation& OuvrirJeuDAssociation(Banc& banc)
 {
     auto& écran = banc.Ouvrir<EcranAssociation>();
     const std::vector<Texte> réponses{u"gai", u"âpre", u"gai"};
@@ -70,7 +70,7 @@ void Remplir(EcranAssociation& écran, std::initializer_list<VueTexte> mots)
 TEST(JeuDAssociation, UneSeuleRangéeEstJaune)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc);
+    auto& écran = OuvrirJeuDAssociation(banc);
     écran.Cliquer(0);
     écran.Cliquer(2);
     for (int i = 0; i < 3; ++i) {
@@ -82,7 +82,7 @@ TEST(JeuDAssociation, UneSeuleRangéeEstJaune)
 TEST(JeuDAssociation, MotPrisVaDansLaRangéeChoisieEtQuitteLaListe)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc);
+    auto& écran = OuvrirJeuDAssociation(banc);
     écran.Cliquer(1);
     EXPECT_EQ(écran.Prendre(u"gai"), 1);
     EXPECT_EQ(écran.lblMot(1).Caption, u"gai");
@@ -94,7 +94,7 @@ TEST(JeuDAssociation, MotPrisVaDansLaRangéeChoisieEtQuitteLaListe)
 TEST(JeuDAssociation, SansRangéeChoisieRienNEstPlacé)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc);
+    auto& écran = OuvrirJeuDAssociation(banc);
     EXPECT_EQ(écran.Prendre(u"gai"), std::nullopt);
     EXPECT_EQ(écran.cmb.ListCount(), 3);
     EXPECT_EQ(écran.cmb.Text, u"gai") << "montré, sans plus";
@@ -103,7 +103,7 @@ TEST(JeuDAssociation, SansRangéeChoisieRienNEstPlacé)
 TEST(JeuDAssociation, RangéeRemplieNePrendPasUnSecondMot)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc);
+    auto& écran = OuvrirJeuDAssociation(banc);
     écran.Cliquer(0);
     écran.Prendre(u"gai");
     EXPECT_EQ(écran.Prendre(u"âpre"), std::nullopt);
@@ -114,7 +114,7 @@ TEST(JeuDAssociation, RangéeRemplieNePrendPasUnSecondMot)
 TEST(JeuDAssociation, ClicSurUneRangéeRemplieRendSonMot)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc);
+    auto& écran = OuvrirJeuDAssociation(banc);
     écran.Cliquer(0);
     écran.Prendre(u"gai");
     écran.Cliquer(0);
@@ -128,7 +128,7 @@ TEST(JeuDAssociation, ClicSurUneRangéeRemplieRendSonMot)
 TEST(JeuDAssociation, RangéeVideNeRendRien)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc);
+    auto& écran = OuvrirJeuDAssociation(banc);
     écran.Cliquer(0);
     EXPECT_EQ(écran.cmb.ListCount(), 3);
 }
@@ -136,7 +136,7 @@ TEST(JeuDAssociation, RangéeVideNeRendRien)
 TEST(JeuDAssociation, LaCorrectionPrendUneSecondeParRangée)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc);
+    auto& écran = OuvrirJeuDAssociation(banc);
     Remplir(écran, {u"gai", u"gai", u"âpre"});
     std::vector<Couleur> vues;
     for (const auto délai : {500ms, 1500ms, 2500ms})
@@ -167,7 +167,7 @@ TEST(JeuDAssociation, LaCorrectionPrendUneSecondeParRangée)
 TEST(JeuDAssociation, AprèsLaCorrectionLesRangéesSontMortes)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc);
+    auto& écran = OuvrirJeuDAssociation(banc);
     Remplir(écran, {u"gai", u"âpre", u"gai"});
     écran.DemanderCorrection();
     EXPECT_FALSE(ChoisirRangée(écran.jeu, 0));
@@ -178,7 +178,7 @@ TEST(JeuDAssociation, AprèsLaCorrectionLesRangéesSontMortes)
 TEST(JeuDAssociation, RangéesVidesSontAConfirmer)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc);
+    auto& écran = OuvrirJeuDAssociation(banc);
     Remplir(écran, {u"gai", u"âpre"});
     banc.plateforme.boîtes.push_back({PasTerminé, Réponse::Non, u"Avertissement", {}});
     écran.DemanderCorrection();
@@ -198,7 +198,7 @@ TEST(JeuDAssociation, RangéesVidesSontAConfirmer)
 TEST(JeuDAssociation, RangéeCachéeEtVideNeManquePas)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc);
+    auto& écran = OuvrirJeuDAssociation(banc);
     Remplir(écran, {u"gai", u"âpre"});
     écran.lblMot(2).Visible = false;
     écran.DemanderCorrection(); // no box
@@ -208,7 +208,7 @@ TEST(JeuDAssociation, RangéeCachéeEtVideNeManquePas)
 TEST(JeuDAssociation, LeJugeDécide)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc);
+    auto& écran = OuvrirJeuDAssociation(banc);
     Remplir(écran, {u"gai", u"gai", u"âpre"});
     Corriger(écran.jeu, [](int i) { return i != 0; });
     EXPECT_EQ(écran.lblMot(0).BackColor, Rouge);
@@ -219,7 +219,7 @@ TEST(JeuDAssociation, LeJugeDécide)
 TEST(JeuDAssociation, AccentsEtCasseComptent)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc);
+    auto& écran = OuvrirJeuDAssociation(banc);
     écran.lblMot(1).Caption = u"apre";
     EXPECT_FALSE(RéponseExacte(écran.jeu, 1));
     écran.lblMot(1).Caption = u"Âpre";
@@ -231,7 +231,7 @@ TEST(JeuDAssociation, AccentsEtCasseComptent)
 TEST(JeuDAssociation, FerméPendantLaCorrection)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc);
+    auto& écran = OuvrirJeuDAssociation(banc);
     Remplir(écran, {u"gai", u"âpre", u"gai"});
     banc.plateforme.Prévoir(1500ms, [&] { écran.FermerParCroix(); });
     écran.DemanderCorrection();
@@ -243,7 +243,7 @@ TEST(JeuDAssociation, FerméPendantLaCorrection)
 TEST(JeuDAssociation, FerméPendantLaQuestion)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc);
+    auto& écran = OuvrirJeuDAssociation(banc);
     banc.plateforme.boîtes.push_back({PasTerminé, Réponse::Oui, std::nullopt, [&] { écran.FermerParCroix(); }});
     écran.DemanderCorrection();
     EXPECT_EQ(écran.lblPoints(1).Caption, u"0");
