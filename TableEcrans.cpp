@@ -8,9 +8,11 @@
 #include "exercises/comprehension/frmClosures.h"
 #include "exercises/comprehension/frmQuestionnaire1.h"
 #include "exercises/comprehension/frmTexteMasqué.h"
+#include "exercises/memory/frmAbsent.h"
 #include "exercises/memory/frmPhotographier.h"
 #include "exercises/memory/frmPoursuite.h"
 #include "exercises/memory/frmSérie.h"
+#include "exercises/memory/frmTrouveMoi.h"
 #include "exercises/order/frmMotsEnDésordre.h"
 #include "exercises/order/frmMotsInversés.h"
 #include "exercises/spelling/frmAlphabet.h"
@@ -62,6 +64,7 @@ std::unique_ptr<Ecran> SurLEditeur(Ecran& ouvreur)
 void RemplirTable(Application& application)
 {
     auto& table = application.écrans;
+    table["frmAbsent"] = SurLeChoix<frmAbsent>;
     table["frmAlphabet"] = SurLeChoix<frmAlphabet>;
     table["frmClosures"] = SurLeChoix<frmClosures>;
     table["frmCodeCouleur"] = SurLeChoix<frmCodeCouleur>;
@@ -78,6 +81,7 @@ void RemplirTable(Application& application)
     table["frmRechercher"] = SurLEditeur<frmRechercher>;
     table["frmSérie"] = SurLeChoix<frmSérie>;
     table["frmTexteMasqué"] = SurLeChoix<frmTexteMasqué>;
+    table["frmTrouveMoi"] = SurLeChoix<frmTrouveMoi>;
     table["frmTrous"] = SurLeChoix<frmTrous>;
 }
 

@@ -264,6 +264,8 @@ void MiseEnPage::draw(QPainter* peintre, const PaintContext& contexte)
             break;
         QList<QTextLayout::FormatRange> choisis;
         for (const auto& sélection : contexte.selections) {
+            if (!MontrerSélection)
+                break;
             const int début = sélection.cursor.selectionStart() - bloc.position();
             const int fin = sélection.cursor.selectionEnd() - bloc.position();
             if (début < bloc.length() && fin > 0 && fin > début)

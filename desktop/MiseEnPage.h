@@ -30,6 +30,7 @@ public:
     std::function<void(int)> Défiler; // brings that height to the top of what is in sight
     double Interligne = 1;            // height of a line, in heights of its letters
     double LargeurDeLecture = 0;      // pixels that lines have at most, in the middle of a wider page; 0: any
+    bool MontrerSélection = true;     // no: the letters say by themselves what is chosen
 
     // Formats or measures of these paragraphs have changed.
     void Périmer(int premier, int dernier);

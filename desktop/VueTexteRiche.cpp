@@ -123,6 +123,16 @@ public:
         viewport()->update();
     }
 
+    void MontrerVisé()
+    {
+        const auto cadre = CadreVisé();
+        auto* barre = verticalScrollBar();
+        if (cadre.top() < 0)
+            barre->setValue(barre->value() + cadre.top());
+        else if (cadre.bottom() > viewport()->height())
+            barre->setValue(barre->value() + cadre.bottom() - viewport()->height());
+    }
+
     // The character under the point; right of a line, its end.
     [[nodiscard]] int CaractèreSous(QPoint lieu) const
     {
@@ -314,6 +324,7 @@ private:
             événement.ignore();
             return;
         }
+        const bool parMots = (événement.modifiers() & Qt::ControlModifier) != 0;
         switch (événement.key()) {
         case Qt::Key_Return:
         case Qt::Key_Enter:
@@ -331,9 +342,9 @@ private:
         case Qt::Key_PageDown:
             return Feuilleter(QAbstractSlider::SliderPageStepAdd);
         case Qt::Key_Left:
-            return Aller(QTextCursor::PreviousCharacter);
+            return Aller(parMots ? QTextCursor::PreviousWord : QTextCursor::PreviousCharacter);
         case Qt::Key_Right:
-            return Aller(QTextCursor::NextCharacter);
+            return Aller(parMots ? QTextCursor::NextWord : QTextCursor::NextCharacter);
         case Qt::Key_Up:
             return Aller(QTextCursor::Up);
         case Qt::Key_Down:
@@ -367,14 +378,11 @@ private:
         ici.setPosition(Visé());
         ici.movePosition(pas);
         Pointer(ici.position());
-        const auto cadre = CadreVisé();
         auto* barre = verticalScrollBar();
         if (pas == QTextCursor::Start || pas == QTextCursor::End)
             barre->setValue(pas == QTextCursor::Start ? 0 : barre->maximum());
-        else if (cadre.top() < 0)
-            barre->setValue(barre->value() + cadre.top());
-        else if (cadre.bottom() > viewport()->height())
-            barre->setValue(barre->value() + cadre.bottom() - viewport()->height());
+        else
+            MontrerVisé();
     }
 
     VueTexteRiche& vue_;
@@ -443,7 +451,9 @@ int VueTexteRiche::Visé() const
 
 void VueTexteRiche::Viser(int position)
 {
-    static_cast<Page&>(zone_).Viser(position);
+    auto& page = static_cast<Page&>(zone_);
+    page.Viser(position);
+    page.MontrerVisé();
 }
 
 QString VueTexteRiche::Affiché(std::size_t début, std::size_t fin) const
@@ -520,6 +530,7 @@ void VueTexteRiche::Synchroniser()
     ColorerFond(Qt::white); // its letters have colours of their own, chosen for paper
     Vue::Synchroniser();
     enSynchro_ = true;
+    mise_.MontrerSélection = boîte_.BackColor == CouleurAuto || boîte_.BackColor == Blanc;
     SuivreEchelle();
     enRetouche_ = true;
     for (const auto& retouche : retouches_.Prendre())
