@@ -14,10 +14,10 @@ constexpr VueTexte Conseil =
     u"meilleur confort.                    Pour gagner de la place, faites disparaître la barre des tâches "
     u"du système : clic droit sur la barre, Propriétés, option Masquer automatiquement.";
 constexpr std::size_t LongueurCode = 6;
-constexpr int CôtéEnseigne = 3000;  // twips
-constexpr int LargeurCode = 6000;   // twips: its title in full
-constexpr int LargeurNotice = 8400; // twips
-constexpr int LignesBlanches = 7;   // the editor shows its fonts seven at a time
+constexpr int CôtéEnseigne = 3000;   // twips
+constexpr int LargeurCode = 7800;    // twips: its title in full
+constexpr int LargeurNotice = 11200; // twips
+constexpr int LignesBlanches = 7;    // the editor shows its fonts seven at a time
 
 // The school's own two lines: to be filled in here and nowhere else.
 constexpr VueTexte SiteDeLEcole = u"[adresse du site : à compléter par l'école]";
@@ -60,16 +60,16 @@ Arrangement frmTirelune::Disposer()
     return Colonne{
         Extensible(Pile{
             Centré{AuMoins(CôtéEnseigne, CôtéEnseigne, imgEnseigne)},
-            Centré{Cadre{frameCodeEnseignant, AuMoins(LargeurCode, 0,
-                                                      Colonne{
-                                                          lblCodeEnseignant,
-                                                          Ligne{txtCodeEnseignant, Label1},
-                                                          // No room is kept for what comes up at the first use alone.
-                                                          Pile{lblVérificationCode},
-                                                          Pile{txtVérificationCode},
-                                                          Pile{lblCodeRappel},
-                                                          Ligne{Ressort{}, cmdCode, cmdAnnuler},
-                                                      })}},
+            Centré{
+                Cadre{frameCodeEnseignant, AuMoins(LargeurCode, 0,
+                                                   Colonne{
+                                                       Ligne{lblCodeEnseignant, Extensible(txtCodeEnseignant), Label1},
+                                                       // No room is kept for what comes up at the first use alone.
+                                                       Pile{lblVérificationCode},
+                                                       Pile{txtVérificationCode},
+                                                       Pile{lblCodeRappel},
+                                                       Ligne{Ressort{}, cmdCode, cmdAnnuler},
+                                                   })}},
         }),
         Centré{Cadre{Frame1, AuMoins(LargeurNotice, 0, Colonne(Label2))}},
     };
