@@ -275,6 +275,7 @@ class DialoguePolices final : public QFontDialog {
 public:
     DialoguePolices(const QFont& police, QWidget* parent) : QFontDialog(police, parent)
     {
+        setFont(PoliceDeDialogue(parent)); // what follows is measured in its letters
         setOption(QFontDialog::DontUseNativeDialog);
         // Strike-through is the mark of words, and underlining has its own button.
         for (auto* effet : findChildren<QCheckBox*>())
@@ -330,7 +331,6 @@ std::unique_ptr<QFontDialog> CréerDialoguePolice(const ChoixPolice& départ, QW
     police.setFamily(QFontInfo{police}.family());
     police.setPointSizeF(départ.Taille > 0 ? départ.Taille : 12);
     auto dialogue = std::make_unique<DialoguePolices>(police, parent);
-    dialogue->setFont(PoliceDeDialogue(parent));
     dialogue->setWindowTitle(QStringLiteral("Caractères"));
     Dimensionner(*dialogue, {36, 28});
     return dialogue;

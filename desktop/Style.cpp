@@ -240,6 +240,22 @@ void PeindreDéfilement(QPainter& peintre, const QRect& rail, const QRect& curse
         bande(curseur, A(option, QStyle::State_MouseOver) ? Teinte::Encre : Teinte::BordActif);
 }
 
+// The title of a group stands above its frame.
+QRect PartieDuGroupe(const QStyleOptionGroupBox& option, QStyle::SubControl partie)
+{
+    const int lettre = option.fontMetrics.height() * 5 / 6;
+    const int titre = option.text.isEmpty() ? 0 : option.fontMetrics.height() + lettre / 4;
+    const auto cadre = option.rect.adjusted(0, titre, 0, 0);
+    switch (partie) {
+    case QStyle::SC_GroupBoxLabel:
+        return {option.rect.x() + lettre / 2, option.rect.y(), option.rect.width() - lettre, titre};
+    case QStyle::SC_GroupBoxContents:
+        return cadre.adjusted(Bord, Bord, -Bord, -Bord);
+    default:
+        return cadre;
+    }
+}
+
 QRect Curseur(const QStyleOptionSlider& option, int moindre)
 {
     const bool couchée = option.orientation == Qt::Horizontal;
@@ -461,6 +477,9 @@ QRect Style::subControlRect(ComplexControl élément, const QStyleOptionComplex*
             return place;
         }
     }
+    const auto* groupe = qstyleoption_cast<const QStyleOptionGroupBox*>(option);
+    if (élément == CC_GroupBox && groupe != nullptr && (groupe->subControls & SC_GroupBoxCheckBox) == 0)
+        return PartieDuGroupe(*groupe, partie);
     const auto* barre = qstyleoption_cast<const QStyleOptionSlider*>(option);
     if (élément == CC_ScrollBar && barre != nullptr) {
         const auto curseur = Curseur(*barre, lettre * 2);

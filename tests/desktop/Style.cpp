@@ -15,6 +15,7 @@
 #include <QPainter>
 #include <QScrollBar>
 #include <QStyle>
+#include <QStyleOption>
 #include <QTabBar>
 #include <QTabWidget>
 #include <QTableWidget>
@@ -178,6 +179,15 @@ TEST_F(Styles, LesDialoguesOntLesTraitsDesEcrans)
     EXPECT_EQ(image.pixelColor(derrière + QPoint{14, 6}), Teinte::Eteint);
     auto* cadre = onglets.widget(0);
     EXPECT_EQ(cadre->grab().toImage().pixelColor(cadre->width() / 2, cadre->height() - 1), Teinte::BordPanneau);
+    auto& groupe = dynamic_cast<QGroupBox&>(*cadre);
+    QStyleOptionGroupBox option;
+    option.initFrom(&groupe);
+    option.text = groupe.title();
+    option.subControls = QStyle::SC_GroupBoxFrame | QStyle::SC_GroupBoxLabel;
+    const auto partie = [&](QStyle::SubControl une) {
+        return groupe.style()->subControlRect(QStyle::CC_GroupBox, &option, une, &groupe);
+    };
+    EXPECT_GT(partie(QStyle::SC_GroupBoxFrame).top(), partie(QStyle::SC_GroupBoxLabel).bottom());
     auto* entête = table.horizontalHeader();
     EXPECT_EQ(entête->grab().toImage().pixelColor(3, 1), Teinte::Fond);
     EXPECT_EQ(entête->grab().toImage().pixelColor(3, entête->height() - 1), Teinte::BordChamp);
