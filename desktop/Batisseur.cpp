@@ -22,7 +22,7 @@ namespace {
 constexpr int Bord = 8;   // around what a screen shows; pixels of an 800 x 600 display, as all here
 constexpr int Espace = 6; // between two neighbours
 constexpr int HauteurPied = 66;
-constexpr double PointsDuPied = 16; // of all buttons there
+constexpr double PointsDuPied = 14; // of all buttons there
 
 // Rules compute the places of such work: it has the screen's corner, and nearly its width.
 bool EstPlacéParLesRègles(const Arrangement& travail)
@@ -316,6 +316,8 @@ Bâtisseur::Place Bâtisseur::BâtirSuite(const Arrangement& place, QWidget* par
 Bâtisseur::Place Bâtisseur::BâtirCarte(const Arrangement& place, QWidget* parent)
 {
     auto* carte = new Papier{parent};
+    if (place.Enfants.front().Genre == Disposition::Toile) // drawings are told for a white ground
+        carte->fond = Qt::white;
     Remplir(carte, place.Enfants.front());
     AvecMarges(*carte->layout(), Bord, Bord, Bord, Bord);
     return {carte, nullptr};

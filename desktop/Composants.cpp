@@ -99,6 +99,11 @@ bool Etiquette::EstVide() const
     return text().isEmpty() && pictogramme.Formes.empty();
 }
 
+QColor Etiquette::Sol() const
+{
+    return fond.isValid() ? fond : Teinte::Panneau;
+}
+
 int Etiquette::LargeurSigne() const
 {
     return signe == Signe::Aucun ? 0 : font().pixelSize();
@@ -212,10 +217,11 @@ void Etiquette::PeindreFond(QPainter& peintre) const
 {
     const QRectF place{rect()};
     if (cliquable_) {
-        const auto face = fond.isValid() ? fond : Teinte::Panneau;
+        const auto face = Sol();
+        const auto claire = Contraste(face, Teinte::Tranche) > 1.2 ? Teinte::Tranche : face.darker(150);
         const auto bord = bordure || signe == Signe::Choisi     ? Teinte::Encre
                           : fond.isValid() && fond != Qt::white ? fond.darker(125)
-                                                                : Teinte::Tranche;
+                                                                : claire;
         if (EstVide() && face == Teinte::Panneau) { // a place that has given its word away
             peintre.setPen(QPen{Teinte::Tranche, 2, Qt::DashLine});
             peintre.setBrush(Qt::NoBrush);
@@ -241,7 +247,7 @@ void Etiquette::PeindreFond(QPainter& peintre) const
 
 void Etiquette::PeindreContenu(QPainter& peintre, QRect place)
 {
-    const auto sol = fond.isValid() ? fond : Teinte::Panneau;
+    const auto sol = Sol();
     const auto parties = Partager(place);
     const auto encreDesAjouts = EncreSur(sol, encre.isValid() ? encre : Teinte::Encre);
     PeindrePictogramme(peintre, parties.Pictogramme, sol);
@@ -278,10 +284,11 @@ void Etiquette::PeindrePictogramme(QPainter& peintre, const QRect& place, const 
 {
     if (pictogramme.Formes.empty())
         return;
-    const double côté = place.width() * 0.8;
-    const QRectF carré{QPointF(place.x(), place.center().y() - côté / 2), QSizeF(côté, côté)};
+    static constexpr double PartDuBord = 0.12; // of a plate, around the drawing
+    const double côté = std::min<double>(place.width() * 0.8, place.height() / (1 + 2 * PartDuBord));
+    const double bord = côté * PartDuBord;
+    const QRectF carré{QPointF(place.x() + bord, QRectF{place}.center().y() - côté / 2), QSizeF(côté, côté)};
     if (!SeVoitSur(pictogramme, sol)) {
-        const double bord = côté * 0.12;
         peintre.setPen(Qt::NoPen);
         peintre.setBrush(Qt::white);
         peintre.drawRoundedRect(carré.adjusted(-bord, -bord, bord, bord), Arrondi / 2.0, Arrondi / 2.0);
@@ -295,7 +302,7 @@ void Etiquette::PeindrePlaqueSous(QPainter& peintre, const QRect& texte, const Q
     static constexpr int GrandesLettres = 24; // pixels; WCAG 2.1: 18 points, or 14 bold ones
     static constexpr int GrandesLettresGrasses = 18;
     const bool grandes = font().pixelSize() >= (font().bold() ? GrandesLettresGrasses : GrandesLettres);
-    const auto sol = fond.isValid() ? fond : Teinte::Panneau;
+    const auto sol = Sol();
     if (couleur == sol || (!fond.isValid() && !encre.isValid()) ||
         Contraste(couleur, sol) >= (grandes || !fond.isValid() ? ContrasteDUnTrait : 4.5))
         return;
@@ -363,6 +370,12 @@ QSize ImageDessinée::sizeHint() const
     const double échelle = font().pixelSize() / 16.0;
     return {std::max(24, static_cast<int>(dessin.Largeur * Agrandissement * échelle)),
             std::max(24, static_cast<int>(dessin.Hauteur * Agrandissement * échelle))};
+}
+
+// Drawings are told for a white ground: another one must show them as well.
+QColor ImageDessinée::Sol() const
+{
+    return fond.isValid() || SeVoitSur(dessin, Etiquette::Sol()) ? Etiquette::Sol() : QColor{Qt::white};
 }
 
 void ImageDessinée::PeindreContenu(QPainter& peintre, QRect place)
@@ -460,7 +473,7 @@ void Papier::paintEvent(QPaintEvent* /*événement*/)
     QPainter peintre{this};
     peintre.setRenderHint(QPainter::Antialiasing);
     if (!accent.isValid()) {
-        PeindrePapier(peintre, rect());
+        PeindrePapier(peintre, rect(), fond);
         return;
     }
     static constexpr int LargeurAccent = 6;

@@ -64,6 +64,8 @@ protected:
     // What stands inside the borders; a drawing in the derived class.
     virtual void PeindreContenu(QPainter& peintre, QRect place);
     [[nodiscard]] virtual bool EstVide() const;
+    // What it shows stands on that.
+    [[nodiscard]] virtual QColor Sol() const;
 
 private:
     // Where what it shows stands; a sign of a verdict stands in the text's own place.
@@ -106,6 +108,7 @@ public:
 protected:
     void PeindreContenu(QPainter& peintre, QRect place) override;
     [[nodiscard]] bool EstVide() const override { return dessin.Formes.empty(); }
+    [[nodiscard]] QColor Sol() const override;
 };
 
 class Bouton final : public QPushButton {
@@ -136,6 +139,7 @@ public:
     using QWidget::QWidget;
 
     QColor accent; // of its left edge, where it has one
+    QColor fond = Teinte::Panneau;
 
 protected:
     void paintEvent(QPaintEvent* événement) override;

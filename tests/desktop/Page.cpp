@@ -290,6 +290,36 @@ TEST_F(Pages, CeQuiSeCliqueEstAssezGrand)
     });
 }
 
+// The desktop's colours, put back at the end.
+class PanneauNoir {
+public:
+    PanneauNoir() { Teinte::Panneau = Qt::black, Teinte::Tranche = Qt::white; }
+    PanneauNoir(const PanneauNoir&) = delete;
+    PanneauNoir& operator=(const PanneauNoir&) = delete;
+    ~PanneauNoir() { Teinte::Panneau = panneau_, Teinte::Tranche = tranche_; }
+
+private:
+    const QColor panneau_ = Teinte::Panneau;
+    const QColor tranche_ = Teinte::Tranche;
+};
+
+TEST_F(Pages, UnBordEtUnDessinSeVoientSurUnPanneauNoir)
+{
+    const PanneauNoir noir;
+    écran.lblMot.Click = [] {};
+    écran.lblMot.BackColor = Blanc;
+    Avec(écran, [&] {
+        const auto image = Image(écran.lblMot);
+        EXPECT_NE(image.pixelColor(image.width() / 2, image.height() - 1), QColor{Qt::white});
+        ImageDessinée axes{nullptr};
+        axes.clic = [] {};
+        axes.RendreCliquable(true);
+        axes.dessin = Dessin{10, 10, {{GenreForme::Tracé, {{0, 5}, {10, 5}}, Noir, 2}}};
+        axes.resize(60, 40);
+        EXPECT_EQ(axes.grab().toImage().pixelColor(30, 8), QColor{Qt::white});
+    });
+}
+
 TEST(Contrastes, LEncreChoisieSeLit)
 {
     EXPECT_NEAR(Contraste(Qt::black, Qt::white), 21, 0.01);
