@@ -156,12 +156,13 @@ void Ecran::AjusterBoîte(RichTextBox& boîte, int marge)
     boîte.Height = std::max(Height - marge, 0);
 }
 
-double Ecran::PointsSelonLargeur() const
+double Ecran::PointsSelonPlace() const
 {
     static constexpr double LargeurUsuelle = 12000; // twips, of a display of 800 x 600
+    static constexpr double HauteurUsuelle = 7500;  // less than that: letters take more of the width
     static constexpr double PointsUsuels = 12;
     static constexpr double Agrandissement = 1.3;
-    return PointsUsuels * std::clamp(Width / LargeurUsuelle, 1.0, Agrandissement);
+    return PointsUsuels * std::clamp(std::min(Width / LargeurUsuelle, Height / HauteurUsuelle), 1.0, Agrandissement);
 }
 
 bool Ecran::Attendre(std::chrono::milliseconds durée)

@@ -108,8 +108,8 @@ protected:
     // The rule by which a text fills its screen: 150 twips less in width, `marge` less in height; a screen of
     // less than 1000 twips either way is set to 1000 by 1000.
     void AjusterBoîte(RichTextBox& boîte, int marge = 1100);
-    // The usual size of letters (points), more where the window's width has grown faster than they have.
-    [[nodiscard]] double PointsSelonLargeur() const;
+    // The usual size of letters (points), more where the window has grown faster than they have.
+    [[nodiscard]] double PointsSelonPlace() const;
     [[nodiscard]] bool Attendre(std::chrono::milliseconds durée);
     [[nodiscard]] bool AttendreArrêt(Timer& minuterie);
     void Repeindre();

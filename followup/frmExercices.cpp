@@ -139,7 +139,7 @@ void frmExercices::Load()
 
 void frmExercices::Resize()
 {
-    const double points = PointsSelonLargeur();
+    const double points = PointsSelonPlace();
     for (int i = 0; i < NombreExercices; ++i) {
         lblExo(i).FontSize = points;
         lblMoyenne(i).FontSize = points;

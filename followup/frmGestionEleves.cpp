@@ -78,7 +78,7 @@ Arrangement frmGestionEleves::Disposer()
                                  Label1,
                                  Extensible(Pile{
                                      Colonne{Ressort{}, Ligne{Ressort{}, cmdCheminRéseau, Ressort{}}, Ressort{}},
-                                     Colonne{drvLecteurs, Extensible(AuMoins(0, 2400, dirLecteurs)),
+                                     Colonne{drvLecteurs, Extensible(AuMoins(0, 1800, dirLecteurs)),
                                              Ligne{cmdValiderCheminRéseau, Ressort{}}},
                                  }),
                              }}),
@@ -92,7 +92,7 @@ Arrangement frmGestionEleves::Disposer()
 void frmGestionEleves::Resize()
 {
     for (auto* élément : Eléments())
-        élément->FontSize = PointsSelonLargeur();
+        élément->FontSize = PointsSelonPlace();
 }
 
 void frmGestionEleves::Load()

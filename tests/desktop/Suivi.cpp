@@ -158,6 +158,25 @@ TEST_F(Suivi, AprèsUneConfirmationFausseLeClavierRevientALaListe)
     });
 }
 
+// 960 x 540 is a display of 1920 x 1080 at twice the size.
+TEST_F(Suivi, RienNeSeCouvreDansLaGestionDesElèves)
+{
+    Elève("Léa.bil");
+    frmGestionEleves élèves{application};
+    Avec(élèves, [&] {
+        élèves.cmdCheminRéseau.Visible = false;
+        élèves.drvLecteurs.Visible = élèves.dirLecteurs.Visible = élèves.cmdValiderCheminRéseau.Visible = true;
+        for (const QSize taille : {QSize{800, 580}, QSize{960, 530}, QSize{1366, 748}, QSize{1920, 1060}}) {
+            Devant().setGeometry({QPoint{0, 0}, taille});
+            Mettre();
+            QCoreApplication::sendPostedEvents();
+            const auto& liste = Widget(élèves.dirLecteurs);
+            EXPECT_LT(liste.geometry().bottom(), Widget(élèves.cmdValiderCheminRéseau).y()) << taille.width();
+            EXPECT_GT(liste.y(), Widget(élèves.drvLecteurs).geometry().bottom()) << taille.width();
+        }
+    });
+}
+
 TEST_F(Suivi, LeDossierSurlignéEstCeluiQueLOnValide)
 {
     std::filesystem::create_directories(Fichier("a") / "dedans");
