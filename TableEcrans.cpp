@@ -13,9 +13,13 @@
 #include "exercises/memory/frmPoursuite.h"
 #include "exercises/memory/frmSérie.h"
 #include "exercises/memory/frmTrouveMoi.h"
+#include "exercises/order/frmLignesEnDésordre.h"
 #include "exercises/order/frmMotsEnDésordre.h"
 #include "exercises/order/frmMotsInversés.h"
+#include "exercises/order/frmPhrasesEnDésordre.h"
 #include "exercises/spelling/frmAlphabet.h"
+#include "exercises/spelling/frmEcrireMot.h"
+#include "exercises/spelling/frmMotsCoupés.h"
 #include "exercises/spelling/frmPendu.h"
 #include "exercises/vocabulary/frmTrous.h"
 #include "followup/frmCodeCouleur.h"
@@ -68,13 +72,17 @@ void RemplirTable(Application& application)
     table["frmAlphabet"] = SurLeChoix<frmAlphabet>;
     table["frmClosures"] = SurLeChoix<frmClosures>;
     table["frmCodeCouleur"] = SurLeChoix<frmCodeCouleur>;
+    table["frmEcrireMot"] = SurLeChoix<frmEcrireMot>;
     table["frmEnseignant"] = SurLAccueil<frmEnseignant>;
     table["frmExercices"] = Seul<frmExercices>;
     table["frmGestionEleves"] = Seul<frmGestionEleves>;
+    table["frmLignesEnDésordre"] = SurLeChoix<frmLignesEnDésordre>;
+    table["frmMotsCoupés"] = SurLeChoix<frmMotsCoupés>;
     table["frmMotsEnDésordre"] = SurLeChoix<frmMotsEnDésordre>;
     table["frmMotsInversés"] = SurLeChoix<frmMotsInversés>;
     table["frmPendu"] = SurLeChoix<frmPendu>;
     table["frmPhotographier"] = SurLeChoix<frmPhotographier>;
+    table["frmPhrasesEnDésordre"] = SurLeChoix<frmPhrasesEnDésordre>;
     table["frmPoursuite"] = SurLeChoix<frmPoursuite>;
     table["frmProgression"] = SurLeChoix<frmProgression>;
     table["frmQuestionnaire1"] = SurLeChoix<frmQuestionnaire1>;

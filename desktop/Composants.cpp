@@ -266,9 +266,10 @@ void Etiquette::PeindreContenu(QPainter& peintre, QRect place)
     place = parties.Texte;
     const auto& ajusté = ajusté_.Mesurer(font(), montré, place.size(), Drapeaux());
     const auto automatique = fond.isValid() ? EncreSur(fond, Teinte::Encre) : palette().color(QPalette::WindowText);
-    const auto couleur = !isEnabled() ? Teinte::EncreEteinte : encre.isValid() ? encre : automatique;
+    const bool éteinte = !isEnabled() && !(fond.isValid() && encre.isValid()); // told colours stay
+    const auto couleur = éteinte ? Teinte::EncreEteinte : encre.isValid() ? encre : automatique;
     const auto boîte = QFontMetrics{ajusté.Police}.boundingRect(place, ajusté.Drapeaux, montré);
-    if (isEnabled())
+    if (!éteinte)
         PeindrePlaqueSous(peintre, boîte, couleur);
     if (MargeDuVerdict() > 0) {
         const int côté = LargeurSigne();

@@ -20,13 +20,17 @@ const std::filesystem::path Sources{DOSSIER_SOURCES};
 const std::map<std::string, Noms> Réserves{
     {"frmAbsent", {"lblChronoRéf"}},
     {"frmAlphabet", {"cmbMots", "lblPassage"}},
+    {"frmEcrireMot", {"cmbMots", "lblMot", "lblRéf"}},
     {"frmEnseignant", {"rtfSauve"}},
     {"frmExercices", {"cmbVocabulaire", "fgRésultats", "lblIndex", "listeBil", "rtfTexte"}},
     {"frmGestionEleves", {"listeBil"}},
+    {"frmLignesEnDésordre", {"cmbMélangées", "cmbOrdre", "lblPassage", "txtPhrase"}},
+    {"frmMotsCoupés", {"cmbEliminés", "cmbMots", "lblPassage"}},
     {"frmMotsEnDésordre", {"cmbMots", "cmbOrdre", "lblBanque", "lblCorrigé", "lblPassage"}},
     {"frmMotsInversés",
      {"cmbMots", "cmbOrdre", "lblBanque", "lblCorrigé", "lblMot", "lblNombreMots", "rtfInversion", "rtfPassage"}},
     {"frmPendu", {"cmbMots", "imgRéf", "lblRéf"}},
+    {"frmPhrasesEnDésordre", {"cmbMélangées", "cmbOrdre", "lblPassage"}},
     {"frmPoursuite", {"lblCorrigé", "lblPassage"}},
     {"frmQuestionnaire1", {"fgQuestions"}},
     {"frmSérie", {"lblCompteur"}},
@@ -160,6 +164,10 @@ TEST_F(Ecrans, LaTabulationSuitLOrdreDuTravail)
         {"frmAbsent", {"lblMot(0)", "lblMot(9)", "cmdQuitter"}},
         {"frmTrouveMoi", {"rtfRéponse", "cmdSuivant"}},
         {"frmAlphabet", {"rtfMot(0)", "rtfMot(9)", "cmdQuitter"}},
+        {"frmMotsCoupés", {"lblMotFin(0)", "lblMotFin(9)", "lblMotDébut(0)", "lblMotDébut(9)", "cmdQuitter"}},
+        {"frmEcrireMot", {"txtRéponse", "cmdOk", "cmdCommencer"}},
+        {"frmMotsInversés", {"rtfPhrase", "cmdTerminé", "cmdOk", "cmdAnnuler", "cmdSuivant"}},
+        {"frmMotsEnDésordre", {"lblMot(0)", "txtPhrase", "cmdTerminé", "cmdSuivant"}},
         {"frmPendu", {"lblLettre(0)", "lblLettre(25)", "cmdSuivant"}},
     };
     for (const auto& [nom, ordre] : ordres) {

@@ -93,7 +93,7 @@ protected:
     static std::vector<Texte> Choisis(const frmMotsInversés& écran) { return Colorés(écran, Rouge); }
 };
 
-using Choix = std::vector<Texte>;
+using SuiteDeMots = std::vector<Texte>;
 
 } // namespace
 
@@ -104,10 +104,10 @@ TEST_F(MotsInversésEssai, AuDébutDeuxMotsOntChangéDePlace)
     auto& écran = OuvrirLaPremière();
     EXPECT_EQ(écran.Caption, u"Mots inversés / Léa");
     EXPECT_EQ(écran.rtfPhrase.Text(), u"Le noir chat petit dort bien.");
-    EXPECT_EQ(Colorés(écran, Bleu), (Choix{u"Le noir chat petit dort bien."}));
+    EXPECT_EQ(Colorés(écran, Bleu), (SuiteDeMots{u"Le noir chat petit dort bien."}));
     EXPECT_EQ(écran.rtfPhrase.SelStart(), 0U);
-    EXPECT_EQ(écran.cmbOrdre.Eléments(), (Choix{u"Le", u"petit", u"chat", u"noir", u"dort", u"bien."}));
-    EXPECT_EQ(écran.cmbMots.Eléments(), (Choix{u"Le", u"noir", u"chat", u"petit", u"dort", u"bien."}));
+    EXPECT_EQ(écran.cmbOrdre.Eléments(), (SuiteDeMots{u"Le", u"petit", u"chat", u"noir", u"dort", u"bien."}));
+    EXPECT_EQ(écran.cmbMots.Eléments(), (SuiteDeMots{u"Le", u"noir", u"chat", u"petit", u"dort", u"bien."}));
     EXPECT_EQ(écran.lblCorrigé.Caption, Première);
     EXPECT_EQ(écran.lblBanque.Caption, Texte{Première} + u' ');
     EXPECT_EQ(écran.lblNombreMots.Caption, u"0");
@@ -212,16 +212,16 @@ TEST_F(MotsInversésEssai, UnMotCliquéDevientRougeOùQuOnLeTouche)
     auto& écran = OuvrirLaPremière();
     for (const std::size_t place : {3U, 5U, 6U, 7U}) { // "noir", and the blank behind it
         écran.rtfPhrase.Cliquer(place);
-        EXPECT_EQ(Choisis(écran), (Choix{u"noir"})) << place;
+        EXPECT_EQ(Choisis(écran), (SuiteDeMots{u"noir"})) << place;
         EXPECT_EQ(écran.lblNombreMots.Caption, u"1");
         EXPECT_EQ(écran.rtfPhrase.SelLength(), 0U);
         écran.rtfPhrase.Cliquer(place);
-        EXPECT_EQ(Choisis(écran), Choix{});
+        EXPECT_EQ(Choisis(écran), SuiteDeMots{});
     }
     écran.rtfPhrase.Cliquer(0);
-    EXPECT_EQ(Choisis(écran), (Choix{u"Le"}));
+    EXPECT_EQ(Choisis(écran), (SuiteDeMots{u"Le"}));
     écran.rtfPhrase.Cliquer(écran.rtfPhrase.Longueur());
-    EXPECT_EQ(Choisis(écran), (Choix{u"Le", u"bien."}));
+    EXPECT_EQ(Choisis(écran), (SuiteDeMots{u"Le", u"bien."}));
 }
 
 TEST_F(MotsInversésEssai, UnMotChoisiDeuxFoisNeLEstPlusEtLeBoutonSEnVa)
@@ -233,9 +233,9 @@ TEST_F(MotsInversésEssai, UnMotChoisiDeuxFoisNeLEstPlusEtLeBoutonSEnVa)
     EXPECT_TRUE(écran.cmdTerminé.Visible);
     Choisir(écran, u"chat");
     EXPECT_FALSE(écran.cmdTerminé.Visible);
-    EXPECT_EQ(Choisis(écran), (Choix{u"noir"}));
+    EXPECT_EQ(Choisis(écran), (SuiteDeMots{u"noir"}));
     EXPECT_EQ(écran.lblNombreMots.Caption, u"1");
-    EXPECT_EQ(Colorés(écran, Bleu), (Choix{u"Le ", u" chat petit dort bien."}));
+    EXPECT_EQ(Colorés(écran, Bleu), (SuiteDeMots{u"Le ", u" chat petit dort bien."}));
 }
 
 TEST_F(MotsInversésEssai, UnTroisièmeMotNeSeChoisitPas)
@@ -243,7 +243,7 @@ TEST_F(MotsInversésEssai, UnTroisièmeMotNeSeChoisitPas)
     auto& écran = OuvrirLaPremière();
     for (const auto mot : {u"Le", u"noir", u"chat"})
         Choisir(écran, mot);
-    EXPECT_EQ(Choisis(écran), (Choix{u"Le", u"noir"}));
+    EXPECT_EQ(Choisis(écran), (SuiteDeMots{u"Le", u"noir"}));
     EXPECT_EQ(écran.lblNombreMots.Caption, u"2");
     EXPECT_TRUE(écran.cmdTerminé.Visible);
 }
@@ -255,7 +255,7 @@ TEST_F(MotsInversésEssai, LEchangeSeVoitEtAttendOk)
     EXPECT_EQ(écran.rtfPhrase.Text(), Première);
     EXPECT_EQ(écran.lblMot(0).Caption, u"noir");
     EXPECT_EQ(écran.lblMot(1).Caption, u"petit");
-    EXPECT_EQ(Choisis(écran), (Choix{u"petit", u"noir"}));
+    EXPECT_EQ(Choisis(écran), (SuiteDeMots{u"petit", u"noir"}));
     EXPECT_FALSE(écran.cmdTerminé.Visible);
     EXPECT_TRUE(écran.cmdOk.Visible);
     EXPECT_TRUE(écran.cmdAnnuler.Visible);
@@ -269,7 +269,7 @@ TEST_F(MotsInversésEssai, LesMotsEchangésNeSeChoisissentPlusAvantOk)
     Echanger(écran, u"noir", u"chat");
     Choisir(écran, u"noir");
     Choisir(écran, u"petit");
-    EXPECT_EQ(Choisis(écran), (Choix{u"chat", u"noir"}));
+    EXPECT_EQ(Choisis(écran), (SuiteDeMots{u"chat", u"noir"}));
     EXPECT_EQ(écran.lblNombreMots.Caption, u"2");
     EXPECT_FALSE(écran.cmdTerminé.Visible);
 }
@@ -287,7 +287,7 @@ TEST_F(MotsInversésEssai, AnnulerRendLesMotsEnRougeSansCoûterDEssai)
     Echanger(écran, u"noir", u"chat");
     écran.cmdAnnuler.Cliquer();
     EXPECT_EQ(écran.rtfPhrase.Text(), u"Le noir chat petit dort bien.");
-    EXPECT_EQ(Choisis(écran), (Choix{u"noir", u"chat"}));
+    EXPECT_EQ(Choisis(écran), (SuiteDeMots{u"noir", u"chat"}));
     EXPECT_EQ(écran.lblNombreMots.Caption, u"0");
     EXPECT_EQ(écran.lblEssais.Caption, u"2");
     EXPECT_FALSE(écran.cmdOk.Visible);
@@ -295,7 +295,7 @@ TEST_F(MotsInversésEssai, AnnulerRendLesMotsEnRougeSansCoûterDEssai)
     EXPECT_FALSE(écran.cmdTerminé.Visible);
     EXPECT_EQ(écran.Focus(), &écran.rtfPhrase);
     Choisir(écran, u"noir");
-    EXPECT_EQ(Choisis(écran), (Choix{u"noir", u"chat"})) << "rouge, il n'est pas compté";
+    EXPECT_EQ(Choisis(écran), (SuiteDeMots{u"noir", u"chat"})) << "rouge, il n'est pas compté";
 }
 
 TEST_F(MotsInversésEssai, AprèsAnnulerLesDeuxPremiersMotsRougesSEchangent)
@@ -316,7 +316,7 @@ TEST_F(MotsInversésEssai, AnnulerTropSouventRendTousLesMotsBleus)
         Echanger(écran, un, autre);
         écran.cmdAnnuler.Cliquer();
     }
-    EXPECT_EQ(Choisis(écran), Choix{}) << "sans mot bleu, rien ne se choisirait plus";
+    EXPECT_EQ(Choisis(écran), SuiteDeMots{}) << "sans mot bleu, rien ne se choisirait plus";
     Essayer(écran, u"noir", u"petit");
     EXPECT_EQ(écran.lblPoints(0).Caption, u"2");
 }
@@ -327,7 +327,7 @@ TEST_F(MotsInversésEssai, LaPhraseJusteDevientVerteEtVautDeuxPoints)
 {
     auto& écran = OuvrirLaPremière();
     Essayer(écran, u"noir", u"petit");
-    EXPECT_EQ(Colorés(écran, VertFoncé), (Choix{Texte{Première}}));
+    EXPECT_EQ(Colorés(écran, VertFoncé), (SuiteDeMots{Texte{Première}}));
     EXPECT_EQ(écran.lblPoints(0).Caption, u"2");
     EXPECT_EQ(écran.lblPoints(1).Caption, u"2");
     EXPECT_EQ(écran.lblCoups.Caption, u"1");
@@ -346,7 +346,7 @@ TEST_F(MotsInversésEssai, DeuxAutresMotsFontUnePhraseFausseQuiRevientCommeElleE
     auto& écran = OuvrirLaPremière();
     Essayer(écran, u"chat", u"dort");
     EXPECT_EQ(écran.rtfPhrase.Text(), u"Le noir chat petit dort bien.");
-    EXPECT_EQ(Colorés(écran, Bleu), (Choix{u"Le noir chat petit dort bien."}));
+    EXPECT_EQ(Colorés(écran, Bleu), (SuiteDeMots{u"Le noir chat petit dort bien."}));
     EXPECT_EQ(écran.lblNombreMots.Caption, u"0");
     EXPECT_EQ(écran.lblEssais.Caption, u"1");
     EXPECT_EQ(écran.lblPoints(1).Caption, u"0");
@@ -367,7 +367,7 @@ TEST_F(MotsInversésEssai, LeTroisièmeEssaiVautZéro)
     EXPECT_EQ(écran.lblPoints(0).Caption, u"0");
     EXPECT_EQ(écran.lblPoints(1).Caption, u"2");
     EXPECT_EQ(écran.lblCoups.Caption, u"1");
-    EXPECT_EQ(Colorés(écran, VertFoncé), (Choix{Texte{Première}}));
+    EXPECT_EQ(Colorés(écran, VertFoncé), (SuiteDeMots{Texte{Première}}));
 }
 
 TEST_F(MotsInversésEssai, TroisEchecsMontrentLaPhrase)
@@ -383,7 +383,7 @@ TEST_F(MotsInversésEssai, TroisEchecsMontrentLaPhrase)
     EXPECT_TRUE(écran.cmdSuivant.Visible);
     écran.rtfPhrase.Cliquer(0);
     EXPECT_FALSE(écran.cmdTerminé.Visible);
-    EXPECT_EQ(Choisis(écran), Choix{});
+    EXPECT_EQ(Choisis(écran), SuiteDeMots{});
 }
 
 TEST_F(MotsInversésEssai, DeuxAutresMotsQuiDonnentLeMêmeTexteSontJustes)
