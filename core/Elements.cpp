@@ -132,9 +132,11 @@ TextBox::TextBox(Ecran& écran, std::string_view nom, const EtatInitial& initial
     : Elément(écran, nom, initial),
       Text(*this, initial.Caption),
       MaxLength(*this, initial.MaxLength),
+      Locked(*this, initial.ALire),
       PasswordChar(initial.PasswordChar),
       MultiLine(initial.MultiLine),
       PourFichier(initial.PourFichier),
+      ALire(initial.ALire),
       Centré(initial.Centré)
 {
 }

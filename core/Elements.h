@@ -47,6 +47,7 @@ struct EtatInitial {
     bool Tabulations = false; // of a rich text box: Tab writes a tab
     bool UneLigne = false;    // of a rich text box: as high as its first line, which never breaks
     bool PourFichier = false; // of a text box: holds only what a field file can hold
+    bool ALire = false;       // of a text box: locked, clicked as a whole, always shown whole
     std::size_t MaxLength = 0;
     char16_t PasswordChar = 0;
 };
@@ -208,10 +209,11 @@ public:
     Propriété<std::size_t> SelStart{*this, 0};
     Propriété<std::size_t> SelLength{*this, 0};
     Propriété<std::size_t> MaxLength;
-    Propriété<bool> Locked{*this, false};
+    Propriété<bool> Locked;
     const char16_t PasswordChar;
     const bool MultiLine;
     const bool PourFichier;
+    const bool ALire;
     const bool Centré;
 
     std::function<void()> Click;

@@ -128,7 +128,7 @@ public:
         if (dynamic_cast<const Toolbar*>(un) != nullptr)
             return QAccessible::ToolBar;
         if (dynamic_cast<const TextBox*>(un) != nullptr)
-            return QAccessible::Button;
+            return EstCliquable() ? QAccessible::Button : QAccessible::StaticText;
         return QAccessibleWidget::role();
     }
 

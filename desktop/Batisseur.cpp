@@ -233,7 +233,7 @@ Bâtisseur::Place Bâtisseur::AvecMinimum(Place une, const Arrangement& place)
 Bâtisseur::Place Bâtisseur::BâtirBoîte(const Arrangement& place, QWidget* parent)
 {
     const bool ligne = place.Genre == Disposition::Ligne;
-    auto* boîte = new QBoxLayout{ligne ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom};
+    auto* boîte = new Alignés{ligne ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom};
     boîte->setContentsMargins(0, 0, 0, 0);
     AvecEspace(*boîte);
     for (const auto& enfant : place.Enfants) {

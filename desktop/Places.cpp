@@ -4,6 +4,25 @@
 
 namespace tirelune {
 
+namespace {
+
+// The largest that a layout may get: nothing, in the direction of the row or column around it, when it is empty.
+QSize Plafond(const QLayout& layout, QSize usuel)
+{
+    const auto* autour = qobject_cast<const QBoxLayout*>(layout.parent());
+    if (autour == nullptr || !layout.isEmpty())
+        return usuel;
+    const bool ligne = autour->direction() == QBoxLayout::LeftToRight;
+    return ligne ? QSize{0, usuel.height()} : QSize{usuel.width(), 0};
+}
+
+} // namespace
+
+QSize Alignés::maximumSize() const
+{
+    return Plafond(*this, QBoxLayout::maximumSize());
+}
+
 Superposition::~Superposition()
 {
     // Out of the list first: a layout that goes takes itself out of the one it is in.
@@ -59,6 +78,11 @@ QSize Superposition::minimumSize() const
     for (auto* pièce : pièces_)
         taille = taille.expandedTo(pièce->minimumSize());
     return AvecMarges(taille);
+}
+
+QSize Superposition::maximumSize() const
+{
+    return tailleMinimale.isValid() ? QLayout::maximumSize() : Plafond(*this, QLayout::maximumSize());
 }
 
 bool Superposition::hasHeightForWidth() const

@@ -1,15 +1,22 @@
-// The layouts that the toolkit lacks: one upon the other, and at places of their own.
+// The layouts that the toolkit lacks: one upon the other, at places of their own, and rows that close up.
 #pragma once
 #include "desktop/Vue.h"
 
-#include <QLayout>
+#include <QBoxLayout>
 #include <QWidget>
 
 #include <vector>
 
 namespace tirelune {
 
-// All children as large as the place.
+// Side by side, or one under the other. When all of it is hidden it takes no room in the row or column that it is in.
+class Alignés final : public QBoxLayout {
+public:
+    using QBoxLayout::QBoxLayout;
+    [[nodiscard]] QSize maximumSize() const override;
+};
+
+// All children as large as the place. When all of it is hidden, as above.
 class Superposition : public QLayout {
 public:
     using QLayout::QLayout;
@@ -23,6 +30,7 @@ public:
     QLayoutItem* takeAt(int index) override;
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSize() const override;
+    [[nodiscard]] QSize maximumSize() const override;
     [[nodiscard]] bool hasHeightForWidth() const override;
     [[nodiscard]] int heightForWidth(int largeur) const override;
     [[nodiscard]] Qt::Orientations expandingDirections() const override;

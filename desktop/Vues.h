@@ -14,6 +14,7 @@ std::unique_ptr<Vue> Créer(Hôte& hôte, Frame& cadre, QWidget* parent);
 std::unique_ptr<Vue> Créer(Hôte& hôte, Button& bouton, QWidget* parent);
 std::unique_ptr<Vue> Créer(Hôte& hôte, CheckBox& case_, QWidget* parent);
 std::unique_ptr<Vue> Créer(Hôte& hôte, TextBox& boîte, QWidget* parent);
+std::unique_ptr<Vue> CréerTexteALire(Hôte& hôte, TextBox& boîte, QWidget* parent);
 std::unique_ptr<Vue> Créer(Hôte& hôte, RichTextBox& boîte, QWidget* parent);
 std::unique_ptr<Vue> Créer(Hôte& hôte, ComboBox& combo, QWidget* parent);
 std::unique_ptr<Vue> Créer(Hôte& hôte, ListBox& liste, QWidget* parent);

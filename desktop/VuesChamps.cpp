@@ -319,6 +319,8 @@ private:
 
 std::unique_ptr<Vue> Créer(Hôte& hôte, TextBox& boîte, QWidget* parent)
 {
+    if (boîte.ALire)
+        return CréerTexteALire(hôte, boîte, parent);
     if (boîte.MultiLine)
         return std::make_unique<VueTexteSimple>(hôte, boîte, parent);
     return std::make_unique<VueChamp>(hôte, boîte, parent);

@@ -9,7 +9,8 @@ namespace tirelune {
 namespace {
 
 // Whether it can be clicked has changed.
-bool SuivreClic(Etiquette& étiquette, const Légendé& élément)
+template <class E>
+bool SuivreClic(Etiquette& étiquette, const E& élément)
 {
     const bool cliquable{élément.Click};
     if (étiquette.EstCliquable() == cliquable)
@@ -99,6 +100,50 @@ private:
     }
 
     Label& label_;
+    Etiquette& étiquette_;
+};
+
+// As large as its place lets it be, with letters to suit.
+class EtiquetteALire final : public Etiquette {
+public:
+    using Etiquette::Etiquette;
+    [[nodiscard]] bool hasHeightForWidth() const override { return false; }
+};
+
+// A text box that is read and clicked as a label is.
+class VueTexteALire final : public Vue {
+public:
+    VueTexteALire(Hôte& hôte, TextBox& boîte, QWidget* parent)
+        : Vue(hôte, boîte, new EtiquetteALire{parent}), boîte_(boîte), étiquette_(static_cast<Etiquette&>(*widget))
+    {
+        étiquette_.centrée = boîte.Centré;
+        étiquette_.clic = [this] {
+            if (Agissante())
+                boîte_.Cliquer(0);
+        };
+    }
+
+    bool Revoir() override
+    {
+        const bool change = SuivreClic(étiquette_, boîte_);
+        if (change)
+            étiquette_.EstCliquable() ? étiquette_.setCursor(Qt::PointingHandCursor) : étiquette_.unsetCursor();
+        return change;
+    }
+
+    void Synchroniser() override
+    {
+        étiquette_.signe = SigneDe(boîte_);
+        étiquette_.fond = EnQColor(boîte_.BackColor, {});
+        étiquette_.encre = EnQColor(boîte_.ForeColor, {});
+        if (const auto texte = EnAffichage(boîte_.Text()).trimmed(); texte != étiquette_.text())
+            étiquette_.setText(texte);
+        étiquette_.update();
+        Vue::Synchroniser();
+    }
+
+private:
+    TextBox& boîte_;
     Etiquette& étiquette_;
 };
 
@@ -213,6 +258,11 @@ private:
 std::unique_ptr<Vue> Créer(Hôte& hôte, Label& label, QWidget* parent)
 {
     return std::make_unique<VueEtiquette>(hôte, label, parent);
+}
+
+std::unique_ptr<Vue> CréerTexteALire(Hôte& hôte, TextBox& boîte, QWidget* parent)
+{
+    return std::make_unique<VueTexteALire>(hôte, boîte, parent);
 }
 
 std::unique_ptr<Vue> Créer(Hôte& hôte, Image& image, QWidget* parent)
