@@ -21,6 +21,12 @@
 #include "exercises/spelling/frmEcrireMot.h"
 #include "exercises/spelling/frmMotsCoupés.h"
 #include "exercises/spelling/frmPendu.h"
+#include "exercises/vocabulary/frmContraires.h"
+#include "exercises/vocabulary/frmDico.h"
+#include "exercises/vocabulary/frmGenre.h"
+#include "exercises/vocabulary/frmSynonymes.h"
+#include "exercises/vocabulary/frmThèmes.h"
+#include "exercises/vocabulary/frmThèmes2.h"
 #include "exercises/vocabulary/frmTrous.h"
 #include "followup/frmCodeCouleur.h"
 #include "followup/frmExercices.h"
@@ -72,9 +78,12 @@ void RemplirTable(Application& application)
     table["frmAlphabet"] = SurLeChoix<frmAlphabet>;
     table["frmClosures"] = SurLeChoix<frmClosures>;
     table["frmCodeCouleur"] = SurLeChoix<frmCodeCouleur>;
+    table["frmContraires"] = SurLeChoix<frmContraires>;
+    table["frmDico"] = SurLeChoix<frmDico>;
     table["frmEcrireMot"] = SurLeChoix<frmEcrireMot>;
     table["frmEnseignant"] = SurLAccueil<frmEnseignant>;
     table["frmExercices"] = Seul<frmExercices>;
+    table["frmGenre"] = SurLeChoix<frmGenre>;
     table["frmGestionEleves"] = Seul<frmGestionEleves>;
     table["frmLignesEnDésordre"] = SurLeChoix<frmLignesEnDésordre>;
     table["frmMotsCoupés"] = SurLeChoix<frmMotsCoupés>;
@@ -87,10 +96,13 @@ void RemplirTable(Application& application)
     table["frmProgression"] = SurLeChoix<frmProgression>;
     table["frmQuestionnaire1"] = SurLeChoix<frmQuestionnaire1>;
     table["frmRechercher"] = SurLEditeur<frmRechercher>;
+    table["frmSynonymes"] = SurLeChoix<frmSynonymes>;
     table["frmSérie"] = SurLeChoix<frmSérie>;
     table["frmTexteMasqué"] = SurLeChoix<frmTexteMasqué>;
-    table["frmTrouveMoi"] = SurLeChoix<frmTrouveMoi>;
+    table["frmThèmes"] = SurLeChoix<frmThèmes>;
+    table["frmThèmes2"] = SurLeChoix<frmThèmes2>;
     table["frmTrous"] = SurLeChoix<frmTrous>;
+    table["frmTrouveMoi"] = SurLeChoix<frmTrouveMoi>;
 }
 
 } // namespace tirelune

@@ -32,6 +32,10 @@ struct Constantes {
     Texte LettresEtChiffres;
     Texte LettresSeules;
 
+    int IndexMotDico = 0;        // of the next word of the text's dictionary, however many it has
+    bool MotDicoFini = false;    // its words have all been shown once
+    bool ChoixProgramme = false; // the program itself is setting a list of answers: that's no pick
+
     std::uint8_t NoteSérie = 0;        // index of the last word of the series
     long PositionPoursuite = 0;        // place of the character being revealed, from 0
     std::int16_t VitessePoursuite = 0; // ms between two ordinary letters

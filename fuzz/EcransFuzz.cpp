@@ -48,6 +48,18 @@ TexteRiche TexteTiré(SuiteDOctets& suite)
     return texte;
 }
 
+// A file of the lexicon that will do for all: its records have up to seven words, the last one none.
+std::string Fiches()
+{
+    std::string octets;
+    for (char rang = 0; rang < 14; ++rang) {
+        octets += "\"*\"\r\n";
+        for (char colonne = 0; colonne < rang % 8 && rang < 13; ++colonne)
+            octets += {'"', static_cast<char>('a' + colonne), static_cast<char>('A' + rang), '"', '\r', '\n'};
+    }
+    return octets;
+}
+
 void PoserFichiers(const PlateformeFuzz& plateforme)
 {
     plateforme.Poser("Léa.bil", "");
@@ -55,6 +67,9 @@ void PoserFichiers(const PlateformeFuzz& plateforme)
     plateforme.Poser("Le chat.rtf",
                      R"({\rtf1\ansi Le {\strike chat} dort. Il {\strike mange} et {\strike court} vite.})");
     plateforme.Poser("Le chat.qst", "\"Qui dort ?\"\r\n\"Le chat\"\r\n\"1\"\r\n\"Le chien\"\r\n\"0\"\r\n");
+    for (const auto* nom :
+         {"Le chat.dic", "DicPrinc.dat", "Familles.dat", "Synonymes.dat", "Contraires.dat", "Genre.dat"})
+        plateforme.Poser(nom, Fiches());
     std::filesystem::create_directory(plateforme.dossier / "partage");
 }
 

@@ -38,6 +38,9 @@ Ecrans::Ecrans()
         const auto nom = std::string{"La course des escargots"} + suffixe;
         std::filesystem::copy_file(Sources / "textes" / nom, EnChemin(chemin) / nom);
     }
+    for (const auto* nom : {"DicPrinc.dat", "Familles.dat", "Synonymes.dat", "Contraires.dat", "Genre.dat",
+                            "La course des escargots.dic"})
+        std::filesystem::copy_file(Sources / "textes" / nom, EnChemin(chemin) / nom);
     accueil.Charger();
     choix.Charger();
     choix.cmbNoms.Choisir(choix.cmbNoms.Chercher(u"Léa"));

@@ -21,8 +21,11 @@ const std::map<std::string, Noms> Réserves{
     {"frmAbsent", {"lblChronoRéf"}},
     {"frmAlphabet", {"cmbMots", "lblPassage"}},
     {"frmEcrireMot", {"cmbMots", "lblMot", "lblRéf"}},
+    {"frmContraires", {"cmbNuméro", "fgContraires"}},
+    {"frmDico", {"fgDic", "fgDicoPrinc"}},
     {"frmEnseignant", {"rtfSauve"}},
     {"frmExercices", {"cmbVocabulaire", "fgRésultats", "lblIndex", "listeBil", "rtfTexte"}},
+    {"frmGenre", {"cmbNuméro", "fgGenre"}},
     {"frmGestionEleves", {"listeBil"}},
     {"frmLignesEnDésordre", {"cmbMélangées", "cmbOrdre", "lblPassage", "txtPhrase"}},
     {"frmMotsCoupés", {"cmbEliminés", "cmbMots", "lblPassage"}},
@@ -34,6 +37,9 @@ const std::map<std::string, Noms> Réserves{
     {"frmPoursuite", {"lblCorrigé", "lblPassage"}},
     {"frmQuestionnaire1", {"fgQuestions"}},
     {"frmSérie", {"lblCompteur"}},
+    {"frmSynonymes", {"cmbNuméro", "fgSynonymes"}},
+    {"frmThèmes", {"cmbNuméro", "fgThèmes"}},
+    {"frmThèmes2", {"cmbNuméros", "fgThèmes"}},
     {"frmTrouveMoi", {"lblTempsRéf"}},
 };
 

@@ -1,7 +1,7 @@
 #include "exercises/JeuDAssociation.h"
 
-#include "exercises/ListeDeMots.h"
 #include "tests/support/Banc.h"
+#include "tests/support/Notices.h"
 
 namespace tirelune {
 
@@ -9,50 +9,47 @@ namespace {
 
 class EcranAssociation final : public Ecran {
 public:
-    explicit EcranAssociation(Application& application) : Ecran(application, "EcranAssociation", u"Essai") {}
-
-    Tableau<Label> lblMot{*this, "lblMot", 3};
-    Tableau<TextBox> txtReste{*this, "txtReste", 3};
-    Tableau<Label> lblCorrigé{*this, "lblCorrigé", 3, {.Visible = false}};
-    ComboBox cmb{*this, "cmb", {.Sorted = true}};
-    Tableau<Label> lblPoints{*this, "lblPoints", {u"0", u"0", u" / "}};
-    Button cmdQuitter{*this, "cmdQuitter", u"&Corriger"};
-
-    const JeuDAssociation jeu{lblMot,    {&txtReste(0), &txtReste(1), &txtReste(2)}, lblCorrigé, cmb, lblPoints,
-                              cmdQuitter};
-
-    void Cliquer(int i)
+    explicit EcranAssociation(frmExercices& choix)
+        : Ecran(choix.ApplicationDe(), "EcranAssociation", u"Essai"), jeu{choix,      lblConsigne,
+                                                                          lblMot,     TextesDe(txtReste),
+                                                                          lblCorrigé, cmb,
+                                                                          lblPoints,  cmdQuitter,
+                                                                          notice}
     {
-        if (ChoisirRangée(jeu, i))
-            RendreRéponse(jeu, i);
+        Relier(jeu, [this](int i) { return RéponseExacte(jeu, i); });
     }
-    std::optional<int> Prendre(VueTexte mot)
-    {
-        cmb.Choisir(cmb.Chercher(mot));
-        return PlacerRéponse(jeu);
-    }
-    void DemanderCorrection()
-    {
-        Corriger(jeu, [this](int i) { return RéponseExacte(jeu, i); });
-    }
+
+    Label lblConsigne{*this, "lblConsigne", EtatDesConsignes(u"Trouve !")};
+    Tableau<Label> lblMot{*this, "lblMot", 3, EtatDesCases()};
+    Tableau<TextBox> txtReste{*this, "txtReste", 3, EtatDesTextes()};
+    Tableau<Label> lblCorrigé{*this, "lblCorrigé", 3, EtatDesCorrigés()};
+    ComboBox cmb{*this, "cmb", EtatDeLaListe()};
+    Tableau<Label> lblPoints{*this, "lblPoints", EtatsDesPoints()};
+    Button cmdQuitter{*this, "cmdQuitter", EtatDuBouton()};
+    Notice notice{*this, TropPeu(u"Pas assez", u"Il en faut plus.")};
+
+    const JeuDAssociation jeu;
+
+    void Cliquer(int i) { ReprendreRangée(jeu, i); }
+    void Prendre(VueTexte mot) { cmb.Choisir(cmb.Chercher(mot)); }
+    void DemanderCorrection() { cmdQuitter.Cliquer(); }
 
 private:
-    Arrangement Disposer() override
-    {
-        return Colonne{Colonne{lblMot}, Colonne{txtReste}, Colonne{lblCorrigé}, cmb, cmdQuitter};
-    }
+    Arrangement Disposer() override { return PageDAssociation(jeu, RangéesDe(jeu)); }
 };
 
 constexpr auto PasTerminé = u"Tu n'a pas terminé !\nVeux-tu vraiment quitter ?";
 
 // Three rows whose answers are "gai", "âpre" and "gai".
-EcranAssociation& OuvrirJeuDAssociation(Banc& banc)
+EcranAssociation& OuvrirAssociation(Banc& banc)
 {
+    banc.ChargerTexte(u"Un texte.");
+    banc.Index(6);
     auto& écran = banc.Ouvrir<EcranAssociation>();
-    const std::vector<Texte> réponses{u"gai", u"âpre", u"gai"};
-    for (int i = 0; i < 3; ++i)
-        écran.lblCorrigé(i).Caption = réponses[static_cast<std::size_t>(i)];
-    RemplirListe(écran.cmb, réponses);
+    int i = 0;
+    for (const auto* réponse : {u"gai", u"âpre", u"gai"})
+        Cacher(écran.jeu, i++, réponse);
+    MontrerRéponses(écran.jeu);
     return écran;
 }
 
@@ -70,7 +67,7 @@ void Remplir(EcranAssociation& écran, std::initializer_list<VueTexte> mots)
 TEST(JeuDAssociation, UneSeuleRangéeEstJaune)
 {
     Banc banc;
-    auto& écran = OuvrirJeuDAssociation(banc);
+    auto& écran = OuvrirAssociation(banc);
     écran.Cliquer(0);
     écran.Cliquer(2);
     for (int i = 0; i < 3; ++i) {
@@ -82,9 +79,9 @@ TEST(JeuDAssociation, UneSeuleRangéeEstJaune)
 TEST(JeuDAssociation, MotPrisVaDansLaRangéeChoisieEtQuitteLaListe)
 {
     Banc banc;
-    auto& écran = OuvrirJeuDAssociation(banc);
+    auto& écran = OuvrirAssociation(banc);
     écran.Cliquer(1);
-    EXPECT_EQ(écran.Prendre(u"gai"), 1);
+    écran.Prendre(u"gai");
     EXPECT_EQ(écran.lblMot(1).Caption, u"gai");
     EXPECT_TRUE(écran.lblMot(1).AutoSize);
     EXPECT_EQ(écran.cmb.Eléments(), (std::vector<Texte>{u"âpre", u"gai"}));
@@ -94,8 +91,8 @@ TEST(JeuDAssociation, MotPrisVaDansLaRangéeChoisieEtQuitteLaListe)
 TEST(JeuDAssociation, SansRangéeChoisieRienNEstPlacé)
 {
     Banc banc;
-    auto& écran = OuvrirJeuDAssociation(banc);
-    EXPECT_EQ(écran.Prendre(u"gai"), std::nullopt);
+    auto& écran = OuvrirAssociation(banc);
+    écran.Prendre(u"gai");
     EXPECT_EQ(écran.cmb.ListCount(), 3);
     EXPECT_EQ(écran.cmb.Text, u"gai") << "montré, sans plus";
 }
@@ -103,10 +100,10 @@ TEST(JeuDAssociation, SansRangéeChoisieRienNEstPlacé)
 TEST(JeuDAssociation, RangéeRemplieNePrendPasUnSecondMot)
 {
     Banc banc;
-    auto& écran = OuvrirJeuDAssociation(banc);
+    auto& écran = OuvrirAssociation(banc);
     écran.Cliquer(0);
     écran.Prendre(u"gai");
-    EXPECT_EQ(écran.Prendre(u"âpre"), std::nullopt);
+    écran.Prendre(u"âpre");
     EXPECT_EQ(écran.lblMot(0).Caption, u"gai");
     EXPECT_EQ(écran.cmb.ListCount(), 2);
 }
@@ -114,7 +111,7 @@ TEST(JeuDAssociation, RangéeRemplieNePrendPasUnSecondMot)
 TEST(JeuDAssociation, ClicSurUneRangéeRemplieRendSonMot)
 {
     Banc banc;
-    auto& écran = OuvrirJeuDAssociation(banc);
+    auto& écran = OuvrirAssociation(banc);
     écran.Cliquer(0);
     écran.Prendre(u"gai");
     écran.Cliquer(0);
@@ -122,13 +119,14 @@ TEST(JeuDAssociation, ClicSurUneRangéeRemplieRendSonMot)
     EXPECT_FALSE(écran.lblMot(0).AutoSize) << "garde sa taille";
     EXPECT_EQ(écran.lblMot(0).BackColor, Jaune);
     EXPECT_EQ(écran.cmb.Eléments(), (std::vector<Texte>{u"âpre", u"gai", u"gai"}));
-    EXPECT_EQ(écran.Prendre(u"âpre"), 0);
+    écran.Prendre(u"âpre");
+    EXPECT_EQ(écran.lblMot(0).Caption, u"âpre");
 }
 
 TEST(JeuDAssociation, RangéeVideNeRendRien)
 {
     Banc banc;
-    auto& écran = OuvrirJeuDAssociation(banc);
+    auto& écran = OuvrirAssociation(banc);
     écran.Cliquer(0);
     EXPECT_EQ(écran.cmb.ListCount(), 3);
 }
@@ -136,7 +134,7 @@ TEST(JeuDAssociation, RangéeVideNeRendRien)
 TEST(JeuDAssociation, LaCorrectionPrendUneSecondeParRangée)
 {
     Banc banc;
-    auto& écran = OuvrirJeuDAssociation(banc);
+    auto& écran = OuvrirAssociation(banc);
     Remplir(écran, {u"gai", u"gai", u"âpre"});
     std::vector<Couleur> vues;
     for (const auto délai : {500ms, 1500ms, 2500ms})
@@ -167,18 +165,19 @@ TEST(JeuDAssociation, LaCorrectionPrendUneSecondeParRangée)
 TEST(JeuDAssociation, AprèsLaCorrectionLesRangéesSontMortes)
 {
     Banc banc;
-    auto& écran = OuvrirJeuDAssociation(banc);
+    auto& écran = OuvrirAssociation(banc);
     Remplir(écran, {u"gai", u"âpre", u"gai"});
     écran.DemanderCorrection();
-    EXPECT_FALSE(ChoisirRangée(écran.jeu, 0));
+    écran.Cliquer(0);
     EXPECT_EQ(écran.lblMot(0).BackColor, Vert);
+    EXPECT_EQ(écran.lblMot(0).Caption, u"gai");
     EXPECT_EQ(écran.lblPoints(0).Caption, u"3");
 }
 
 TEST(JeuDAssociation, RangéesVidesSontAConfirmer)
 {
     Banc banc;
-    auto& écran = OuvrirJeuDAssociation(banc);
+    auto& écran = OuvrirAssociation(banc);
     Remplir(écran, {u"gai", u"âpre"});
     banc.plateforme.boîtes.push_back({PasTerminé, Réponse::Non, u"Avertissement", {}});
     écran.DemanderCorrection();
@@ -198,7 +197,7 @@ TEST(JeuDAssociation, RangéesVidesSontAConfirmer)
 TEST(JeuDAssociation, RangéeCachéeEtVideNeManquePas)
 {
     Banc banc;
-    auto& écran = OuvrirJeuDAssociation(banc);
+    auto& écran = OuvrirAssociation(banc);
     Remplir(écran, {u"gai", u"âpre"});
     écran.lblMot(2).Visible = false;
     écran.DemanderCorrection(); // no box
@@ -208,7 +207,7 @@ TEST(JeuDAssociation, RangéeCachéeEtVideNeManquePas)
 TEST(JeuDAssociation, LeJugeDécide)
 {
     Banc banc;
-    auto& écran = OuvrirJeuDAssociation(banc);
+    auto& écran = OuvrirAssociation(banc);
     Remplir(écran, {u"gai", u"gai", u"âpre"});
     Corriger(écran.jeu, [](int i) { return i != 0; });
     EXPECT_EQ(écran.lblMot(0).BackColor, Rouge);
@@ -219,7 +218,7 @@ TEST(JeuDAssociation, LeJugeDécide)
 TEST(JeuDAssociation, AccentsEtCasseComptent)
 {
     Banc banc;
-    auto& écran = OuvrirJeuDAssociation(banc);
+    auto& écran = OuvrirAssociation(banc);
     écran.lblMot(1).Caption = u"apre";
     EXPECT_FALSE(RéponseExacte(écran.jeu, 1));
     écran.lblMot(1).Caption = u"Âpre";
@@ -231,7 +230,7 @@ TEST(JeuDAssociation, AccentsEtCasseComptent)
 TEST(JeuDAssociation, FerméPendantLaCorrection)
 {
     Banc banc;
-    auto& écran = OuvrirJeuDAssociation(banc);
+    auto& écran = OuvrirAssociation(banc);
     Remplir(écran, {u"gai", u"âpre", u"gai"});
     banc.plateforme.Prévoir(1500ms, [&] { écran.FermerParCroix(); });
     écran.DemanderCorrection();
@@ -243,10 +242,117 @@ TEST(JeuDAssociation, FerméPendantLaCorrection)
 TEST(JeuDAssociation, FerméPendantLaQuestion)
 {
     Banc banc;
-    auto& écran = OuvrirJeuDAssociation(banc);
+    auto& écran = OuvrirAssociation(banc);
     banc.plateforme.boîtes.push_back({PasTerminé, Réponse::Oui, std::nullopt, [&] { écran.FermerParCroix(); }});
     écran.DemanderCorrection();
     EXPECT_EQ(écran.lblPoints(1).Caption, u"0");
+}
+
+TEST(JeuDAssociation, LesCouleursEtLesLégendesDuDépart)
+{
+    Banc banc;
+    auto& écran = OuvrirAssociation(banc);
+    for (int i = 0; i < 3; ++i) {
+        EXPECT_EQ(écran.lblMot(i).Caption, u" Clique avant de compléter. ");
+        EXPECT_EQ(écran.lblMot(i).BackColor, CouleurAuto);
+        EXPECT_TRUE(écran.txtReste(i).Locked);
+        EXPECT_FALSE(écran.lblCorrigé(i).Visible);
+        EXPECT_EQ(écran.lblCorrigé(i).ForeColor, Bleu);
+    }
+    EXPECT_EQ(écran.cmb.BackColor, Jaune);
+    EXPECT_EQ(écran.cmdQuitter.Caption, u"&Corriger");
+    VérifierPointsDeDépart(écran.lblPoints);
+}
+
+TEST(JeuDAssociation, LInviteNEstPasUnMot)
+{
+    Banc banc;
+    auto& écran = OuvrirAssociation(banc);
+    écran.Cliquer(1);
+    EXPECT_EQ(écran.lblMot(1).Caption, u"");
+    EXPECT_EQ(écran.cmb.ListCount(), 3) << "rien n'est rendu à la liste";
+    EXPECT_EQ(écran.lblMot(0).Caption, u" Clique avant de compléter. ");
+    banc.AnnoncerBoîte(PasTerminé, Réponse::Oui); // told as missing
+    écran.DemanderCorrection();
+    for (int i = 0; i < 3; ++i)
+        EXPECT_EQ(écran.lblMot(i).Caption, u"") << "plus rien à compléter";
+    EXPECT_EQ(écran.lblPoints(0).Caption, u"0");
+}
+
+TEST(JeuDAssociation, ChoixDuProgrammeNePlaceRien)
+{
+    Banc banc;
+    auto& écran = OuvrirAssociation(banc);
+    écran.Cliquer(0);
+    banc.état.ChoixProgramme = true;
+    écran.Prendre(u"gai");
+    EXPECT_EQ(écran.lblMot(0).Caption, u"");
+    EXPECT_EQ(écran.cmb.ListCount(), 3);
+    EXPECT_FALSE(banc.état.ChoixProgramme);
+    écran.Prendre(u"gai"); // the next one is the pupil's
+    EXPECT_EQ(écran.lblMot(0).Caption, u"gai");
+
+    banc.état.ChoixProgramme = true;
+    écran.Cliquer(1);
+    EXPECT_FALSE(banc.état.ChoixProgramme);
+}
+
+TEST(JeuDAssociation, RienNeSeTapeDansLaListe)
+{
+    Banc banc;
+    auto& écran = OuvrirAssociation(banc);
+    EXPECT_FALSE(écran.cmb.Taper({.Caractère = u'g', .Code = 'G'}));
+    EXPECT_FALSE(écran.cmb.Taper({.Caractère = u' ', .Code = ' '}));
+    EXPECT_EQ(écran.cmb.Text, u"âpre");
+}
+
+TEST(JeuDAssociation, UnMotEnDoubleEntreDeuxFoisDansLaListe)
+{
+    Banc banc;
+    auto& écran = OuvrirAssociation(banc);
+    EXPECT_EQ(écran.cmb.Eléments(), (std::vector<Texte>{u"âpre", u"gai", u"gai"})) << "triée";
+    EXPECT_EQ(écran.cmb.Text, u"âpre") << "la première";
+    Remplir(écran, {u"gai", u"âpre", u"gai"});
+    EXPECT_EQ(écran.cmb.ListCount(), 0);
+    EXPECT_EQ(écran.cmb.Text, u"gai") << "le dernier mot reste en vue";
+}
+
+TEST(JeuDAssociation, QuitterEnregistreLaNoteEtFerme)
+{
+    Banc banc;
+    auto& écran = OuvrirAssociation(banc);
+    Remplir(écran, {u"gai", u"gai", u"âpre"});
+    écran.DemanderCorrection();
+    EXPECT_EQ(banc.Note(6), u"");
+    écran.cmdQuitter.Cliquer();
+    EXPECT_FALSE(écran.EstChargé());
+    EXPECT_EQ(banc.Note(6), u"3,333333");
+}
+
+TEST(JeuDAssociation, LaCorrectionPasseMinuit)
+{
+    Banc banc;
+    auto& écran = OuvrirAssociation(banc);
+    Remplir(écran, {u"gai", u"âpre", u"gai"});
+    banc.plateforme.Régler(86398.5);
+    écran.DemanderCorrection();
+    EXPECT_EQ(écran.lblPoints(1).Caption, u"3");
+    EXPECT_EQ(écran.cmdQuitter.Caption, u"&Quitter");
+    EXPECT_LT(banc.plateforme.Horloge(), 60);
+}
+
+TEST(JeuDAssociation, FerméANImporteQuelMomentDeLaCorrection)
+{
+    for (const auto moment : {0ms, 1ms, 999ms, 1000ms, 2000ms, 2999ms}) {
+        Banc banc;
+        auto& écran = OuvrirAssociation(banc);
+        Remplir(écran, {u"gai", u"âpre", u"gai"});
+        banc.plateforme.Prévoir(moment, [&] { écran.FermerParCroix(); });
+        écran.DemanderCorrection();
+        EXPECT_FALSE(écran.EstChargé());
+        EXPECT_EQ(écran.cmdQuitter.Caption, u"&Corriger");
+        EXPECT_EQ(banc.Note(6), u"");
+    }
 }
 
 } // namespace tirelune

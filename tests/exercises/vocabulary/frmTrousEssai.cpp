@@ -7,6 +7,8 @@ namespace tirelune {
 namespace {
 
 constexpr int IndexTrous = 4;
+constexpr auto UneSeuleFois = u"Clique UNE SEULE FOIS sur les traits !";
+
 // A text in which what stands between "[" and "]" is marked.
 TexteRiche Marquer(VueTexte texte)
 {
@@ -23,7 +25,7 @@ TexteRiche Marquer(VueTexte texte)
     return résultat;
 }
 
-frmTrous& OuvrirTrous(Banc& banc, VueTexte texte)
+frmTrous& Ouvrir(Banc& banc, VueTexte texte)
 {
     banc.ChargerTexte(Marquer(texte));
     banc.Index(IndexTrous);
@@ -42,7 +44,7 @@ void Placer(frmTrous& écran, std::size_t place, VueTexte mot)
 TEST(Trous, ChaqueMarqueDevientUneLacuneEtUnMotDeLaListe)
 {
     Banc banc;
-    auto& écran = OuvrirTrous(banc, u"Le [chat] voit la [belle] souris.");
+    auto& écran = Ouvrir(banc, u"Le [chat] voit la [belle] souris.");
 
     EXPECT_EQ(écran.Caption, u"Texte à trous / Léa");
     EXPECT_EQ(écran.rtfTrous.Text(), u"Le ____ voit la _____ souris.");
@@ -58,7 +60,7 @@ TEST(Trous, ChaqueMarqueDevientUneLacuneEtUnMotDeLaListe)
 TEST(Trous, LesPointsOntLeursCouleursEtLesBoutonsLeurLégende)
 {
     Banc banc;
-    auto& écran = OuvrirTrous(banc, u"Le [chat] dort.");
+    auto& écran = Ouvrir(banc, u"Le [chat] dort.");
     VérifierPointsDeDépart(écran.lblPoints);
     EXPECT_EQ(écran.cmdOk.Caption, u"&Ok");
     EXPECT_EQ(écran.fin.Bouton.Caption, u"&Quitter");
@@ -97,7 +99,7 @@ TEST(Trous, LaLacuneEstNoireSansBarreNiSoulignement)
 TEST(Trous, UneMarqueAvecUneEspaceEstUneSeuleLacune)
 {
     Banc banc;
-    auto& écran = OuvrirTrous(banc, u"Il dort [tout le jour] ici.");
+    auto& écran = Ouvrir(banc, u"Il dort [tout le jour] ici.");
     EXPECT_EQ(écran.rtfTrous.Text(), u"Il dort ____________ ici.");
     EXPECT_EQ(écran.cmbTrous.Eléments(), (std::vector<Texte>{u"tout le jour"}));
 
@@ -112,7 +114,7 @@ TEST(Trous, UneMarqueAvecUneEspaceEstUneSeuleLacune)
 TEST(Trous, UneMarqueSurDeuxLignesRendSesLignes)
 {
     Banc banc;
-    auto& écran = OuvrirTrous(banc, u"Un [mot\r\net] un autre.");
+    auto& écran = Ouvrir(banc, u"Un [mot\r\net] un autre.");
     EXPECT_EQ(écran.rtfTrous.Text(), u"Un _______ un autre.");
 
     Placer(écran, 6, u"mot\r\net");
@@ -141,7 +143,7 @@ TEST(Trous, MarquesQuiSeTouchentNeFontQuUne)
 TEST(Trous, MotJusteEnVertSoulignéQuitteLaListe)
 {
     Banc banc;
-    auto& écran = OuvrirTrous(banc, u"Le [chat] voit la [souris] et l'[œuf].");
+    auto& écran = Ouvrir(banc, u"Le [chat] voit la [souris] et l'[œuf].");
 
     Placer(écran, 5, u"chat");
 
@@ -159,7 +161,7 @@ TEST(Trous, MotJusteEnVertSoulignéQuitteLaListe)
 TEST(Trous, MotFauxRougitEtPeutÊtreRefait)
 {
     Banc banc;
-    auto& écran = OuvrirTrous(banc, u"Le [chat] voit la [souris].");
+    auto& écran = Ouvrir(banc, u"Le [chat] voit la [souris].");
 
     Placer(écran, 5, u"souris");
 
@@ -181,7 +183,7 @@ TEST(Trous, MotFauxRougitEtPeutÊtreRefait)
 TEST(Trous, AccentsEtCapitalesComptent)
 {
     Banc banc;
-    auto& écran = OuvrirTrous(banc, u"Il a [Pêché] un [péché].");
+    auto& écran = Ouvrir(banc, u"Il a [Pêché] un [péché].");
     Placer(écran, 5, u"péché");
     EXPECT_EQ(écran.lblPoints(0).Caption, u"0");
     Placer(écran, 5, u"Pêché");
@@ -191,7 +193,7 @@ TEST(Trous, AccentsEtCapitalesComptent)
 TEST(Trous, MotMarquéDeuxFoisVaDansSesDeuxLacunes)
 {
     Banc banc;
-    auto& écran = OuvrirTrous(banc, u"Un [chat] et un [chat] et un [chien].");
+    auto& écran = Ouvrir(banc, u"Un [chat] et un [chat] et un [chien].");
     EXPECT_EQ(écran.cmbTrous.Eléments(), (std::vector<Texte>{u"chat", u"chat", u"chien"}));
 
     écran.rtfTrous.Cliquer(15);
@@ -206,7 +208,7 @@ TEST(Trous, MotMarquéDeuxFoisVaDansSesDeuxLacunes)
 TEST(Trous, SansMarqueLaNoticeCouvreToutEtNEnregistreRien)
 {
     Banc banc;
-    auto& écran = OuvrirTrous(banc, u"Le chat dort.");
+    auto& écran = Ouvrir(banc, u"Le chat dort.");
 
     EXPECT_TRUE(écran.notice.Cadre.Visible);
     EXPECT_EQ(écran.notice.Cadre.Caption, u"Pas de vocabulaire sélectionné");
@@ -227,14 +229,14 @@ TEST(Trous, SansMarqueLaNoticeCouvreToutEtNEnregistreRien)
 TEST(Trous, TexteVideDonneLaNotice)
 {
     Banc banc;
-    auto& écran = OuvrirTrous(banc, u"");
+    auto& écran = Ouvrir(banc, u"");
     EXPECT_TRUE(écran.notice.Cadre.Visible);
 }
 
 TEST(Trous, MarqueAuPremierCaractèreNePeutÊtreRemplie)
 {
     Banc banc;
-    auto& écran = OuvrirTrous(banc, u"[Chat] et [chien].");
+    auto& écran = Ouvrir(banc, u"[Chat] et [chien].");
     écran.rtfTrous.Cliquer(2);
     EXPECT_EQ(écran.rtfTrous.SelStart(), 1U);
     EXPECT_EQ(écran.rtfTrous.SelLength(), 3U);
@@ -254,7 +256,7 @@ TEST(Trous, MarqueAuPremierCaractèreNePeutÊtreRemplie)
 TEST(Trous, MarqueDUnSeulCaractèreEnTêteNeSeSélectionnePas)
 {
     Banc banc;
-    auto& écran = OuvrirTrous(banc, u"[A] table !");
+    auto& écran = Ouvrir(banc, u"[A] table !");
     écran.rtfTrous.Cliquer(0);
     EXPECT_EQ(écran.rtfTrous.SelLength(), 0U);
     écran.cmdOk.Cliquer();
@@ -264,7 +266,7 @@ TEST(Trous, MarqueDUnSeulCaractèreEnTêteNeSeSélectionnePas)
 TEST(Trous, LacuneEnFinDeTexteVaJusquAuBout)
 {
     Banc banc;
-    auto& écran = OuvrirTrous(banc, u"Voici la [fin]");
+    auto& écran = Ouvrir(banc, u"Voici la [fin]");
     EXPECT_EQ(écran.rtfTrous.Text(), u"Voici la ___");
     écran.rtfTrous.Cliquer(11);
     EXPECT_EQ(écran.rtfTrous.SelStart(), 9U);
@@ -277,7 +279,7 @@ TEST(Trous, LacuneEnFinDeTexteVaJusquAuBout)
 TEST(Trous, ToutMarqué)
 {
     Banc banc;
-    auto& écran = OuvrirTrous(banc, u"[Tout est marqué.]");
+    auto& écran = Ouvrir(banc, u"[Tout est marqué.]");
     EXPECT_EQ(écran.rtfTrous.Text(), Texte(16, u'_'));
     EXPECT_EQ(écran.cmbTrous.Eléments(), (std::vector<Texte>{u"Tout est marqué."}));
 }
@@ -285,7 +287,7 @@ TEST(Trous, ToutMarqué)
 TEST(Trous, FinitAvecSaDernièreLacuneMalgréLesTraitsDuTexte)
 {
     Banc banc;
-    auto& écran = OuvrirTrous(banc, u"Nom : ____ Le [chat] dort.");
+    auto& écran = Ouvrir(banc, u"Nom : ____ Le [chat] dort.");
     Placer(écran, 16, u"chat");
     EXPECT_EQ(écran.rtfTrous.Text(), u"Nom : ____ Le chat dort.");
     EXPECT_TRUE(écran.fin.Cadre.Visible);
@@ -295,7 +297,7 @@ TEST(Trous, FinitAvecSaDernièreLacuneMalgréLesTraitsDuTexte)
 TEST(Trous, TraitDuTexteContreUneLacuneNEnEstPas)
 {
     Banc banc;
-    auto& écran = OuvrirTrous(banc, u"Le _[chat]_ dort.");
+    auto& écran = Ouvrir(banc, u"Le _[chat]_ dort.");
     EXPECT_EQ(écran.rtfTrous.Text(), u"Le ______ dort.");
     for (const std::size_t place : {3U, 8U}) {
         écran.rtfTrous.Cliquer(place);
@@ -309,7 +311,7 @@ TEST(Trous, TraitDuTexteContreUneLacuneNEnEstPas)
 TEST(Trous, TraitDuTexteSélectionnéNEstPasUnEssai)
 {
     Banc banc;
-    auto& écran = OuvrirTrous(banc, u"Nom : ____ Le [chat] dort.");
+    auto& écran = Ouvrir(banc, u"Nom : ____ Le [chat] dort.");
     écran.rtfTrous.Sélectionner(6, 4);
     écran.cmdOk.Cliquer();
     EXPECT_EQ(écran.lblPoints(1).Caption, u"0");
@@ -319,7 +321,7 @@ TEST(Trous, TraitDuTexteSélectionnéNEstPasUnEssai)
 TEST(Trous, TraitsMarquésSontUneLacuneARemplir)
 {
     Banc banc;
-    auto& écran = OuvrirTrous(banc, u"Un [a_b] et [__] ici.");
+    auto& écran = Ouvrir(banc, u"Un [a_b] et [__] ici.");
     Placer(écran, 4, u"a_b");
     EXPECT_FALSE(écran.fin.Cadre.Visible) << "l'autre reste à remplir";
     Placer(écran, 10, u"__");
@@ -332,7 +334,7 @@ TEST(Trous, TraitsMarquésSontUneLacuneARemplir)
 TEST(Trous, UnePartieDeLacuneRemplieLaLaisseOuverte)
 {
     Banc banc;
-    auto& écran = OuvrirTrous(banc, u"Le [petit] a un [petit-fils].");
+    auto& écran = Ouvrir(banc, u"Le [petit] a un [petit-fils].");
     écran.rtfTrous.Sélectionner(14, 5); // a drag over the beginning of the gap
     écran.cmbTrous.Choisir(écran.cmbTrous.Chercher(u"petit"));
     écran.cmdOk.Cliquer();
@@ -348,7 +350,7 @@ TEST(Trous, UnePartieDeLacuneRemplieLaLaisseOuverte)
 TEST(Trous, ClicHorsDesTraitsEffaceLaSélection)
 {
     Banc banc;
-    auto& écran = OuvrirTrous(banc, u"Le [chat] dort.");
+    auto& écran = Ouvrir(banc, u"Le [chat] dort.");
     écran.rtfTrous.Cliquer(4);
     EXPECT_EQ(écran.rtfTrous.SelLength(), 4U);
     écran.rtfTrous.Cliquer(1);
@@ -361,7 +363,7 @@ TEST(Trous, ClicHorsDesTraitsEffaceLaSélection)
 TEST(Trous, SélectionQuiDébordeEstSansEffet)
 {
     Banc banc;
-    auto& écran = OuvrirTrous(banc, u"Le [chat] dort.");
+    auto& écran = Ouvrir(banc, u"Le [chat] dort.");
     Placer(écran, 4, u"chat");
     écran.fin.Cadre.Visible = false;
     écran.rtfTrous.Sélectionner(2, 5);
@@ -377,7 +379,7 @@ TEST(Trous, SélectionQuiDébordeEstSansEffet)
 TEST(Trous, DoubleClicEstRefusé)
 {
     Banc banc;
-    auto& écran = OuvrirTrous(banc, u"Le [chat] [a] faim.");
+    auto& écran = Ouvrir(banc, u"Le [chat] [a] faim.");
     for (const std::size_t place : {4U, 8U}) {
         banc.AnnoncerBoîte(UneSeuleFois);
         écran.rtfTrous.Cliquer(place);
@@ -394,7 +396,7 @@ TEST(Trous, DoubleClicEstRefusé)
 TEST(Trous, FerméPendantLeMessageDuDoubleClic)
 {
     Banc banc;
-    auto& écran = OuvrirTrous(banc, u"Le [chat] dort.");
+    auto& écran = Ouvrir(banc, u"Le [chat] dort.");
     banc.plateforme.boîtes.push_back({UneSeuleFois, Réponse::Ok, u"Avertissement", [&] { écran.FermerParCroix(); }});
     écran.rtfTrous.DoubleCliquer(4);
     EXPECT_FALSE(écran.EstChargé());
@@ -406,7 +408,7 @@ TEST(Trous, OuvertureOublieUnDoubleClicPassé)
 {
     Banc banc;
     banc.état.CorrectionEnCours = true;
-    auto& écran = OuvrirTrous(banc, u"Le [chat] dort.");
+    auto& écran = Ouvrir(banc, u"Le [chat] dort.");
     écran.rtfTrous.Cliquer(4);
     EXPECT_EQ(écran.rtfTrous.SelLength(), 4U);
 }
@@ -414,7 +416,7 @@ TEST(Trous, OuvertureOublieUnDoubleClicPassé)
 TEST(Trous, TouchesDeLaListeSontDésamorcées)
 {
     Banc banc;
-    auto& écran = OuvrirTrous(banc, u"Le [chat] dort.");
+    auto& écran = Ouvrir(banc, u"Le [chat] dort.");
     EXPECT_FALSE(écran.cmbTrous.Taper({.Caractère = u'c', .Code = 'C'}));
     EXPECT_FALSE(écran.cmbTrous.Taper({.Code = Touche::Bas}));
     EXPECT_FALSE(écran.cmbTrous.Taper({.Caractère = u'\r', .Code = Touche::Entrée}));
@@ -425,7 +427,7 @@ TEST(Trous, TouchesDeLaListeSontDésamorcées)
 TEST(Trous, EntréeNAPasDEffetDansLeTexte)
 {
     Banc banc;
-    auto& écran = OuvrirTrous(banc, u"Le [chat] dort.");
+    auto& écran = Ouvrir(banc, u"Le [chat] dort.");
     écran.rtfTrous.Sélectionner(4, 0);
     EXPECT_FALSE(écran.rtfTrous.Taper({.Caractère = u'\r', .Code = Touche::Entrée}));
     EXPECT_EQ(écran.rtfTrous.SelLength(), 0U);
@@ -435,7 +437,7 @@ TEST(Trous, EntréeNAPasDEffetDansLeTexte)
 TEST(Trous, QuitterEnregistreLaNote)
 {
     Banc banc;
-    auto& écran = OuvrirTrous(banc, u"Le [chat] voit la [souris].");
+    auto& écran = Ouvrir(banc, u"Le [chat] voit la [souris].");
     EXPECT_FALSE(écran.fin.Bouton.EstAtteignable());
     Placer(écran, 3, u"souris");
     Placer(écran, 3, u"chat");
@@ -455,7 +457,7 @@ TEST(Trous, QuitterEnregistreLaNote)
 TEST(Trous, FermerNEnregistreRien)
 {
     Banc banc;
-    auto& écran = OuvrirTrous(banc, u"Le [chat] dort.");
+    auto& écran = Ouvrir(banc, u"Le [chat] dort.");
     Placer(écran, 4, u"chat");
     écran.FermerParCroix();
     EXPECT_FALSE(écran.EstChargé());
@@ -465,7 +467,7 @@ TEST(Trous, FermerNEnregistreRien)
 TEST(Trous, LeTexteRemplitLEcranMoinsLaBarre)
 {
     Banc banc;
-    auto& écran = OuvrirTrous(banc, u"Le [chat] dort.");
+    auto& écran = Ouvrir(banc, u"Le [chat] dort.");
     écran.Dimensionner(12000, 9000);
     EXPECT_EQ(écran.rtfTrous.Width, 11850);
     EXPECT_EQ(écran.rtfTrous.Height, 7900);

@@ -1,0 +1,65 @@
+// The correction of a drill, which takes a second for each row: what hands do meanwhile.
+#include "tests/desktop/Clics.h"
+
+#include "exercises/vocabulary/frmSynonymes.h"
+
+#include <QComboBox>
+
+namespace tirelune {
+
+using namespace std::chrono_literals;
+
+namespace {
+
+class Corrections : public Ecrans {
+protected:
+    // All rows are filled, the first with a word that isn't its own; the script runs during the correction.
+    void Corriger(const std::function<void(frmSynonymes&)>& pendant)
+    {
+        choix.lblIndex.Caption = u"6";
+        frmSynonymes écran{choix};
+        Avec(écran, [&] {
+            for (int i = RangéesDuJeu - 1; i >= 0; --i) {
+                écran.lblMot(i).Cliquer();
+                écran.cmbSynonymes.Choisir(0);
+            }
+            QTimer::singleShot(300ms, qApp, [&] { pendant(écran); });
+            Cliquer(écran.cmdQuitter);
+        });
+    }
+};
+
+} // namespace
+
+TEST_F(Corrections, SeFermentANImporteQuelMoment)
+{
+    const auto avant = choix.fgRésultats.TextMatrix(1, 8);
+    Corriger([this](frmSynonymes& écran) {
+        EXPECT_FALSE(écran.cmdQuitter.Enabled);
+        EXPECT_EQ(écran.lblPoints(1).Caption, u"1");
+        Devant().close();
+        EXPECT_FALSE(écran.EstChargé());
+    });
+    EXPECT_EQ(choix.fgRésultats.TextMatrix(1, 8), avant);
+}
+
+TEST_F(Corrections, LaissentTomberLesClicsEtLesTouches)
+{
+    Corriger([this](frmSynonymes& écran) {
+        const auto mot = écran.lblMot(5).Caption();
+        Cliquer(écran.lblMot(5));
+        QTest::keyClick(&Widget(écran.lblMot(5)), Qt::Key_Space);
+        QTest::mouseClick(&Widget(écran.txtSynonymes(4)), Qt::LeftButton);
+        QTest::keyClick(&Widget(écran.cmbSynonymes), Qt::Key_Down);
+        EXPECT_EQ(écran.lblMot(5).Caption, mot);
+        EXPECT_EQ(écran.lblMot(5).BackColor, Blanc);
+        EXPECT_EQ(écran.cmbSynonymes.ListCount(), 0);
+        QTimer::singleShot(900ms, qApp, [this, &écran, mot] { // and they don't come later either
+            EXPECT_EQ(écran.lblPoints(1).Caption, u"2");
+            EXPECT_EQ(écran.lblMot(5).Caption, mot);
+            Devant().close();
+        });
+    });
+}
+
+} // namespace tirelune
