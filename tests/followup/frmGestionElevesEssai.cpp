@@ -5,7 +5,6 @@
 #include "followup/EnregistrerNotes.h"
 #include "followup/frmExercices.h"
 #include "tests/support/Banc.h"
-#include "tests/support/Notices.h"
 
 namespace tirelune {
 
@@ -33,6 +32,8 @@ std::size_t NombreDeFichiers(const Chemin& dossier)
 }
 
 constexpr VueTexte QuestionDestruction = u"Destruction irréversible. Souhaitez-vous continuer ?";
+constexpr VueTexte DossierInaccessible = u"Le répertoire des fichiers \"Elèves\" n'est pas accessible.\n\n"
+                                         u"Veuillez vérifier votre connexion avant de continuer !\n";
 
 } // namespace
 
