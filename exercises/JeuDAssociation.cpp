@@ -161,13 +161,18 @@ Arrangement RangéesDe(const JeuDAssociation& jeu)
     return rangées;
 }
 
-Arrangement PageDAssociation(const JeuDAssociation& jeu, Arrangement rangées)
+Arrangement PageDAssociation(const JeuDAssociation& jeu, Arrangement rangées, Côtés côté)
 {
+    static constexpr int PartDeLaListe = 5;
+    static constexpr int PartDuReste = 7;
+    const auto liste = Extensible(AuMoins(3600, 0, jeu.Liste), PartDeLaListe);
+    const auto reste = Extensible(Ressort{}, PartDuReste);
+    const bool gauche = côté == Côtés::CasesAGauche;
     return Page{{
         .Consigne = jeu.Consigne,
         .Points = BandeDePoints(jeu.Points),
         .Travail = std::move(rangées),
-        .Pied = Ligne{Extensible(AuMoins(3600, 0, jeu.Liste)), Ressort{}, jeu.Bouton},
+        .Pied = Ligne{gauche ? liste : reste, gauche ? reste : liste, jeu.Bouton},
         .Dessus = EnPlace(jeu.Avis),
     }};
 }

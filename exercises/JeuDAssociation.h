@@ -50,7 +50,9 @@ void Relier(const JeuDAssociation& jeu, std::function<bool(int)> juste);
 // Slot and text of each row side by side; and the page around the rows, however they are made.
 Arrangement RangéesDe(const JeuDAssociation& jeu);
 Arrangement CaseEtCorrigé(const JeuDAssociation& jeu, int i);
-Arrangement PageDAssociation(const JeuDAssociation& jeu, Arrangement rangées);
+// The list stands under the slots, so that what the rows show is in sight while it is open.
+enum class Côtés { CasesAGauche, CasesADroite };
+Arrangement PageDAssociation(const JeuDAssociation& jeu, Arrangement rangées, Côtés côté = Côtés::CasesAGauche);
 
 // The answer of a row: it comes into the list too.
 void Cacher(const JeuDAssociation& jeu, int i, Texte réponse);

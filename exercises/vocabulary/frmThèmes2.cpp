@@ -40,7 +40,7 @@ Arrangement frmThèmes2::Disposer()
         rangées.Enfants.push_back(Extensible(txtMots(i), PartDesMots));
         rangées.Enfants.push_back(Extensible(CaseEtCorrigé(jeu_, i), PartDeLaRéponse));
     }
-    return PageDAssociation(jeu_, std::move(rangées));
+    return PageDAssociation(jeu_, std::move(rangées), Côtés::CasesADroite);
 }
 
 void frmThèmes2::Load()

@@ -1,7 +1,8 @@
-// The correction of a drill, which takes a second for each row: what hands do meanwhile.
+// The drills of association: the list under the slots, and the correction, which takes a second for each row.
 #include "tests/desktop/Clics.h"
 
 #include "exercises/vocabulary/frmSynonymes.h"
+#include "exercises/vocabulary/frmThèmes2.h"
 
 #include <QComboBox>
 
@@ -60,6 +61,26 @@ TEST_F(Corrections, LaissentTomberLesClicsEtLesTouches)
             Devant().close();
         });
     });
+}
+
+TEST_F(Corrections, LaListeSOuvreSurLesCases)
+{
+    for (const QSize taille : {QSize{800, 600}, QSize{1366, 768}}) {
+        frmSynonymes synonymes{choix};
+        Avec(synonymes, [&] {
+            Devant().setGeometry({QPoint{0, 0}, taille});
+            Mettre();
+            QCoreApplication::sendPostedEvents();
+            EXPECT_LE(Place(Widget(synonymes.cmbSynonymes)).right(), Place(Widget(synonymes.txtSynonymes(0))).left());
+        });
+        frmThèmes2 thèmes{choix};
+        Avec(thèmes, [&] {
+            Devant().setGeometry({QPoint{0, 0}, taille});
+            Mettre();
+            QCoreApplication::sendPostedEvents();
+            EXPECT_GT(Place(Widget(thèmes.cmbThèmes)).left(), Place(Widget(thèmes.txtMots(0))).center().x());
+        });
+    }
 }
 
 } // namespace tirelune
