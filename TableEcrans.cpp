@@ -19,6 +19,8 @@
 #include "exercises/order/frmPhrasesEnDésordre.h"
 #include "exercises/spelling/frmAlphabet.h"
 #include "exercises/spelling/frmEcrireMot.h"
+#include "exercises/spelling/frmEcrirePhrase.h"
+#include "exercises/spelling/frmJeCorrige.h"
 #include "exercises/spelling/frmMotsCoupés.h"
 #include "exercises/spelling/frmPendu.h"
 #include "exercises/vocabulary/frmContraires.h"
@@ -81,12 +83,14 @@ void RemplirTable(Application& application)
     table["frmContraires"] = SurLeChoix<frmContraires>;
     table["frmDico"] = SurLeChoix<frmDico>;
     table["frmEcrireMot"] = SurLeChoix<frmEcrireMot>;
+    table["frmEcrirePhrase"] = SurLeChoix<frmEcrirePhrase>;
     table["frmEnseignant"] = SurLAccueil<frmEnseignant>;
     table["frmExercices"] = Seul<frmExercices>;
     table["frmGenre"] = SurLeChoix<frmGenre>;
     table["frmGestionEleves"] = Seul<frmGestionEleves>;
     table["frmLignesEnDésordre"] = SurLeChoix<frmLignesEnDésordre>;
     table["frmMotsCoupés"] = SurLeChoix<frmMotsCoupés>;
+    table["frmJeCorrige"] = SurLeChoix<frmJeCorrige>;
     table["frmMotsEnDésordre"] = SurLeChoix<frmMotsEnDésordre>;
     table["frmMotsInversés"] = SurLeChoix<frmMotsInversés>;
     table["frmPendu"] = SurLeChoix<frmPendu>;

@@ -31,6 +31,7 @@ inline constexpr Couleur Vert{0x00FF00};
 inline constexpr Couleur VertFoncé{0x008000};
 inline constexpr Couleur Cyan{0xFFFF00};
 inline constexpr Couleur Bleu{0xFF0000};
+inline constexpr Couleur Violet{0xFF00FF};
 inline constexpr Couleur BleuClair{0xFFC0C0};
 inline constexpr Couleur GrisClair{0xC0C0C0};
 inline constexpr Couleur Olive{0x008080};

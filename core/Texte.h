@@ -25,6 +25,12 @@ char16_t Majuscule(char16_t caractère);
 Texte Minuscules(VueTexte texte);
 Texte Majuscules(VueTexte texte);
 
+// The straight one for a typographic apostrophe; any other character stays as it is.
+constexpr char16_t ApostropheDroite(char16_t caractère)
+{
+    return caractère == u'\u2019' ? u'\'' : caractère;
+}
+
 // Ill-formed sequences become U+FFFD.
 Texte DepuisUtf8(std::string_view octets);
 std::string EnUtf8(VueTexte texte);

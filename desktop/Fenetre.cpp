@@ -509,7 +509,7 @@ bool Fenêtre::Filtrer(QObject* visé, QEvent* événement)
     for (const auto caractère : static_cast<QInputMethodEvent*>(événement)->commitString()) {
         Touche touche;
         touche.Caractère = caractère.unicode();
-        avalée = avalée || taper(touche);
+        avalée = taper(touche) || avalée;
     }
     return avalée;
 }

@@ -56,9 +56,13 @@ std::optional<Touche> Traduire(const QKeyEvent& événement)
         touche.Code = touche.Caractère;
         return touche;
     }
-    if ((événement.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) != 0)
-        return std::nullopt;
     const auto texte = événement.text();
+    const auto tenues = événement.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
+    // Some displays tell AltGr as Ctrl and Alt.
+    const bool troisième =
+        tenues == (Qt::ControlModifier | Qt::AltModifier) && !texte.isEmpty() && texte.front().isPrint();
+    if (tenues != 0 && !troisième)
+        return std::nullopt;
     if (!texte.isEmpty() && événement.key() != Qt::Key_Delete && événement.key() != Qt::Key_Tab)
         touche.Caractère = texte.front().unicode();
     if (touche.Caractère == 0 && touche.Code == 0)

@@ -518,7 +518,7 @@ void VueTexteRiche::SuivreEchelle()
     formats_.clear();
     if (!boîte_.UneLigne) {
         mise_.Interligne = boîte_.Locked ? 1.4 : 1.2;
-        const QFontMetricsF mesure{PolicePour({}, 0, false, voulue)};
+        const QFontMetricsF mesure{PolicePour({}, boîte_.FontSize, false, voulue)};
         mise_.LargeurDeLecture = mesure.horizontalAdvance(LigneEntière);
     }
     mise_.Périmer(0, zone_.document()->blockCount() - 1);
@@ -633,10 +633,8 @@ void VueTexteRiche::HausserCurseur()
 
 bool VueTexteRiche::Taper(const Touche& touche)
 {
-    // In a locked text these keys edit nothing: they lead to a character and click it. So does Enter, where it isn't
-    // thrown away.
-    const bool jeu = touche.Caractère == 0 || touche.Caractère == u' ';
-    return (boîte_.Locked && jeu) || boîte_.Taper(touche);
+    // In a locked text, what isn't thrown away leads to a character and clicks it.
+    return boîte_.Taper(touche);
 }
 
 Format VueTexteRiche::FormatTapé(std::size_t début, std::size_t retirés, VueTexte arrivé) const

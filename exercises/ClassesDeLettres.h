@@ -4,6 +4,8 @@
 
 namespace tirelune {
 
+inline constexpr VueTexte Voyelles = u"aeiouy"; // of the alphabet
+
 // The letter, small and capital, with the accented forms that go with it. The letter may come in either case.
 Texte ClasseDeLettre(char16_t lettre);
 

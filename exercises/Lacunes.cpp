@@ -101,23 +101,6 @@ void SélectionnerTrait(RichTextBox& boîte, const std::vector<Lacune>& ouvertes
     boîte.Sélectionner(début, std::max(début, lacune->Début + traits.Fin) - début);
 }
 
-void RefuserDoubleClic(RichTextBox& boîte)
-{
-    auto& écran = boîte.EcranDe();
-    écran.ApplicationDe().Avertir(u"Clique UNE SEULE FOIS sur les traits !");
-    if (écran.EstChargé())
-        écran.ApplicationDe().état.CorrectionEnCours = true;
-}
-
-void EffacerSélectionRefusée(RichTextBox& boîte)
-{
-    auto& refusée = boîte.EcranDe().ApplicationDe().état.CorrectionEnCours;
-    if (!refusée)
-        return;
-    refusée = false;
-    boîte.SelLength(0);
-}
-
 namespace {
 
 // The word takes the place of the gap and leaves the list.

@@ -39,9 +39,8 @@ struct JeuDeLacunes {
 // that starts there is taken from its second.
 void SélectionnerTrait(RichTextBox& boîte, const std::vector<Lacune>& ouvertes);
 
-// A double click is refused with a message, and the selection that it makes is wiped when it comes.
-void RefuserDoubleClic(RichTextBox& boîte);
-void EffacerSélectionRefusée(RichTextBox& boîte);
+// What a double click in them is told.
+inline constexpr VueTexte UnClicSurLesTraits = u"Clique UNE SEULE FOIS sur les traits !";
 
 // Tries the word of the list in the selected gap, counts the try, and shows the end frame once no gap is left.
 void EssayerMot(const JeuDeLacunes& jeu);

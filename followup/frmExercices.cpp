@@ -377,12 +377,21 @@ void frmExercices::cmdCharger_Click()
         Avertir(u"Impossible de lire ce format de fichier !", u"Erreur lors de l'ouverture");
         return;
     }
+    RedresserApostrophes();
     état.CheminTexteElève = DossierDuTexte(*choisi, titreFichier);
     lblTexte.Caption = u" " + titre + u" ";
     lblTexte.Visible = true;
     lblVitesse.Caption = Texte{};
     MontrerRésultats(Rogner(titre));
     ChargerVocabulaire();
+}
+
+// Word processors write another one than the rules' sets of letters have.
+void frmExercices::RedresserApostrophes()
+{
+    auto texte = rtfTexte.Text();
+    std::transform(texte.begin(), texte.end(), texte.begin(), ApostropheDroite);
+    rtfTexte.Transcrire(std::move(texte));
 }
 
 void frmExercices::MontrerRésultats(const Texte& titre)

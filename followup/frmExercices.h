@@ -80,6 +80,7 @@ private:
     void GarderBilanAbîmé(const Texte& fichier, const std::string& octets);
     void CalculerMoyennes();
     void PeindreMoyennes();
+    void RedresserApostrophes();
     void MontrerRésultats(const Texte& titre);
     void ChargerVocabulaire();
     void EffacerCouleurs();

@@ -2,6 +2,7 @@
 
 #include "core/Tirage.h"
 #include "exercises/Conclure.h"
+#include "exercises/DoubleClic.h"
 #include "exercises/ListeDeMots.h"
 
 #include <cmath>
@@ -65,7 +66,7 @@ frmClosures::frmClosures(frmExercices& choix) : Ecran(choix.ApplicationDe(), "fr
     Image1.Picture = DessinCrayon();
     rtfClosures.Click = [this] { SélectionnerTrait(rtfClosures, lacunes_); };
     rtfClosures.KeyPress = [this](Touche& touche) { rtfClosures_KeyPress(touche); };
-    rtfClosures.DblClick = [this] { RefuserDoubleClic(rtfClosures); };
+    rtfClosures.DblClick = [this] { RefuserDoubleClic(rtfClosures, UnClicSurLesTraits); };
     rtfClosures.SelChange = [this] { EffacerSélectionRefusée(rtfClosures); };
     cmbClosures.KeyPress = RefuserFrappe;
     cmdOk.Click = [this] { EssayerMot(jeu_); };

@@ -1,6 +1,7 @@
 #include "exercises/spelling/frmAlphabet.h"
 
 #include "core/Fonctions.h"
+#include "exercises/ClassesDeLettres.h"
 #include "exercises/Conclure.h"
 #include "exercises/TirageVocabulaire.h"
 
@@ -13,14 +14,12 @@ using namespace std::chrono_literals;
 
 namespace {
 
-constexpr int MotsMinimum = 3;
+constexpr int MotsÀRanger = 3;
 constexpr auto PauseAprèsUnMot = 2000ms;
-constexpr VueTexte Voyelles = u"aeiouy";
-constexpr Couleur Magenta{0xFF00FF};
 constexpr Couleur AuRepos = Noir;
 constexpr Couleur Pris = Bleu;
 constexpr Couleur AutresLettres = Jaune;
-constexpr std::array<Couleur, 5> PremièresLettres{Jaune, Cyan, Rouge, Vert, Magenta};
+constexpr std::array<Couleur, 5> PremièresLettres{Jaune, Cyan, Rouge, Vert, Violet};
 
 // Of the width, beside what stays free on either side: a marked phrase wants all of it.
 int PartDeLaColonne(const ComboBox& vocabulaire)
@@ -62,7 +61,7 @@ Arrangement frmAlphabet::Disposer()
 void frmAlphabet::Load()
 {
     RemplirEtiquettes();
-    if (cmbMots.ListCount() < MotsMinimum) {
+    if (cmbMots.ListCount() < MotsÀRanger) {
         Montrer(notice);
         return;
     }

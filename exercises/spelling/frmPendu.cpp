@@ -13,7 +13,6 @@ namespace {
 
 constexpr int MotsMaximum = 5;
 constexpr int DernierTrait = 9;
-constexpr VueTexte Voyelles = u"aeiouy";
 
 // The drawing, in units of its own; the man first, the gallows around him afterwards. He faces the pupil: his left is
 // on the right.

@@ -1,6 +1,7 @@
 #include "exercises/vocabulary/frmTrous.h"
 
 #include "exercises/Conclure.h"
+#include "exercises/DoubleClic.h"
 #include "exercises/ListeDeMots.h"
 
 namespace tirelune {
@@ -24,7 +25,7 @@ frmTrous::frmTrous(frmExercices& choix) : Ecran(choix.ApplicationDe(), "frmTrous
     Image1.Picture = DessinCrayon();
     rtfTrous.Click = [this] { SélectionnerTrait(rtfTrous, lacunes_); };
     rtfTrous.KeyPress = [this](Touche& touche) { rtfTrous_KeyPress(touche); };
-    rtfTrous.DblClick = [this] { RefuserDoubleClic(rtfTrous); };
+    rtfTrous.DblClick = [this] { RefuserDoubleClic(rtfTrous, UnClicSurLesTraits); };
     rtfTrous.SelChange = [this] { EffacerSélectionRefusée(rtfTrous); };
     cmbTrous.KeyPress = [](Touche& touche) {
         touche.Avaler(); // the arrows as well: here the words are picked with the mouse alone

@@ -669,6 +669,21 @@ TEST(Exercices, ChargerUnTexteNeuf)
     EXPECT_EQ(choix->lblTexte.Caption, u" Le chat ");
 }
 
+TEST(Exercices, ApostrophesTypographiquesDeviennentDroitesDansLaCopie)
+{
+    Banc banc;
+    Connexion choix{banc};
+    TexteRiche texte{u"L’eau de l’étang, l'air. " + Long()};
+    texte.Formater(0, 5, [](Format& format) { format.Barré = true; });
+    const auto fichier = EcrireTexte(banc, "A.rtf", texte);
+    const auto avant = banc.Lire("A.rtf");
+    ChargerTexte(banc, *choix, fichier);
+    EXPECT_TRUE(choix->rtfTexte.Text().starts_with(u"L'eau de l'étang, l'air. "));
+    EXPECT_EQ(choix->rtfTexte.Longueur(), texte.Longueur());
+    EXPECT_EQ(choix->cmbVocabulaire.Eléments(), (std::vector<Texte>{u"L'eau"}));
+    EXPECT_EQ(banc.Lire("A.rtf"), avant);
+}
+
 TEST(Exercices, ChargerUnTexteDéjàEtudiéMontreSesNotesEtSaVitesse)
 {
     Banc banc;

@@ -10,7 +10,6 @@ namespace tirelune {
 namespace {
 
 constexpr int IndexAlphabet = 26;
-constexpr Couleur Magenta{0xFF00FF};
 
 // The column starts in this order: each draw takes the next word of the list.
 frmAlphabet& OuvrirAlphabet(Banc& banc, const std::vector<Texte>& mots)
@@ -96,8 +95,8 @@ TEST(Alphabet, CinqPremièresLettresOntLeurCouleur)
 {
     Banc banc;
     auto& écran = OuvrirAlphabet(banc, {u"chevaux", u"âne", u"maison"});
-    EXPECT_EQ(EncresDuMot(écran.rtfMot(0)), (std::vector<Couleur>{Jaune, Cyan, Rouge, Vert, Magenta, Jaune, Jaune}));
-    EXPECT_EQ(EncresDuMot(écran.rtfMot(2)), (std::vector<Couleur>{Jaune, Cyan, Rouge, Vert, Magenta, Jaune}));
+    EXPECT_EQ(EncresDuMot(écran.rtfMot(0)), (std::vector<Couleur>{Jaune, Cyan, Rouge, Vert, Violet, Jaune, Jaune}));
+    EXPECT_EQ(EncresDuMot(écran.rtfMot(2)), (std::vector<Couleur>{Jaune, Cyan, Rouge, Vert, Violet, Jaune}));
 }
 
 TEST(Alphabet, MotDeMoinsDeCinqLettresEstPeintJusquAuBout)
@@ -214,7 +213,7 @@ TEST(Alphabet, MotDéplacéGardeSesCouleursDeLettres)
     CliquerLeMot(écran, 1);
     EXPECT_EQ(MotsEnColonne(écran), (std::vector<Texte>{u"âne", u"chevaux", u"bal"}));
     EXPECT_EQ(EncresDuMot(écran.rtfMot(0)), (std::vector<Couleur>{Jaune, Cyan, Rouge}));
-    EXPECT_EQ(EncresDuMot(écran.rtfMot(1)), (std::vector<Couleur>{Jaune, Cyan, Rouge, Vert, Magenta, Jaune, Jaune}));
+    EXPECT_EQ(EncresDuMot(écran.rtfMot(1)), (std::vector<Couleur>{Jaune, Cyan, Rouge, Vert, Violet, Jaune, Jaune}));
 }
 
 TEST(Alphabet, GlisserDonneLaMêmeColonneQueCliquer)
