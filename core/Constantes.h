@@ -27,6 +27,9 @@ struct Constantes {
     bool TexteModifié = false;
     bool ModeRechercher = false;
     std::size_t PositionRecherche = 0; // where the next search starts: texts are longer than 16 bits count
+    bool ListeModifiée = false;        // a list of the lexicon's editor follows what is typed: no cascade
+    bool MotExistant = false;          // the list of the text's dictionary moves that of the general one
+    std::uint8_t IndexListe = 0;       // of the word that is being renamed
 
     Texte LettresEtSignes;
     Texte LettresEtChiffres;

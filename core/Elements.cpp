@@ -1,6 +1,7 @@
 #include "core/Elements.h"
 
 #include "core/Ecran.h"
+#include "core/FichierChamps.h"
 #include "core/OrdreAlphabetique.h"
 #include "core/Windows1252.h"
 
@@ -135,7 +136,8 @@ TextBox::TextBox(Ecran& écran, std::string_view nom, const EtatInitial& initial
       Locked(*this, initial.ALire),
       PasswordChar(initial.PasswordChar),
       MultiLine(initial.MultiLine),
-      PourFichier(initial.PourFichier),
+      PourFichier(initial.PourFichier || initial.PourFiche),
+      PourFiche(initial.PourFiche),
       ALire(initial.ALire),
       Centré(initial.Centré)
 {
@@ -157,19 +159,42 @@ void TextBox::SelText(VueTexte nouveau)
     SelLength = 0;
 }
 
+namespace {
+
+bool EstInterdit(char16_t caractère)
+{
+    return caractère == u'"' || !OctetWindows1252(caractère);
+}
+
+} // namespace
+
+// A text that came from elsewhere may hold too much: what makes it shorter is never refused.
 bool TextBox::Saisir(Texte texte)
 {
-    if (Locked || !Enabled || (MaxLength > 0 && texte.size() > MaxLength))
+    const bool raccourcit = texte.size() < Text->size();
+    if (Locked || !Enabled || (MaxLength > 0 && texte.size() > MaxLength && !raccourcit))
         return false;
-    if (PourFichier && (!TientEnWindows1252(texte) || Contient(texte, u'"'))) {
-        EcranDe().ApplicationDe().Avertir(
-            Contient(texte, u'"') ? u"Le guillemet droit (\") n'est pas possible ici."
-                                  : u"Ce caractère n'est pas possible ici : le fichier ne peut pas le garder.");
+    if (const auto refus = Refus(texte, raccourcit); !refus.empty()) {
+        EcranDe().ApplicationDe().Avertir(Texte{refus});
         return false;
     }
     Text = std::move(texte);
     Appeler(Change);
     return true;
+}
+
+// Why a file can't hold the text; nothing when it can.
+VueTexte TextBox::Refus(VueTexte texte, bool raccourcit) const
+{
+    if (!PourFichier)
+        return {};
+    if (PourFiche && Rogner(texte) == Marqueur)
+        return u"L'astérisque seul n'est pas possible ici : dans le fichier, il sépare les mots.";
+    const auto interdits = std::count_if(texte.begin(), texte.end(), EstInterdit);
+    if (interdits == 0 || (raccourcit && interdits <= std::count_if(Text->begin(), Text->end(), EstInterdit)))
+        return {};
+    return Contient(texte, u'"') ? u"Le guillemet droit (\") n'est pas possible ici."
+                                 : u"Ce caractère n'est pas possible ici : le fichier ne peut pas le garder.";
 }
 
 void TextBox::Cliquer(std::size_t position)
@@ -217,7 +242,7 @@ void Liste::AddItem(Texte texte, int index)
     éléments_.insert(éléments_.begin() + index, std::move(texte));
     if (ListIndex >= index)
         ListIndex.Noter(ListIndex + 1);
-    Changer();
+    ElémentsChangés();
 }
 
 void Liste::AddItems(std::vector<Texte> textes)
@@ -225,7 +250,7 @@ void Liste::AddItems(std::vector<Texte> textes)
     éléments_.insert(éléments_.end(), std::make_move_iterator(textes.begin()), std::make_move_iterator(textes.end()));
     if (Sorted)
         std::stable_sort(éléments_.begin(), éléments_.end(), AvantDansLOrdre);
-    Changer();
+    ElémentsChangés();
 }
 
 void Liste::RemoveItem(int index)
@@ -235,13 +260,19 @@ void Liste::RemoveItem(int index)
         ListIndex.Noter(-1);
     else if (ListIndex > index)
         ListIndex.Noter(ListIndex - 1);
-    Changer();
+    ElémentsChangés();
 }
 
 void Liste::Clear()
 {
     éléments_.clear();
     ListIndex.Noter(-1);
+    ElémentsChangés();
+}
+
+void Liste::ElémentsChangés()
+{
+    ++version_;
     Changer();
 }
 
@@ -521,6 +552,26 @@ void Grid::RemoveRow(int ligne)
     assert(ligne >= 0 && ligne < Rows());
     cellules_.erase(cellules_.begin() + ligne);
     Changer();
+}
+
+void Grid::RemoveRows(const std::function<bool(int ligne)>& partante)
+{
+    std::size_t restées = 0;
+    for (int ligne = 0; ligne < Rows(); ++ligne) {
+        const auto place = static_cast<std::size_t>(ligne);
+        if (partante(ligne))
+            continue;
+        if (restées != place)
+            cellules_[restées] = std::move(cellules_[place]);
+        ++restées;
+    }
+    cellules_.resize(restées);
+    Changer();
+}
+
+int Grid::Remplies(int ligne) const
+{
+    return static_cast<int>(cellules_.at(static_cast<std::size_t>(ligne)).size());
 }
 
 // ---- Toolbar -------------------------------------------------------------------------------------------------

@@ -48,6 +48,7 @@ struct EtatInitial {
     bool UneLigne = false;    // of a rich text box: as high as its first line, which never breaks
     bool PourFichier = false; // of a text box: holds only what a field file can hold
     bool ALire = false;       // of a text box: locked, clicked as a whole, always shown whole
+    bool PourFiche = false;   // the same of a file with records: never the mark that opens one
     std::size_t MaxLength = 0;
     char16_t PasswordChar = 0;
 };
@@ -168,6 +169,8 @@ public:
 class Button final : public Légendé {
 public:
     using Légendé::Légendé;
+
+    Propriété<Dessin> Picture{*this, Dessin{}}; // in the place of a caption
 };
 
 class Frame final : public Légendé {
@@ -214,6 +217,7 @@ public:
     const bool MultiLine;
     const bool PourFichier;
     const bool ALire;
+    const bool PourFiche;
     const bool Centré;
 
     std::function<void()> Click;
@@ -232,6 +236,9 @@ public:
     void DoubleCliquer(std::size_t position);
     // The key goes through KeyPress; Enter goes on to Enter. False: the key was thrown away.
     bool Taper(Touche touche);
+
+private:
+    [[nodiscard]] VueTexte Refus(VueTexte texte, bool raccourcit) const;
 };
 
 // A list of texts. A sorted one keeps its items in the order of a French dictionary.
@@ -248,6 +255,8 @@ public:
     [[nodiscard]] int ListCount() const { return static_cast<int>(éléments_.size()); }
     [[nodiscard]] const Texte& List(int index) const { return éléments_.at(static_cast<std::size_t>(index)); }
     [[nodiscard]] const std::vector<Texte>& Eléments() const { return éléments_; }
+    // Changes with the items: whoever shows them need not compare them.
+    [[nodiscard]] unsigned Version() const { return version_; }
     // First item equal to the text, exactly; -1: none.
     [[nodiscard]] int Chercher(VueTexte texte) const;
     void AddItem(Texte texte);
@@ -260,7 +269,10 @@ public:
     virtual void Choisir(int index);
 
 private:
+    void ElémentsChangés();
+
     std::vector<Texte> éléments_;
+    unsigned version_ = 0;
 };
 
 class ListBox final : public Liste {
@@ -426,6 +438,10 @@ public:
     void TextMatrix(int ligne, int colonne, Texte texte);
     void AddRow();
     void RemoveRow(int ligne);
+    // All those of which it is true.
+    void RemoveRows(const std::function<bool(int ligne)>& partante);
+    // As many cells of the row as may hold something: all behind them are empty.
+    [[nodiscard]] int Remplies(int ligne) const;
 
 private:
     [[nodiscard]] std::size_t PlaceDe(int colonne) const;

@@ -11,10 +11,15 @@ bool LireQuestions(const Chemin& fichier, Grid& grille)
     const auto champs = LireChamps(fichier);
     if (!champs)
         return false;
-    const int nombre = std::min(static_cast<int>(champs->size()), QuestionsMaximum * ChampsParQuestion);
-    for (int i = 0; i < nombre; ++i)
-        grille.TextMatrix(i / ChampsParQuestion, i % ChampsParQuestion, (*champs)[static_cast<std::size_t>(i)]);
+    RangerQuestions(*champs, grille);
     return true;
+}
+
+void RangerQuestions(const std::vector<Texte>& champs, Grid& grille)
+{
+    const int nombre = std::min(static_cast<int>(champs.size()), QuestionsMaximum * ChampsParQuestion);
+    for (int i = 0; i < nombre; ++i)
+        grille.TextMatrix(i / ChampsParQuestion, i % ChampsParQuestion, champs[static_cast<std::size_t>(i)]);
 }
 
 } // namespace tirelune

@@ -23,5 +23,7 @@ constexpr int ColonneDrapeau(int i) // "1": the choice is right; "0" or empty: i
 // past the twelfth are left out, and the fields that the last one lacks stay as they are. False when the file can't be
 // read: the grid stays as it is.
 bool LireQuestions(const Chemin& fichier, Grid& grille);
+// The same of its fields.
+void RangerQuestions(const std::vector<Texte>& champs, Grid& grille);
 
 } // namespace tirelune

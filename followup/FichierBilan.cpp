@@ -69,27 +69,6 @@ LectureBilan LireBilan(Plateforme& plateforme, const Texte& fichier)
     return lecture;
 }
 
-std::optional<Copie> MettreDeCôté(Plateforme& plateforme, const Texte& fichier, const std::string& octets,
-                                  VueTexte suffixe)
-{
-    for (long long numéro = 1;; ++numéro) {
-        auto copie = Texte{fichier}.append(suffixe) + EnTexte(numéro);
-        const auto chemin = EnChemin(copie);
-        if (std::error_code erreur; std::filesystem::exists(chemin, erreur)) {
-            if (LireFichier(chemin) == octets)
-                return Copie{std::move(copie), false};
-            continue;
-        }
-        if (!plateforme.Réécrire(chemin, octets)) {
-            PousserDossier(chemin.parent_path());
-            return Copie{std::move(copie), true};
-        }
-        std::error_code ignorée; // half a copy would look like a whole one
-        std::filesystem::remove(chemin, ignorée);
-        return std::nullopt;
-    }
-}
-
 bool EstMisDeCôté(VueTexte nom)
 {
     const auto numéro = nom.find_last_not_of(u"0123456789") + 1;

@@ -1,6 +1,6 @@
 // The pupil's file: where it lies, what it holds, and the copies that are set aside.
 #pragma once
-#include "core/Fichiers.h"
+#include "core/MiseDeCôté.h"
 
 #include <optional>
 #include <string>
@@ -30,22 +30,7 @@ struct LectureBilan {
 
 LectureBilan LireBilan(Plateforme& plateforme, const Texte& fichier);
 
-// What the names of copies end in, before their number: of a damaged file, and of other results than the pupil's
-// present ones.
-inline constexpr VueTexte SuffixeAbîmé = u".abîmé";
-inline constexpr VueTexte SuffixeAutre = u".autre";
-
-struct Copie {
-    Texte Fichier;
-    bool Nouvelle; // false: the same bytes had been set aside before
-};
-
-// Sets these bytes of a pupil's file aside, on the disk for good, beside it: under its name, the suffix and the first
-// number that is free. Nothing when that fails.
-std::optional<Copie> MettreDeCôté(Plateforme& plateforme, const Texte& fichier, const std::string& octets,
-                                  VueTexte suffixe);
-
-// True for the name of such a copy.
+// True for the name of a copy of such a file that was set aside.
 bool EstMisDeCôté(VueTexte nom);
 
 } // namespace tirelune
