@@ -1,7 +1,9 @@
 #include "TableEcrans.h"
 
 #include "authoring/frmEnseignant.h"
+#include "authoring/frmQuestions.h"
 #include "authoring/frmRechercher.h"
+#include "authoring/lexicon/frmLexique.h"
 #include "core/Application.h"
 #include "core/Ecran.h"
 #include "core/frmTirelune.h"
@@ -88,6 +90,7 @@ void RemplirTable(Application& application)
     table["frmExercices"] = Seul<frmExercices>;
     table["frmGenre"] = SurLeChoix<frmGenre>;
     table["frmGestionEleves"] = Seul<frmGestionEleves>;
+    table["frmLexique"] = Seul<frmLexique>;
     table["frmLignesEnDésordre"] = SurLeChoix<frmLignesEnDésordre>;
     table["frmMotsCoupés"] = SurLeChoix<frmMotsCoupés>;
     table["frmJeCorrige"] = SurLeChoix<frmJeCorrige>;
@@ -99,6 +102,7 @@ void RemplirTable(Application& application)
     table["frmPoursuite"] = SurLeChoix<frmPoursuite>;
     table["frmProgression"] = SurLeChoix<frmProgression>;
     table["frmQuestionnaire1"] = SurLeChoix<frmQuestionnaire1>;
+    table["frmQuestions"] = Seul<frmQuestions>;
     table["frmRechercher"] = SurLEditeur<frmRechercher>;
     table["frmSynonymes"] = SurLeChoix<frmSynonymes>;
     table["frmSérie"] = SurLeChoix<frmSérie>;

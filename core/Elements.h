@@ -216,8 +216,8 @@ public:
     const char16_t PasswordChar;
     const bool MultiLine;
     const bool PourFichier;
-    const bool ALire;
     const bool PourFiche;
+    const bool ALire;
     const bool Centré;
 
     std::function<void()> Click;

@@ -173,7 +173,7 @@ protected:
         if (const auto* légendé = dynamic_cast<const Légendé*>(un); légendé != nullptr)
             return bool{légendé->Click};
         const auto* champ = dynamic_cast<const TextBox*>(un);
-        return champ != nullptr && champ->Click;
+        return champ != nullptr && champ->Locked && champ->Click;
     }
 
 private:
@@ -465,7 +465,7 @@ QAccessibleInterface* Fabriquer(const QString& /*classe*/, QObject* objet)
     const auto* vue = VueDuWidget(*widget);
     const auto* champ = vue != nullptr ? dynamic_cast<const TextBox*>(&vue->élément) : nullptr;
     if (vue != nullptr &&
-        (dynamic_cast<const Toolbar*>(&vue->élément) != nullptr || (champ != nullptr && champ->Click)))
+        (dynamic_cast<const Toolbar*>(&vue->élément) != nullptr || (champ != nullptr && champ->Locked && champ->Click)))
         return new AccessibleElément{widget};
     return nullptr;
 }

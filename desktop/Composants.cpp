@@ -2,6 +2,7 @@
 
 #include "desktop/Apparence.h"
 #include "desktop/Conversions.h"
+#include "desktop/Style.h"
 
 #include <QApplication>
 #include <QEvent>
@@ -403,6 +404,8 @@ Bouton::Bouton(QWidget* parent) : QPushButton(parent)
 QSize Bouton::sizeHint() const
 {
     const int taille = font().pixelSize();
+    if (!dessin.Formes.empty())
+        return QSize{1, 1} * HauteurUsuelle(font());
     const auto texte = TailleTexte(font(), text(), DrapeauxBouton, taille * 18);
     const int minimum = taille * (text().size() > 2 ? 6 : 3);
     const int largeur = text().size() == 1 ? taille * 2 : std::max(texte.width() + taille * 2, minimum);
@@ -412,7 +415,7 @@ QSize Bouton::sizeHint() const
 QSize Bouton::minimumSizeHint() const
 {
     const auto voulue = sizeHint();
-    return {voulue.width() * 6 / 10, voulue.height() * 7 / 10};
+    return dessin.Formes.empty() ? QSize{voulue.width() * 6 / 10, voulue.height() * 7 / 10} : voulue;
 }
 
 void Bouton::paintEvent(QPaintEvent* /*événement*/)
@@ -429,6 +432,14 @@ void Bouton::paintEvent(QPaintEvent* /*événement*/)
         peintre.setPen(QPen{Teinte::Tranche, 2});
         peintre.setBrush(Teinte::Eteint);
         peintre.drawRoundedRect(QRectF{rect()}.adjusted(1, 1, -1, -1), Arrondi, Arrondi);
+    }
+    if (!dessin.Formes.empty()) {
+        const double bord = height() / 5.0;
+        const double bas = isDown() ? 0 : HauteurTranche;
+        peintre.setOpacity(isEnabled() ? 1 : 0.4);
+        Peindre(peintre, dessin,
+                Proportionné(dessin, QRectF{rect()}.adjusted(bord, bord + HauteurTranche - bas, -bord, -bord - bas)));
+        return;
     }
     const auto place =
         rect().adjusted(8, 2 + (isDown() ? HauteurTranche : 0), -8, -2 - (isDown() ? 0 : HauteurTranche));

@@ -117,6 +117,7 @@ public:
 
     QColor fond;
     QColor encre;
+    Dessin dessin; // in the place of a text: as high as a field
 
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override;

@@ -115,7 +115,7 @@ QString SansEtat(const Elément& élément)
         return PremierNonVide({légende, libellé});
     }
     if (const auto* champ = dynamic_cast<const TextBox*>(&élément);
-        champ != nullptr && (champ->ALire || (champ->Click && !champ->MultiLine)))
+        champ != nullptr && (champ->ALire || (champ->Locked && champ->Click && !champ->MultiLine)))
         return PremierNonVide({Prononçable(champ->Text()), libellé, QStringLiteral("vide")});
     if (const auto* ligne = dynamic_cast<const RichTextBox*>(&élément);
         ligne != nullptr && ligne->Click && ligne->UneLigne)

@@ -24,6 +24,10 @@ public:
     {
         if (const auto légende = EnAffichage(bouton_.Caption()); légende != peint_.text())
             peint_.setText(légende);
+        if (peint_.dessin != bouton_.Picture()) {
+            peint_.dessin = bouton_.Picture;
+            peint_.updateGeometry();
+        }
         peint_.fond = EnQColor(bouton_.BackColor, {});
         peint_.encre = EnQColor(bouton_.ForeColor, {});
         peint_.update();

@@ -4,10 +4,12 @@
 #include "desktop/Vues.h"
 
 #include <QAbstractItemView>
+#include <QAbstractListModel>
 #include <QComboBox>
 #include <QCompleter>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QListView>
 #include <QListWidget>
 #include <QScreen>
 #include <QSignalBlocker>
@@ -39,11 +41,49 @@ QRect PlaceDuVolet(QRect volet, const QRect& passage, const QRect& écran, bool 
     return volet;
 }
 
+// The items where they are: copied, a lexicon's words would take longer than the key that has changed one.
+class ModèleDeListe final : public QAbstractListModel {
+public:
+    ModèleDeListe(const Liste& liste, QObject* parent)
+        : QAbstractListModel(parent), liste_(liste), version_(liste.Version()), nombre_(liste.ListCount())
+    {
+    }
+
+    [[nodiscard]] int rowCount(const QModelIndex& parent) const override { return parent.isValid() ? 0 : nombre_; }
+    [[nodiscard]] QVariant data(const QModelIndex& place, int rôle) const override
+    {
+        if ((rôle != Qt::DisplayRole && rôle != Qt::EditRole) || place.row() >= liste_.ListCount())
+            return {};
+        return EnAffichage(liste_.List(place.row()));
+    }
+    void Revoir()
+    {
+        if (version_ == liste_.Version())
+            return;
+        beginResetModel();
+        version_ = liste_.Version();
+        nombre_ = liste_.ListCount();
+        endResetModel();
+    }
+
+private:
+    const Liste& liste_;
+    unsigned version_;
+    int nombre_;
+};
+
 class VueCombo final : public Vue {
 public:
     VueCombo(Hôte& hôte, ComboBox& combo, QWidget* parent)
-        : Vue(hôte, combo, new Déroulante{*this, parent}), combo_(combo), liste_(static_cast<QComboBox&>(*widget))
+        : Vue(hôte, combo, new Déroulante{*this, parent}),
+          combo_(combo),
+          liste_(static_cast<QComboBox&>(*widget)),
+          modèle_(*new ModèleDeListe{combo, &liste_})
     {
+        liste_.setModel(&modèle_);
+        liste_.setCurrentIndex(-1);
+        if (auto* rangées = qobject_cast<QListView*>(liste_.view()); rangées != nullptr)
+            rangées->setUniformItemSizes(true);
         liste_.setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
         liste_.setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
         liste_.setMinimumContentsLength(combo.Saisie ? 3 : 14);
@@ -73,15 +113,7 @@ public:
     {
         ColorerFond(Teinte::Panneau);
         const QSignalBlocker silence{liste_};
-        if (montrés_ != combo_.Eléments()) {
-            montrés_ = combo_.Eléments();
-            QStringList textes;
-            textes.reserve(static_cast<qsizetype>(montrés_.size()));
-            for (const auto& texte : montrés_)
-                textes.push_back(EnAffichage(texte));
-            liste_.clear();
-            liste_.addItems(textes);
-        }
+        modèle_.Revoir();
         const auto texte = EnAffichage(combo_.Text());
         if (combo_.Saisie) {
             if (liste_.currentIndex() != combo_.ListIndex)
@@ -151,7 +183,7 @@ private:
 
     ComboBox& combo_;
     QComboBox& liste_;
-    std::vector<Texte> montrés_;
+    ModèleDeListe& modèle_;
 };
 
 class VueListe final : public Vue {

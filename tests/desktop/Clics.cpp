@@ -69,6 +69,7 @@ Noms Ecrans::Table() const
 
 std::unique_ptr<Ecran> Ecrans::Créer(const std::string& nom)
 {
+    application.état.NomFichierTexte = Joindre(application.état.CheminAppli, u"Le chat.rtf"); // the editor's tools ask
     for (Ecran* ouvreur : std::initializer_list<Ecran*>{&accueil, &éditeur, &choix}) {
         try {
             return application.écrans.find(nom)->second(*ouvreur);

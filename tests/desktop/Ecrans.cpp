@@ -28,6 +28,7 @@ const std::map<std::string, Noms> Réserves{
     {"frmExercices", {"cmbVocabulaire", "fgRésultats", "lblIndex", "listeBil", "rtfTexte"}},
     {"frmGenre", {"cmbNuméro", "fgGenre"}},
     {"frmGestionEleves", {"listeBil"}},
+    {"frmLexique", {"fgContraires", "fgDic", "fgDicPrinc", "fgFamilles", "fgGenre", "fgSynonymes"}},
     {"frmLignesEnDésordre", {"cmbMélangées", "cmbOrdre", "lblPassage", "txtPhrase"}},
     {"frmMotsCoupés", {"cmbEliminés", "cmbMots", "lblPassage"}},
     {"frmJeCorrige", {"lblGraphèmes", "lblSon"}},
@@ -38,6 +39,7 @@ const std::map<std::string, Noms> Réserves{
     {"frmPhrasesEnDésordre", {"cmbMélangées", "cmbOrdre", "lblPassage"}},
     {"frmPoursuite", {"lblCorrigé", "lblPassage"}},
     {"frmQuestionnaire1", {"fgQuestions"}},
+    {"frmQuestions", {"fgQuestions"}},
     {"frmSérie", {"lblCompteur"}},
     {"frmSynonymes", {"cmbNuméro", "fgSynonymes"}},
     {"frmThèmes", {"cmbNuméro", "fgThèmes"}},
@@ -179,6 +181,9 @@ TEST_F(Ecrans, LaTabulationSuitLOrdreDuTravail)
         {"frmMotsInversés", {"rtfPhrase", "cmdTerminé", "cmdOk", "cmdAnnuler", "cmdSuivant"}},
         {"frmMotsEnDésordre", {"lblMot(0)", "txtPhrase", "cmdTerminé", "cmdSuivant"}},
         {"frmPendu", {"lblLettre(0)", "lblLettre(25)", "cmdSuivant"}},
+        {"frmQuestions", {"txtQuestion", "txtChoix(0)", "txtChoix(4)", "chkRéponse(0)", "cmdSuivante", "cmdQuitter"}},
+        {"frmLexique",
+         {"txtMot(0)", "txtMot(9)", "txtMot(10)", "txtDéfinition", "txtExemple", "cmdAttacher", "cmdModifier(0)"}},
     };
     for (const auto& [nom, ordre] : ordres) {
         SCOPED_TRACE(nom);
