@@ -262,6 +262,7 @@ TEST_F(Ecoute, CeQuiChangeEstAnnoncé)
 TEST_F(Ecoute, UnEtatSeDitAprèsLeNom)
 {
     écran.lblMot.Click = écran.txtChoix.Click = [] {};
+    écran.txtChoix.Locked = true;
     Avec(écran, [&] {
         écran.lblMot.BackColor = Jaune;
         Mettre();
