@@ -19,12 +19,18 @@ Chemin FichierLexique(VueTexte dossier, VueTexte nom)
 
 LectureLexique LireLexique(const Chemin& fichier, Grid& grille)
 {
-    grille.Rows(0);
     const auto octets = LireFichier(fichier, TailleDUnFichierDeChamps);
-    if (!octets)
-        return octets.Echec == EchecLecture::Absent ? LectureLexique::Absente : LectureLexique::Refusée;
-    auto champs = DécouperFichier(*octets);
-    if (!champs || (champs->empty() ? !octets->empty() : champs->front() != Marqueur))
+    if (octets)
+        return RangerLexique(*octets, grille);
+    grille.Rows(0);
+    return octets.Echec == EchecLecture::Absent ? LectureLexique::Absente : LectureLexique::Refusée;
+}
+
+LectureLexique RangerLexique(std::string_view octets, Grid& grille)
+{
+    grille.Rows(0);
+    auto champs = DécouperFichier(octets);
+    if (!champs || (champs->empty() ? !octets.empty() : champs->front() != Marqueur))
         return LectureLexique::Refusée;
     RangerFiches(std::move(*champs), grille, 0, Colonnes::AuBesoin);
     return LectureLexique::Faite;

@@ -2,6 +2,8 @@
 #pragma once
 #include "core/Elements.h"
 
+#include <string_view>
+
 namespace tirelune {
 
 // Those of all the texts of the folder.
@@ -42,5 +44,7 @@ enum class LectureLexique {
 
 // Puts the records of a file in a grid, a row each, as wide as the longest. Without a reading the grid has no rows.
 LectureLexique LireLexique(const Chemin& fichier, Grid& grille);
+// The same of its bytes.
+LectureLexique RangerLexique(std::string_view octets, Grid& grille);
 
 } // namespace tirelune

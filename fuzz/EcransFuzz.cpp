@@ -145,6 +145,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* octets, std::size_t ta
     SeConnecter(choix, TexteTiré(suite), index);
     accueil.Charger();
     éditeur.Charger();
+    application.état.NomFichierTexte =
+        application.état.CheminTexteElève + u"Le chat.rtf"; // its tools ask for a saved text
+    application.état.CheminTextes = application.état.CheminTexteElève;
 
     const auto écran = Fabriquer(rangée->second, {&choix, &éditeur, &accueil});
     Exiger(écran != nullptr);

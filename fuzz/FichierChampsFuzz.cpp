@@ -1,7 +1,11 @@
-// Any bytes read as fields, in both modes; what is written of them reads back equal.
+// Any bytes read as fields, in both modes, and as each of the six files of the lexicon; what is written of them reads
+// back equal.
+#include "authoring/lexicon/Lexique.h"
+#include "core/Ecran.h"
 #include "core/FichierChamps.h"
 #include "fuzz/Agrandir.h"
 #include "fuzz/Exiger.h"
+#include "tests/support/PlateformeMuette.h"
 
 #include <algorithm>
 #include <cstdint>
@@ -22,8 +26,50 @@ void RelireEgal(const std::vector<Texte>& champs, Valeurs valeurs)
     Exiger(DécouperChamps(*octets, valeurs) == champs);
 }
 
+// A grid needs a screen.
+class EcranGrilles final : public Ecran {
+public:
+    explicit EcranGrilles(Application& application) : Ecran(application, "EcranGrilles", u"") {}
+
+    Grid lue{*this, "lue", 0, ColonnesAuDépart};
+    Grid relue{*this, "relue", 0, ColonnesAuDépart};
+
+private:
+    Arrangement Disposer() override { return {}; }
+};
+
+// What a file's rule leaves of a grid stays for good: written again, it is the same.
+void EssayerLexique(std::string_view octets, Cellules écrites, int colonnes)
+{
+    PlateformeMuette plateforme;
+    Application application{plateforme};
+    EcranGrilles écran{application};
+    écran.lue.Cols(colonnes);
+    écran.relue.Cols(colonnes);
+    if (RangerLexique(octets, écran.lue) != LectureLexique::Faite) {
+        Exiger(écran.lue.Rows() == 0);
+        return;
+    }
+    const auto champs = ChampsDuLexique(écran.lue, écrites);
+    const auto réécrits = ComposerChamps(champs);
+    Exiger(réécrits.has_value());
+    if (!std::all_of(champs.begin(), champs.end(), TientDansUnChamp))
+        return; // a quote may close its value where other cells follow than before
+    Exiger(RangerLexique(*réécrits, écran.relue) == LectureLexique::Faite);
+    Exiger(écran.relue.Rows() == écran.lue.Rows());
+    Exiger(ChampsDuLexique(écran.relue, écrites) == champs);
+    for (int rangée = 0; rangée < écran.lue.Rows(); ++rangée) {
+        if (écrites == Cellules::Toutes)
+            Exiger(écran.relue.TextMatrix(rangée, 0) == écran.lue.TextMatrix(rangée, 0));
+    }
+}
+
 void Essayer(std::string_view octets)
 {
+    for (const auto écrites : {Cellules::SansLesVides, Cellules::JusquAuVide, Cellules::DeuxAuPlus})
+        EssayerLexique(octets, écrites, ColonnesAuDépart);
+    EssayerLexique(octets, Cellules::Toutes, ColonnesDictionnaire);
+
     for (const auto valeurs : {Valeurs::SurPlusieursLignes, Valeurs::SurUneLigne}) {
         const auto champs = DécouperChamps(octets, valeurs);
         if (valeurs == Valeurs::SurUneLigne)

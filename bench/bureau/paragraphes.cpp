@@ -4,24 +4,19 @@
 //
 // Usage: banc-paragraphes [--sans-limite] [paragraphs]
 #include "authoring/frmEnseignant.h"
+#include "bench/bureau/Chronometre.h"
 #include "core/EcrivainRtf.h"
 #include "desktop/Conversions.h"
-#include "desktop/Fenetre.h"
 #include "desktop/PlateformeQt.h"
 #include "desktop/Style.h"
 
-#include <QApplication>
 #include <QKeyEvent>
 #include <QTemporaryDir>
 #include <QTextEdit>
 #include <QTimer>
 
-#include <algorithm>
-#include <cstdio>
 #include <cstdlib>
-#include <ctime>
 #include <fstream>
-#include <functional>
 #include <string_view>
 
 using namespace tirelune;
@@ -49,14 +44,6 @@ TexteRiche TexteLong(int paragraphes)
     return texte;
 }
 
-// Of this thread, in ms.
-double TempsProcesseur()
-{
-    timespec temps{};
-    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &temps);
-    return static_cast<double>(temps.tv_sec) * 1e3 + static_cast<double>(temps.tv_nsec) / 1e6;
-}
-
 class Séance {
 public:
     Séance(frmEnseignant& éditeur, Fenêtre& fenêtre)
@@ -67,60 +54,38 @@ public:
     void Jouer(int paragraphes)
     {
         auto& boîte = éditeur_.rtfTexte;
-        std::printf("%d paragraphs %22s %8s %8s\n", paragraphes, "first", "worst", "goal");
-        Mesurer("open", 1, OuvertureMaximale, [&] { éditeur_.mnuRécent(0).Cliquer(); });
+        Chronomètre::Titrer("paragraphs", paragraphes);
+        chrono_.Mesurer("open", 1, OuvertureMaximale, [&] { éditeur_.mnuRécent(0).Cliquer(); });
         const auto milieu = boîte.Text().find(u"Le petit", boîte.Longueur() / 2);
         const auto fin = boîte.Longueur();
         for (const auto& [nom, place] : {std::pair{"a key at the start", std::size_t{0}},
                                          {"a key in the middle", milieu},
                                          {"a key at the end", fin}}) {
             Placer(place, 0);
-            Mesurer(nom, 20, RéponseMaximale, [&] { Taper(Qt::Key_E, QStringLiteral("e")); });
-            Mesurer("  Enter there", 5, RéponseMaximale, [&] { Taper(Qt::Key_Return, QStringLiteral("\r")); });
-            Mesurer("  Backspace there", 20, RéponseMaximale, [&] { Taper(Qt::Key_Backspace, {}); });
+            chrono_.Mesurer(nom, 20, RéponseMaximale, [&] { Taper(Qt::Key_E, QStringLiteral("e")); });
+            chrono_.Mesurer("  Enter there", 5, RéponseMaximale, [&] { Taper(Qt::Key_Return, QStringLiteral("\r")); });
+            chrono_.Mesurer("  Backspace there", 20, RéponseMaximale, [&] { Taper(Qt::Key_Backspace, {}); });
         }
         Placer(milieu, 8);
         const auto rouge = [&] { boîte.SelColor = boîte.SelColor() == Rouge ? Noir : Rouge; };
-        Mesurer("colour of a word", 5, RéponseMaximale, rouge);
-        Mesurer("centre a paragraph", 1, RéponseMaximale, [&] { éditeur_.tlbBoutons.Cliquer("btnCentrer"); });
-        Mesurer("undo", 1, RéponseMaximale, [&] { éditeur_.tlbBoutons.Cliquer("btnAnnuler"); });
+        chrono_.Mesurer("colour of a word", 5, RéponseMaximale, rouge);
+        chrono_.Mesurer("centre a paragraph", 1, RéponseMaximale, [&] { éditeur_.tlbBoutons.Cliquer("btnCentrer"); });
+        chrono_.Mesurer("undo", 1, RéponseMaximale, [&] { éditeur_.tlbBoutons.Cliquer("btnAnnuler"); });
         for (const auto& [nom, clé] :
              {std::pair{"bold, all", "btnGras"}, {"centre, all", "btnCentrer"}, {"underline, all", "btnSouligné"}}) {
-            Mesurer("select all", 1, RéponseMaximale, [&] { éditeur_.mnuSélectionner.Cliquer(); });
-            Mesurer(nom, 1, RéponseMaximale, [&] { éditeur_.tlbBoutons.Cliquer(clé); });
-            Mesurer("  undo", 1, RéponseMaximale, [&] { éditeur_.tlbBoutons.Cliquer("btnAnnuler"); });
+            chrono_.Mesurer("select all", 1, RéponseMaximale, [&] { éditeur_.mnuSélectionner.Cliquer(); });
+            chrono_.Mesurer(nom, 1, RéponseMaximale, [&] { éditeur_.tlbBoutons.Cliquer(clé); });
+            chrono_.Mesurer("  undo", 1, RéponseMaximale, [&] { éditeur_.tlbBoutons.Cliquer("btnAnnuler"); });
         }
-        Mesurer("size, all", 1, RéponseMaximale, [&] { boîte.SelFontSize = 20; });
-        Mesurer("a page down", 20, RéponseMaximale, [&] { Taper(Qt::Key_PageDown, {}); });
-        Mesurer("a page up", 20, RéponseMaximale, [&] { Taper(Qt::Key_PageUp, {}); });
-        Mesurer("to the end", 1, RéponseMaximale, [&] { Placer(fin, 0); });
+        chrono_.Mesurer("size, all", 1, RéponseMaximale, [&] { boîte.SelFontSize = 20; });
+        chrono_.Mesurer("a page down", 20, RéponseMaximale, [&] { Taper(Qt::Key_PageDown, {}); });
+        chrono_.Mesurer("a page up", 20, RéponseMaximale, [&] { Taper(Qt::Key_PageUp, {}); });
+        chrono_.Mesurer("to the end", 1, RéponseMaximale, [&] { Placer(fin, 0); });
     }
 
-    [[nodiscard]] int Manqués() const { return manqués_; }
+    [[nodiscard]] int Manqués() const { return chrono_.Manqués(); }
 
 private:
-    void Mesurer(const char* nom, int fois, double but, const std::function<void()>& geste)
-    {
-        double premier = 0;
-        double pire = 0;
-        for (int i = 0; i < fois; ++i) {
-            const double départ = TempsProcesseur();
-            geste();
-            fenêtre_.Repeindre();
-            const double durée = TempsProcesseur() - départ;
-            premier = i == 0 ? durée : premier;
-            pire = std::max(pire, durée);
-            Souffler();
-        }
-        const bool manqué = pire > but;
-        manqués_ += manqué ? 1 : 0;
-        std::printf("%-22s %8.1f ms %8.1f %8.0f%s\n", nom, premier, pire, but, manqué ? "  MISSED" : "");
-        std::fflush(stdout);
-    }
-
-    // What the window does by itself between two gestures.
-    static void Souffler() { QApplication::processEvents(QEventLoop::AllEvents, 20); }
-
     void Placer(std::size_t début, std::size_t longueur)
     {
         éditeur_.rtfTexte.Sélectionner(début, longueur);
@@ -137,7 +102,7 @@ private:
     frmEnseignant& éditeur_;
     Fenêtre& fenêtre_;
     QTextEdit& zone_;
-    int manqués_ = 0;
+    Chronomètre chrono_{fenêtre_};
 };
 
 } // namespace
