@@ -3,6 +3,7 @@
 #include "desktop/Conversions.h"
 #include "desktop/Vues.h"
 
+#include <QApplication>
 #include <QContextMenuEvent>
 #include <QLineEdit>
 #include <QMouseEvent>
@@ -42,7 +43,8 @@ private:
         void mousePressEvent(QMouseEvent* événement) override
         {
             pressée_ = événement->button() == Qt::LeftButton;
-            visée_ = cursorPositionAt(événement->position().toPoint());
+            lieu_ = événement->position().toPoint();
+            visée_ = cursorPositionAt(lieu_);
             if (!vue_.boîte_.Locked)
                 QLineEdit::mousePressEvent(événement);
         }
@@ -59,7 +61,11 @@ private:
             if (!verrouillée && !(collage && vue_.boîte_.KeyPress)) // pasting is for its handler to allow, as keys are
                 QLineEdit::mouseReleaseEvent(événement);
             const bool dedans = rect().contains(événement->position().toPoint());
-            if (!clic || !vue_.Agissante() || (verrouillée ? !dedans : hasSelectedText()))
+            // A hand that slips selects a letter without meaning it: where a click does something, it is one.
+            const bool glissé =
+                (événement->position().toPoint() - lieu_).manhattanLength() < QApplication::startDragDistance();
+            const bool choisi = hasSelectedText() && !(glissé && vue_.boîte_.Click);
+            if (!clic || !vue_.Agissante() || (verrouillée ? !dedans : choisi))
                 return;
             // A locked text is clicked like a label: where the button went down, wherever the pointer slips to.
             vue_.boîte_.Cliquer(static_cast<std::size_t>(verrouillée ? visée_ : cursorPosition()));
@@ -81,7 +87,8 @@ private:
 
     private:
         VueChamp& vue_;
-        int visée_ = 0; // where the button went down
+        QPoint lieu_; // where the button went down
+        int visée_ = 0;
         bool pressée_ = false;
     };
 
