@@ -26,7 +26,7 @@ Texte Bulle(const Texte& exemple)
 
 frmDico::frmDico(frmExercices& choix) : Ecran(choix.ApplicationDe(), "frmDico", u"Dictionnaire"), choix_(choix)
 {
-    RépondreParDéfinition();
+    txtDéf.Click([this](int i) { txtDéf_Click(i); });
     cmdSuivant.Click = [this] { cmdSuivant_Click(); };
 }
 
@@ -95,18 +95,10 @@ void frmDico::ToutEffacer()
         txtDéf(i).Visible = false;
         txtDéf(i).Text = Texte{};
         txtDéf(i).BackColor = Blanc;
-        txtDéf(i).FontSize = TailleDéfinition;
         lblMot(i).Visible = false;
         lblMot(i).Caption = Texte{};
         lblMot(i).BackColor = Blanc;
     }
-}
-
-void frmDico::RépondreParDéfinition()
-{
-    txtDéf.Click([this](int i) { txtDéf_Click(i); });
-    for (auto& mot : lblMot)
-        mot.Click = {};
 }
 
 void frmDico::RépondreParMot()

@@ -64,8 +64,8 @@ private:
     void TirerMots();
 
     void ToutEffacer();
-    // What the pupil answers with in this round can be clicked, the rest is there to be read.
-    void RépondreParDéfinition();
+    // From now on the words can be clicked, and the definition is there to be read; up to here it was the other way
+    // round.
     void RépondreParMot();
     void MontrerMot(int i, const Grid& dictionnaire, int ligne);
     void MontrerDéfinition(int i, const Grid& dictionnaire, int ligne);

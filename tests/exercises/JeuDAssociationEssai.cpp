@@ -84,6 +84,8 @@ TEST(JeuDAssociation, MotPrisVaDansLaRangéeChoisieEtQuitteLaListe)
     écran.Prendre(u"gai");
     EXPECT_EQ(écran.lblMot(1).Caption, u"gai");
     EXPECT_TRUE(écran.lblMot(1).AutoSize);
+    EXPECT_EQ(écran.lblMot(1).ForeColor, CouleurAuto);
+    EXPECT_NE(écran.lblMot(0).ForeColor, CouleurAuto) << "une invite est plus pâle qu'un mot";
     EXPECT_EQ(écran.cmb.Eléments(), (std::vector<Texte>{u"âpre", u"gai"}));
     EXPECT_EQ(écran.cmb.Text, u"âpre");
 }
@@ -121,6 +123,7 @@ TEST(JeuDAssociation, ClicSurUneRangéeRemplieRendSonMot)
     EXPECT_EQ(écran.cmb.Eléments(), (std::vector<Texte>{u"âpre", u"gai", u"gai"}));
     écran.Prendre(u"âpre");
     EXPECT_EQ(écran.lblMot(0).Caption, u"âpre");
+    EXPECT_TRUE(écran.lblMot(0).AutoSize) << "prend celle du mot";
 }
 
 TEST(JeuDAssociation, RangéeVideNeRendRien)

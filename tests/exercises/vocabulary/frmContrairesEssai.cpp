@@ -52,6 +52,20 @@ TEST(Contraires, LeMotEnlevéEstToujoursLeRéférent)
     EXPECT_EQ(banc.plateforme.amorces - banc.plateforme.tirages, 10) << "une amorce de plus par rangée";
 }
 
+TEST(Contraires, LaListeDUneRangéeLaChoisitEtRendSonMot)
+{
+    Banc banc;
+    TirerVarié(banc);
+    auto& écran = OuvrirContraires(banc, FichesDeMots(10, 2));
+    écran.txtContraires(2).Cliquer(0);
+    EXPECT_EQ(écran.lblMot(2).BackColor, Jaune);
+    écran.cmbContraires.Choisir(0);
+    EXPECT_EQ(écran.cmbContraires.ListCount(), 9);
+    écran.txtContraires(2).Cliquer(0);
+    EXPECT_EQ(écran.lblMot(2).Caption, u"");
+    EXPECT_EQ(écran.cmbContraires.ListCount(), 10);
+}
+
 TEST(Contraires, DeuxRangéesDeMêmeRéponse)
 {
     FichesEssai fiches;

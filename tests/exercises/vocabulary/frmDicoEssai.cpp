@@ -147,9 +147,11 @@ TEST(Dico, SansDictionnaireDuTexteOuAvecNeufMotsUnSeulMessage)
         AnnoncerTropLimités(banc);
         EXPECT_TRUE(OuvrirDico(banc, {}, DixMots()).notice.Cadre.Visible);
     }
-    Banc banc;
-    AnnoncerTropLimités(banc);
-    EXPECT_TRUE(OuvrirDico(banc, DixMots(), FichesDeMots(9, 3)).notice.Cadre.Visible);
+    for (const int mots : {0, 9}) {
+        Banc banc;
+        AnnoncerTropLimités(banc);
+        EXPECT_TRUE(OuvrirDico(banc, DixMots(), FichesDeMots(mots, 3)).notice.Cadre.Visible);
+    }
 }
 
 TEST(Dico, FerméPendantUnMessage)
@@ -290,6 +292,56 @@ TEST(Dico, CeQuiEstDemandéNeRépondPas)
     EXPECT_FALSE(écran.cmdSuivant.Enabled);
 }
 
+// The right answer, shown in yellow, may stand where the other rounds have their question.
+TEST(Dico, CeQuiEstDemandéNeRépondPasNonPlusAprèsUneErreur)
+{
+    Banc banc;
+    TirerVarié(banc);
+    banc.Hasards({0.45});
+    auto& écran = OuvrirDico(banc, {{u"chat", u"animal"}}, DixMots());
+    écran.txtDéf(0).Cliquer(0);
+    ASSERT_EQ(écran.txtDéf(4).BackColor, Jaune);
+    écran.lblMot(4).Cliquer();
+    EXPECT_EQ(écran.lblMot(4).BackColor, Jaune);
+    EXPECT_EQ(écran.lblPoints(1).Caption, u"1");
+
+    banc.Hasards({0.45});
+    écran.cmdSuivant.Cliquer();
+    écran.lblMot(0).Cliquer();
+    ASSERT_EQ(écran.lblMot(4).BackColor, Jaune);
+    écran.txtDéf(4).Cliquer(0);
+    EXPECT_EQ(écran.txtDéf(4).BackColor, Jaune);
+    EXPECT_EQ(écran.lblPoints(0).Caption, u"0");
+    EXPECT_EQ(écran.lblPoints(1).Caption, u"2");
+}
+
+TEST(Dico, UnBonMotEstVert)
+{
+    Banc banc;
+    TirerVarié(banc);
+    const FichesEssai texte{{u"chat", u"animal"}};
+    auto& écran = OuvrirDico(banc, texte, DixMots());
+    JouerJuste(écran, texte, 0);
+    MotMontré(écran, u"chat").Cliquer();
+    EXPECT_EQ(MotMontré(écran, u"chat").BackColor, Vert);
+    EXPECT_EQ(écran.lblPoints(0).Caption, u"2");
+}
+
+TEST(Dico, UneNouvellePartieReprendAuPremierMot)
+{
+    Banc banc;
+    TirerVarié(banc);
+    const FichesEssai texte{{u"zèbre", u"rayé"}, {u"âne", u"gris"}};
+    banc.état.MotDicoFini = true; // of a game before
+    banc.état.IndexMotDico = 1;
+    auto& écran = OuvrirDico(banc, texte, DixMots());
+    EXPECT_EQ(écran.lblMot(4).Caption, u"zèbre");
+    EXPECT_FALSE(banc.état.MotDicoFini);
+    JouerJuste(écran, texte, 0);
+    EXPECT_EQ(écran.lblMot(4).Caption, u"âne");
+    EXPECT_EQ(écran.lblConsigne.Caption, u"Quelle est la définition correspondant à ce mot ?");
+}
+
 TEST(Dico, UnMotSansDéfinitionNAPasDeBonneRéponse)
 {
     Banc banc;
@@ -306,25 +358,25 @@ TEST(Dico, UnMotSansDéfinitionNAPasDeBonneRéponse)
 
 TEST(Dico, DeuxMotsDeMêmeDéfinitionLePremierEstJuste)
 {
-    Banc banc;
-    TirerVarié(banc);
-    auto général = DixMots();
-    général[0][0] = u"auto"; // may stand among the ten
     const FichesEssai texte{{u"auto", u"véhicule"}, {u"voiture", u"véhicule"}};
-    auto& écran = OuvrirDico(banc, texte, général);
-    for (const int rang : {0, 1, 2})
-        JouerJuste(écran, texte, rang);
-    const bool montré = [&] {
+    for (const bool montré : {true, false}) {
+        auto général = DixMots();
+        if (montré)
+            général[0][0] = général[1][0] = u"auto"; // nine different words: all of them come
+        Banc banc;
+        TirerVarié(banc);
+        auto& écran = OuvrirDico(banc, texte, général);
+        for (const int rang : {0, 1, 2})
+            JouerJuste(écran, texte, rang);
+        MotMontré(écran, u"voiture").Cliquer();
         for (const auto& un : écran.lblMot) {
-            if (un.Caption == u"auto")
-                return true;
+            const auto couleur = un.Caption == u"auto" ? Jaune : Blanc;
+            EXPECT_EQ(un.BackColor, un.Caption == u"voiture" ? Rouge : couleur);
         }
-        return false;
-    }();
-    MotMontré(écran, u"voiture").Cliquer();
-    EXPECT_EQ(MotMontré(écran, u"voiture").BackColor, Rouge);
-    if (montré) {
-        EXPECT_EQ(MotMontré(écran, u"auto").BackColor, Jaune);
+        EXPECT_EQ(écran.lblPoints(0).Caption, u"3");
+        if (montré) {
+            EXPECT_EQ(MotMontré(écran, u"auto").BackColor, Jaune);
+        }
     }
 }
 
@@ -361,11 +413,11 @@ TEST(Dico, MoinsDeDixDéfinitionsOuMotsDifférentsLaissentDesPlacesVides)
     for (const auto& une : écran.txtDéf)
         montrées += une.Visible ? 1 : 0;
     EXPECT_EQ(montrées, 3);
-    JouerJuste(écran, texte, 0);
-    int montrés = 0;
-    for (const auto& un : écran.lblMot)
-        montrés += un.Visible ? 1 : 0;
-    EXPECT_EQ(montrés, 4);
+    Définition(écran, u"définition0").Cliquer(0);
+    banc.Hasards({0.0});
+    écran.cmdSuivant.Cliquer();
+    for (int i = 0; i < 10; ++i)
+        EXPECT_EQ(écran.lblMot(i).Visible, i < 4) << "celui qui était demandé ne reste pas";
     JouerJuste(écran, texte, 1);
     EXPECT_EQ(banc.Note(IndexDico), u"10");
 }

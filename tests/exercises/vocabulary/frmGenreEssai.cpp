@@ -73,6 +73,11 @@ TEST(Genre, LesDeuxÉtiquettesDUneRangéeLaChoisissent)
     écran.lblFéminin(5).Cliquer();
     EXPECT_EQ(écran.lblFéminin(2).BackColor, Blanc);
     EXPECT_EQ(écran.lblMasculin(5).BackColor, Jaune);
+    écran.cmbGenre.Choisir(0);
+    EXPECT_NE(écran.lblFéminin(5).Caption, u"");
+    écran.lblMasculin(5).Cliquer(); // hands it back
+    EXPECT_EQ(écran.lblFéminin(5).Caption, u"");
+    EXPECT_EQ(écran.cmbGenre.ListCount(), 10);
 }
 
 TEST(Genre, ToutJusteDonneDix)

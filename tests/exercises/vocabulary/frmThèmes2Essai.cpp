@@ -244,6 +244,19 @@ TEST(Thèmes2, UnMotDuThèmeVautPourSonSousThème)
     EXPECT_EQ(écran.lblPoints(0).Caption, u"1");
 }
 
+TEST(Thèmes2, UnMotDuSousThèmeEstJuste)
+{
+    auto fiches = Familles(10, 5);
+    fiches[0] = {u"animaux", u"de la mer", u"le crabe", u"la seiche"};
+    Banc banc;
+    TirerDansLOrdre(banc, fiches);
+    auto& écran = OuvrirThèmes2(banc, fiches);
+    ToutRépondre(écran.lblRéponse, écran.lblCorrigé, écran.cmbThèmes);
+    écran.cmdQuitter.Cliquer();
+    EXPECT_EQ(écran.lblRéponse(0).BackColor, Vert);
+    EXPECT_EQ(écran.lblPoints(0).Caption, u"10");
+}
+
 TEST(Thèmes2, UnClicSurLesMotsChoisitSansRendre)
 {
     Banc banc;
