@@ -171,10 +171,12 @@ bool frmTrouveMoi::ChoisirMot()
 
 void frmTrouveMoi::Horloge_Tick()
 {
-    if (lblTemps.Caption != u"0")
+    if (lblTemps.Caption != u"0") {
         Incrémenter(lblTemps, -1);
-    else
-        JugerRéponse();
+        return;
+    }
+    rtfRéponse.Sélectionner(0, 0); // where keys have led is no answer
+    JugerRéponse();
 }
 
 void frmTrouveMoi::rtfRéponse_Click()

@@ -389,6 +389,18 @@ TEST(TrouveMoi, FinDuTempsCompteCommeUneErreur)
     EXPECT_EQ(écran.lblPoints(1).Caption, u"2");
 }
 
+TEST(TrouveMoi, UnCurseurSurLeMotSansClicNEstPasUneRéponse)
+{
+    Banc banc;
+    auto& écran = OuvrirTrouveMoi(banc, {TirageVers(u"petit")});
+    écran.rtfRéponse.Sélectionner(PlaceDuMot(écran), 5);
+    banc.Avancer(30s);
+    EXPECT_EQ(écran.lblPoints(0).Caption, u"0");
+    EXPECT_EQ(écran.lblPoints(1).Caption, u"1");
+    for (std::size_t p = 0; p < TexteÀFouiller.size(); ++p)
+        EXPECT_FALSE(écran.rtfRéponse.TextRTF().FormatEn(p).Barré);
+}
+
 TEST(TrouveMoi, AprèsUnJugementLeTempsNeCourtPlus)
 {
     Banc banc;
