@@ -19,7 +19,7 @@ public:
                               u"pouvoir le relire.\r\n",
                    .FontSize = 18,
                    .MultiLine = true}};
-    Button cmdCommencer{*this, "cmdCommencer", {.Caption = u"Afficher le texte", .FontSize = 16}};
+    Button cmdCommencer{*this, "cmdCommencer", {.Caption = u"Afficher le texte"}};
 
     RichTextBox rtfTexte{*this, "rtfTexte", {.Visible = false}};
     Button cmdOk{

@@ -45,7 +45,7 @@ public:
                      .SensDesCouleurs = Sens::Rien}};
     Label lblChronoRéf{*this, "lblChronoRéf", {.Caption = u"30", .Visible = false}}; // seconds for the next list
     Timer Chrono{*this, "Chrono", 1000};                                             // ms
-    Button cmdQuitter{*this, "cmdQuitter", {.Caption = u"&Suivant", .Visible = false, .FontSize = 16}};
+    Button cmdQuitter{*this, "cmdQuitter", {.Caption = u"&Suivant", .Visible = false}};
 
     Notice notice{*this, PasAssezDeVocabulaire};
 

@@ -15,7 +15,7 @@ public:
     Image Image1{*this, "Image1", {.ToolTipText = u" Regarde bien l'endroit indiqué par la flèche. "}};
     Label lblMot{
         *this, "lblMot", {.BackColor = Blanc, .ForeColor = Blanc, .FontSize = 28, .Centré = true, .Bordure = true}};
-    Button cmdAfficher{*this, "cmdAfficher", {.Caption = u"&Afficher le mot  dans le cadre blanc", .FontSize = 16}};
+    Button cmdAfficher{*this, "cmdAfficher", {.Caption = u"&Afficher le mot  dans le cadre blanc"}};
     Label Label3{*this, "Label3", {.Caption = u"Clique sur le mot que tu as vu.", .FontSize = 14, .Gras = true}};
     Tableau<Label> lblRéponse{
         *this, "lblRéponse", 10, {.Visible = false, .BackColor = Blanc, .ForeColor = Noir, .FontSize = 18}};
@@ -29,7 +29,7 @@ public:
                       .Centré = true}};
     Timer Chrono{*this, "Chrono", 100}; // exposure, ms
     Tableau<Label> lblPoints{*this, "lblPoints", EtatsDesPoints()};
-    Button cmdQuitter{*this, "cmdQuitter", {.Caption = u"&Quitter", .Visible = false, .FontSize = 16}};
+    Button cmdQuitter{*this, "cmdQuitter", {.Caption = u"&Quitter", .Visible = false}};
 
     Notice notice{*this, PasAssezDeVocabulaire};
 

@@ -17,7 +17,7 @@ public:
         *this,
         "lblConsigne",
         {.Caption = u"Le texte va apparaître progressivement. Essaie de me suivre !", .FontSize = 18, .Centré = true}};
-    Button cmdCommencer{*this, "cmdCommencer", {.Caption = u"&Commencer", .FontSize = 16}};
+    Button cmdCommencer{*this, "cmdCommencer", {.Caption = u"&Commencer"}};
 
     RichTextBox rtfPoursuite{*this, "rtfPoursuite", {.Visible = false, .BackColor = Blanc}};
     Timer Horloge{*this, "Horloge", 100};   // letters, ms
@@ -28,7 +28,7 @@ public:
         *this, "Label1", {.Caption = u"Clique sur le dernier mot qui est apparu.", .FontSize = 16, .Gras = true}};
     Tableau<Label> lblMot{*this, "lblMot", 10, {.BackColor = Blanc, .ForeColor = Bleu, .FontSize = 18}};
     Tableau<Label> lblPoints{*this, "lblPoints", EtatsDesPoints()};
-    Button cmdContinuer{*this, "cmdContinuer", {.Caption = u"&Continuer", .Visible = false, .FontSize = 16}};
+    Button cmdContinuer{*this, "cmdContinuer", {.Caption = u"&Continuer", .Visible = false}};
 
     Label lblPassage{*this, "lblPassage", {.Visible = false}}; // the last word that TirerMotTexte got
     Label lblCorrigé{*this, "lblCorrigé", {.Visible = false}}; // the right word

@@ -24,13 +24,13 @@ public:
                       {.Caption = u" Clique sur les mots dans l'ordre dans lequel ils sont apparus. ",
                        .Visible = false,
                        .FontSize = 14}};
-    Button cmdVoir{*this, "cmdVoir", {.Caption = u"&Voir", .FontSize = 16}};
+    Button cmdVoir{*this, "cmdVoir", {.Caption = u"&Voir"}};
     Frame frameChoix{*this, "frameChoix", u"Clique sur ces mots"};
     Tableau<Label> lblChoix{
         *this, "lblChoix", 10, {.Visible = false, .BackColor = Blanc, .ForeColor = Bleu, .FontSize = TailleMots}};
     Label lblCompteur{*this, "lblCompteur", {.Caption = u"0", .Visible = false}};
     Tableau<Label> lblPoints{*this, "lblPoints", EtatsDesPoints()};
-    Button cmdContinuer{*this, "cmdContinuer", {.Caption = u"Série suivante", .Visible = false, .FontSize = 16}};
+    Button cmdContinuer{*this, "cmdContinuer", {.Caption = u"Série suivante", .Visible = false}};
 
     Notice notice{*this, PasAssezDeVocabulaire};
 

@@ -21,7 +21,7 @@ public:
     Tableau<Label> lblPoints{*this, "lblPoints", EtatsDesPoints()};
     Tableau<Label> lblLigne{*this, "lblLigne", 10, EtatDePièce(16)};
     Label lblVerdict{*this, "lblVerdict", EtatDuVerdict()};
-    Button cmdQuitter{*this, "cmdQuitter", {.Caption = u"J'ai &fini", .FontSize = 16}};
+    Button cmdQuitter{*this, "cmdQuitter", {.Caption = u"J'ai &fini"}};
 
     Notice notice{
         *this,

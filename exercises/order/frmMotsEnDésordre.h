@@ -40,8 +40,8 @@ public:
     Label lblPlace{*this, "lblPlace", {.ForeColor = VertFoncé, .FontSize = 14}}; // what the next click works on
     Frame frameAide{*this, "frameAide", {.Visible = false, .BackColor = BleuClair}};
     TextBox txtAide{*this, "txtAide", {.Libellé = u"Aide", .FontSize = 16, .MultiLine = true}};
-    Button cmdTerminé{*this, "cmdTerminé", {.Caption = u"J'ai &fini", .FontSize = 16}};
-    Button cmdSuivant{*this, "cmdSuivant", {.Caption = u"&Suivant", .Visible = false, .FontSize = 16}};
+    Button cmdTerminé{*this, "cmdTerminé", {.Caption = u"J'ai &fini"}};
+    Button cmdSuivant{*this, "cmdSuivant", {.Caption = u"&Suivant", .Visible = false}};
 
     Notice notice{*this, PhrasesMalTaillées};
 

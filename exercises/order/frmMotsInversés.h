@@ -23,25 +23,21 @@ public:
     Label lblEssais{*this, "lblEssais", {.Caption = u"2", .ForeColor = Rouge, .FontSize = 14, .Gras = true}};
     Label Label4{*this, "Label4", {.Caption = u" / ", .FontSize = 14}};
     Label lblEssaisMax{*this, "lblEssaisMax", {.Caption = u"2", .FontSize = 14, .Gras = true}};
-    Button cmdTerminé{*this, "cmdTerminé", {.Caption = u"&J'ai fini", .Visible = false, .FontSize = 16}};
+    Button cmdTerminé{*this, "cmdTerminé", {.Caption = u"&J'ai fini", .Visible = false}};
     Button cmdOk{*this,
                  "cmdOk",
                  {.Caption = u"&Ok",
                   .Visible = false,
-                  .ToolTipText = u" Clique sur ce bouton si la phrase te semble correcte. ",
-                  .FontSize = 16}};
-    Button cmdAnnuler{*this,
-                      "cmdAnnuler",
-                      {.Caption = u"&Annuler",
-                       .Visible = false,
-                       .ToolTipText = u" Clique sur ce bouton pour annuler. ",
-                       .FontSize = 16}};
+                  .ToolTipText = u" Clique sur ce bouton si la phrase te semble correcte. "}};
+    Button cmdAnnuler{
+        *this,
+        "cmdAnnuler",
+        {.Caption = u"&Annuler", .Visible = false, .ToolTipText = u" Clique sur ce bouton pour annuler. "}};
     Button cmdSuivant{*this,
                       "cmdSuivant",
                       {.Caption = u"&Suivant",
                        .Visible = false,
-                       .ToolTipText = u" Clique sur ce bouton si la phrase te semble correcte. ",
-                       .FontSize = 16}};
+                       .ToolTipText = u" Clique sur ce bouton si la phrase te semble correcte. "}};
 
     Notice notice{*this, PhrasesMalTaillées};
 

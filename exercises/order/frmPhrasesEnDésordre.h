@@ -21,7 +21,7 @@ public:
     Tableau<Label> lblPoints{*this, "lblPoints", EtatsDesPoints()};
     Tableau<Label> lblPhrase{*this, "lblPhrase", 6, EtatDePièce(18)};
     Label lblVerdict{*this, "lblVerdict", EtatDuVerdict()};
-    Button cmdQuitter{*this, "cmdQuitter", {.Caption = u"J'ai &fini", .FontSize = 16}};
+    Button cmdQuitter{*this, "cmdQuitter", {.Caption = u"J'ai &fini"}};
 
     Notice notice{*this,
                   {u"Pas assez de phrases dans le texte",

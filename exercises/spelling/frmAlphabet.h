@@ -31,7 +31,7 @@ public:
          .FontSize = 14,
          .Police = u"Comic Sans MS",
          .UneLigne = true}};
-    Button cmdQuitter{*this, "cmdQuitter", {.Caption = u"J'ai &fini", .FontSize = 16}};
+    Button cmdQuitter{*this, "cmdQuitter", {.Caption = u"J'ai &fini"}};
 
     ComboBox cmbMots{*this, "cmbMots", {.Visible = false}};
     Label lblPassage{*this, "lblPassage", {.Visible = false}}; // the word that has been picked up

@@ -36,7 +36,7 @@ public:
                       .Gras = true,
                       .Centré = true,
                       .SensDesCouleurs = Sens::Rien}};
-    Button cmdCommencer{*this, "cmdCommencer", {.Caption = u"&Commencer", .FontSize = 16}};
+    Button cmdCommencer{*this, "cmdCommencer", {.Caption = u"&Commencer"}};
 
     Notice notice{
         *this, {u"Pas de mot sélectionné", u"Il doit y avoir au moins 1 mot pour lancer l'exercice. ", u"&Abandonner"}};

@@ -34,7 +34,7 @@ public:
                                 .FontSize = 20}};
     Tableau<Label> lblMot{
         *this, "lblMot", RangéesMaximum, {.Visible = false, .BackColor = Blanc, .FontSize = 20, .Gras = true}};
-    Button cmdQuitter{*this, "cmdQuitter", {.Caption = u"J'ai &fini", .FontSize = 16}};
+    Button cmdQuitter{*this, "cmdQuitter", {.Caption = u"J'ai &fini"}};
 
     Notice notice{*this, {u"Pas assez de mots de plus de 5 lettres", u"L'exercice est terminé.", u"&Abandonner"}};
 

@@ -28,8 +28,7 @@ public:
                       "cmdSuivant",
                       {.Caption = u"&Suivant",
                        .Visible = false,
-                       .ToolTipText = u" Clique sur ce bouton si la phrase te semble correcte. ",
-                       .FontSize = 16}};
+                       .ToolTipText = u" Clique sur ce bouton si la phrase te semble correcte. "}};
     ComboBox cmbMots{*this, "cmbMots", {.Visible = false}}; // words still to come
     Label lblRéf{*this, "lblRéf", {.Visible = false}};      // the word in play
 
