@@ -119,13 +119,13 @@ void RognerLesLignes(TexteAPlat& texte, VueTexte blanc, VueTexte retour)
 
 // ---- The rows ----------------------------------------------------------------------------------------------------
 
-struct Rangée {
+struct Retouche {
     void (*Forme)(TexteAPlat& texte, VueTexte cherché, VueTexte remplacement);
     VueTexte Cherché;
     VueTexte Remplacement;
 };
 
-constexpr Rangée Rangées[] = {
+constexpr Retouche Retouches[] = {
     {RemplacerEnAvançant, u"\u00A0", u" "},
     {RemplacerPartout, u"  ", u" "},
     {RemplacerPartout, u" .", u"."},
@@ -212,8 +212,8 @@ void Aplatir(const TexteRiche& texte, std::size_t début, std::size_t fin, Plage
 
 void Corriger(TexteAPlat& texte, Plages<Format>& formats)
 {
-    for (const auto& rangée : Rangées)
-        rangée.Forme(texte, rangée.Cherché, rangée.Remplacement);
+    for (const auto& retouche : Retouches)
+        retouche.Forme(texte, retouche.Cherché, retouche.Remplacement);
     SupprimerTabulations(texte);
     InsérerTabulations(texte);
     NettoyerTabulations(texte, formats);

@@ -95,7 +95,7 @@ const std::map<std::string_view, Tracé>& Tracés()
         {"btnEnregistrer",
          [] {
              return AuTrait({Contour({{5, 5}, {34, 5}, {43, 14}, {43, 43}, {5, 43}}),
-                             Trait({{14, 5}, {14, 16}, {31, 16}, {31, 5}}), Boîte(13, 26, 22, 17, 1)});
+                             Trait({{14, 5}, {14, 16}, {31, 16}, {31, 5}}), Boîtier(13, 26, 22, 17, 1)});
          }},
         {"btnSélectionner",
          [] {
@@ -110,11 +110,11 @@ const std::map<std::string_view, Tracé>& Tracés()
          }},
         {"btnCopier",
          [] {
-             return AuTrait({Boîte(16, 14, 26, 30, 4), Trait({{10, 34}, {6, 34}, {6, 4}, {32, 4}, {32, 7}})});
+             return AuTrait({Boîtier(16, 14, 26, 30, 4), Trait({{10, 34}, {6, 34}, {6, 4}, {32, 4}, {32, 7}})});
          }},
         {"btnColler",
          [] {
-             return AuTrait({Trait({{16, 8}, {8, 8}, {8, 44}, {40, 44}, {40, 8}, {32, 8}}), Boîte(16, 4, 16, 9, 3),
+             return AuTrait({Trait({{16, 8}, {8, 8}, {8, 44}, {40, 44}, {40, 8}, {32, 8}}), Boîtier(16, 4, 16, 9, 3),
                              Trait({{16, 24}, {32, 24}}), Trait({{16, 34}, {32, 34}})});
          }},
         {"btnAnnuler",
@@ -139,7 +139,7 @@ const std::map<std::string_view, Tracé>& Tracés()
          }},
         {"btnRemplacer",
          [] {
-             return AuTrait({Boîte(4, 6, 16, 13), Boîte(28, 29, 16, 13), Trait({{27, 12}, {36, 12}, {36, 22}}),
+             return AuTrait({Boîtier(4, 6, 16, 13), Boîtier(28, 29, 16, 13), Trait({{27, 12}, {36, 12}, {36, 22}}),
                              Trait({{30, 16.5}, {36, 22.5}, {42, 16.5}}), Trait({{21, 36}, {12, 36}, {12, 26}}),
                              Trait({{6, 31.5}, {12, 25.5}, {18, 31.5}})});
          }},
@@ -147,7 +147,7 @@ const std::map<std::string_view, Tracé>& Tracés()
          [] {
              return AuTrait({Trait({{13, 16}, {13, 4}, {35, 4}, {35, 16}}),
                              Trait({{13, 34}, {4, 34}, {4, 16}, {44, 16}, {44, 34}, {35, 34}}),
-                             Boîte(13, 27, 22, 17, 1), Pastille(37, 22, 2)});
+                             Boîtier(13, 27, 22, 17, 1), Pastille(37, 22, 2)});
          }},
         {"btnQuestion", [] { return EnAvant(Pictogramme(Questionnaire, Encre)); }},
         {"btnLexique", [] { return EnAvant(Pictogramme(Dictionnaire, Encre)); }},

@@ -17,7 +17,7 @@ void Joindre(std::vector<Point>& points, const std::vector<Point>& suite)
     points.insert(points.end(), suite.begin(), suite.end());
 }
 
-std::vector<Point> PointsBoîte(double x, double y, double largeur, double hauteur, double coin)
+std::vector<Point> PointsBoîtier(double x, double y, double largeur, double hauteur, double coin)
 {
     const double droite = x + largeur;
     const double bas = y + hauteur;
@@ -77,9 +77,9 @@ Forme Arc(double x, double y, double rayon, double début, double fin)
     return Trait(PointsArc(x, y, rayon, début, fin));
 }
 
-Forme Boîte(double x, double y, double largeur, double hauteur, double coin)
+Forme Boîtier(double x, double y, double largeur, double hauteur, double coin)
 {
-    return Contour(PointsBoîte(x, y, largeur, hauteur, coin));
+    return Contour(PointsBoîtier(x, y, largeur, hauteur, coin));
 }
 
 Forme Pastille(double x, double y, double rayon)
@@ -90,7 +90,7 @@ Forme Pastille(double x, double y, double rayon)
 Forme Pavé(double x, double y, double largeur, double hauteur)
 {
     static constexpr double Coin = 1.5;
-    return Pleine(GenreForme::Polygone, PointsBoîte(x, y, largeur, hauteur, Coin));
+    return Pleine(GenreForme::Polygone, PointsBoîtier(x, y, largeur, hauteur, Coin));
 }
 
 Dessin Dessiner(std::vector<Forme> formes, Couleur teinte)

@@ -15,7 +15,7 @@ Forme Contour(std::vector<Point> points); // closed
 Forme Cercle(double x, double y, double rayon);
 // In degrees, clockwise from the right.
 Forme Arc(double x, double y, double rayon, double début, double fin);
-Forme Boîte(double x, double y, double largeur, double hauteur, double coin = 3);
+Forme Boîtier(double x, double y, double largeur, double hauteur, double coin = 3);
 // What is filled rather than outlined.
 Forme Pastille(double x, double y, double rayon = 2.6);
 Forme Pavé(double x, double y, double largeur, double hauteur);

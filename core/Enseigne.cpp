@@ -59,7 +59,7 @@ Dessin Enseigne()
 Dessin IcôneDuProgramme()
 {
     auto icône = Enseigne();
-    auto fond = Crayon::Boîte(0, 0, Côté, Côté, 13);
+    auto fond = Crayon::Boîtier(0, 0, Côté, Côté, 13);
     fond.Trait = CouleurAuto;
     fond.Fond = Nuit;
     icône.Formes.insert(icône.Formes.begin(), std::move(fond));

@@ -10,8 +10,6 @@ namespace tirelune {
 
 namespace {
 
-constexpr VueTexte Extension = u".bil";
-
 // A save takes less. Clocks of two machines may differ: a file from a little later is as young.
 constexpr std::chrono::seconds AgeDUnEnregistrement{10};
 
@@ -38,17 +36,17 @@ bool FinitUneFiche(const std::vector<Texte>& champs)
 
 Texte FichierBilan(VueTexte dossier, VueTexte nomElève)
 {
-    return Joindre(dossier, NomRéel(dossier, Texte{nomElève}.append(Extension)));
+    return Joindre(dossier, NomRéel(dossier, Texte{nomElève}.append(ExtensionBilan)));
 }
 
 bool EstFichierBilan(VueTexte nom)
 {
-    return nom.size() > Extension.size() && Minuscules(nom).ends_with(Extension);
+    return nom.size() > ExtensionBilan.size() && Minuscules(nom).ends_with(ExtensionBilan);
 }
 
 VueTexte RacineBilan(VueTexte nom)
 {
-    return nom.substr(0, nom.size() - Extension.size());
+    return nom.substr(0, nom.size() - ExtensionBilan.size());
 }
 
 LectureBilan LireBilan(Plateforme& plateforme, const Texte& fichier)

@@ -10,6 +10,8 @@ namespace tirelune {
 
 class Plateforme;
 
+inline constexpr VueTexte ExtensionBilan = u".bil";
+
 // Path of the pupil's file in a folder, with the case that its extension has there.
 Texte FichierBilan(VueTexte dossier, VueTexte nomElève);
 

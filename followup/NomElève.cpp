@@ -1,5 +1,7 @@
 #include "followup/NomElève.h"
 
+#include "followup/FichierBilan.h"
+
 #include <algorithm>
 #include <array>
 
@@ -7,7 +9,6 @@ namespace tirelune {
 
 namespace {
 
-constexpr VueTexte Extension = u".bil";
 constexpr std::size_t OctetsMaximum = 255; // of a file name, on the usual file systems
 constexpr VueTexte Interdits = u"/\\<>:\"|?*";
 
@@ -50,7 +51,7 @@ std::optional<Texte> RefusDuNom(VueTexte nom)
         return u"il contient une moitié de caractère, qu'un nom de fichier ne peut pas contenir.";
     if (EstRéservé(nom))
         return u"les dossiers partagés le réservent à un appareil.";
-    if (EnUtf8(Texte{nom}.append(Extension)).size() > OctetsMaximum)
+    if (EnUtf8(Texte{nom}.append(ExtensionBilan)).size() > OctetsMaximum)
         return u"il est trop long pour un nom de fichier.";
     return std::nullopt;
 }

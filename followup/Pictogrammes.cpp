@@ -16,7 +16,7 @@ using Formes = std::vector<Forme>;
 
 Forme Feuille()
 {
-    return Boîte(8, 4, 32, 40, 5);
+    return Boîtier(8, 4, 32, 40, 5);
 }
 
 Forme Chemise() // a folder, for what belongs to one theme
@@ -38,8 +38,8 @@ const std::array<Formes, NombreExercices>& Tracés()
         Formes{Trait({{6, 11}, {19, 11}}), Pavé(25, 7, 19, 8), Pavé(4, 20, 19, 8), Trait({{29, 24}, {42, 24}}),
                Trait({{6, 37}, {12, 37}}), Pavé(18, 33, 14, 8), Trait({{38, 37}, {42, 37}})},
         // Closures: a word is missing on its line
-        Formes{Trait({{6, 8}, {42, 8}}), Trait({{5, 24}, {8, 24}}), Boîte(15, 17, 18, 14), Trait({{40, 24}, {43, 24}}),
-               Trait({{6, 40}, {42, 40}})},
+        Formes{Trait({{6, 8}, {42, 8}}), Trait({{5, 24}, {8, 24}}), Boîtier(15, 17, 18, 14),
+               Trait({{40, 24}, {43, 24}}), Trait({{6, 40}, {42, 40}})},
         // ---- Vocabulaire
         // Texte à trous: a gap, and the pencil that fills it
         Formes{Trait({{6, 8}, {42, 8}}), Trait({{6, 20}, {13, 20}}), Trait({{6, 32}, {13, 32}}),
@@ -62,7 +62,7 @@ const std::array<Formes, NombreExercices>& Tracés()
         Formes{Chemise(), Trait({{16, 28}, {32, 28}}), Trait({{24, 20.5}, {24, 35.5}})},
         // ---- Mémoire / Rapidité / Discrimination
         // Photographier: a camera
-        Formes{Boîte(4, 13, 40, 28, 5), Cercle(24, 27, 8), Trait({{15, 13}, {19, 7}, {29, 7}, {33, 13}}),
+        Formes{Boîtier(4, 13, 40, 28, 5), Cercle(24, 27, 8), Trait({{15, 13}, {19, 7}, {29, 7}, {33, 13}}),
                Pastille(37.5, 19.5, 2.2)},
         // Mémoriser la série: what comes after what
         Formes{Trait({{5, 13}, {10, 8}, {10, 27}}), Arc(22.5, 13.5, 5.5, 180, 395),
@@ -81,13 +81,13 @@ const std::array<Formes, NombreExercices>& Tracés()
                Trait({{14, 24}, {21, 24}})},
         // L'absent: two lists, one with a hole
         Formes{Trait({{5, 9}, {18, 9}}), Trait({{5, 24}, {18, 24}}), Trait({{5, 39}, {18, 39}}),
-               Trait({{29, 9}, {43, 9}}), Boîte(27, 18, 17, 12), Trait({{29, 39}, {43, 39}})},
+               Trait({{29, 9}, {43, 9}}), Boîtier(27, 18, 17, 12), Trait({{29, 39}, {43, 39}})},
         // ---- Ordre (cohérence)
         // Mots en désordre: labels pell-mell
         Formes{Contour({{4, 9}, {18, 4}, {21, 14}, {7, 19}}), Contour({{30, 10}, {44, 14}, {41, 25}, {27, 21}}),
                Contour({{8, 31}, {26, 28}, {28, 40}, {10, 43}})},
         // Mots inversés: two words change places
-        Formes{Boîte(4, 18, 16, 12), Boîte(28, 18, 16, 12), Arc(24, 18, 13.4, 207, 333),
+        Formes{Boîtier(4, 18, 16, 12), Boîtier(28, 18, 16, 12), Arc(24, 18, 13.4, 207, 333),
                Trait({{36, 4}, {36, 12}, {28, 12}}), Arc(24, 30, 13.4, 27, 153), Trait({{12, 44}, {12, 36}, {20, 36}})},
         // Lignes en désordre: lines that go up and down
         Formes{Trait({{5, 9}, {25, 9}}), Trait({{5, 24}, {18, 24}}), Trait({{5, 39}, {25, 39}}),
@@ -122,7 +122,7 @@ const std::array<Formes, NombreExercices>& Tracés()
         Formes{Trait({{5, 9}, {42, 9}}), Trait({{5, 22}, {23, 22}}), Trait({{5, 35}, {12, 35}}),
                Trait({{20, 33}, {29, 41}, {43, 22}})},
         // Ecrire une phrase: a keyboard
-        Formes{Boîte(3, 9, 42, 30, 5), Pastille(12, 18), Pastille(20, 18), Pastille(28, 18), Pastille(36, 18),
+        Formes{Boîtier(3, 9, 42, 30, 5), Pastille(12, 18), Pastille(20, 18), Pastille(28, 18), Pastille(36, 18),
                Pastille(12, 25), Pastille(20, 25), Pastille(28, 25), Pastille(36, 25), Trait({{16, 32}, {32, 32}})},
         // Ordre alphabétique: from A to Z
         Formes{Trait({{6, 21}, {12.5, 4}, {19, 21}}), Trait({{9, 15}, {16, 15}}),

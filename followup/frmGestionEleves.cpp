@@ -198,7 +198,7 @@ void frmGestionEleves::txtNom_Enter()
 bool frmGestionEleves::ExisteDéjà(const Texte& nom)
 {
     Relister(cmbNoms.ListIndex >= 0 ? cmbNoms.List(cmbNoms.ListIndex) : Texte{}); // others may have made files
-    const auto cherché = Minuscules(nom + u".bil");
+    const auto cherché = Minuscules(Texte{nom}.append(ExtensionBilan));
     for (int i = 0; i < listeBil.ListCount(); ++i) {
         if (Minuscules(listeBil.List(i)) == cherché)
             return true;

@@ -13,7 +13,7 @@ VueTexte Mot(VueTexte texte, std::size_t place)
     return MotAutour(texte, place, Lettres).Dans(texte);
 }
 
-VueTexte Morceau(VueTexte texte, std::size_t place)
+VueTexte MorceauEn(VueTexte texte, std::size_t place)
 {
     return MorceauAutour(texte, place, u" |").Dans(texte);
 }
@@ -58,19 +58,19 @@ TEST(Passages, SansLettresPasDeMot)
 
 TEST(Passages, MorceauVaDUnSéparateurAuSuivant)
 {
-    EXPECT_EQ(Morceau(u"un|l'été deux", 5), u"l'été");
-    EXPECT_EQ(Morceau(u"un|l'été deux", 0), u"un");
-    EXPECT_EQ(Morceau(u"un|l'été deux", 12), u"deux");
-    EXPECT_EQ(Morceau(u"un|l'été deux", 13), u"deux");
-    EXPECT_EQ(Morceau(u"seul", 2), u"seul");
-    EXPECT_EQ(Morceau(u"", 0), u"");
+    EXPECT_EQ(MorceauEn(u"un|l'été deux", 5), u"l'été");
+    EXPECT_EQ(MorceauEn(u"un|l'été deux", 0), u"un");
+    EXPECT_EQ(MorceauEn(u"un|l'été deux", 12), u"deux");
+    EXPECT_EQ(MorceauEn(u"un|l'été deux", 13), u"deux");
+    EXPECT_EQ(MorceauEn(u"seul", 2), u"seul");
+    EXPECT_EQ(MorceauEn(u"", 0), u"");
 }
 
 TEST(Passages, SurUnSéparateurLeMorceauQuiFinitLà)
 {
-    EXPECT_EQ(Morceau(u"un deux", 2), u"un");
-    EXPECT_EQ(Morceau(u" deux", 0), u"");
-    EXPECT_EQ(Morceau(u"a  b", 2), u"");
+    EXPECT_EQ(MorceauEn(u"un deux", 2), u"un");
+    EXPECT_EQ(MorceauEn(u" deux", 0), u"");
+    EXPECT_EQ(MorceauEn(u"a  b", 2), u"");
 }
 
 TEST(Passages, PhraseVaDerrièreUnSigneJusquAuSuivantCompris)

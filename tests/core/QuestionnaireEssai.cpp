@@ -18,7 +18,7 @@ private:
     Arrangement Disposer() override { return Libre{fg}; }
 };
 
-std::vector<Texte> Champs(int combien)
+std::vector<Texte> ChampsNumérotés(int combien)
 {
     std::vector<Texte> champs;
     for (int i = 0; i < combien; ++i)
@@ -45,7 +45,7 @@ TEST(Questionnaire, UneRangéePourOnzeChamps)
 {
     Banc banc;
     auto& écran = banc.Ouvrir<EcranGrille>();
-    EXPECT_TRUE(LireQuestions(banc.EcrireChamps("q.qst", Champs(24)), écran.fg));
+    EXPECT_TRUE(LireQuestions(banc.EcrireChamps("q.qst", ChampsNumérotés(24)), écran.fg));
     EXPECT_EQ(écran.fg.TextMatrix(0, ColonneQuestion), u"c0");
     EXPECT_EQ(écran.fg.TextMatrix(0, ColonneDrapeau(4)), u"c10");
     EXPECT_EQ(écran.fg.TextMatrix(1, ColonneQuestion), u"c11");
@@ -57,7 +57,7 @@ TEST(Questionnaire, LaTreizièmeQuestionEstLaissée)
 {
     Banc banc;
     auto& écran = banc.Ouvrir<EcranGrille>();
-    EXPECT_TRUE(LireQuestions(banc.EcrireChamps("q.qst", Champs(13 * 11)), écran.fg));
+    EXPECT_TRUE(LireQuestions(banc.EcrireChamps("q.qst", ChampsNumérotés(13 * 11)), écran.fg));
     EXPECT_EQ(écran.fg.Rows(), QuestionsMaximum);
     EXPECT_EQ(écran.fg.TextMatrix(11, 10), u"c131");
 }

@@ -1,18 +1,9 @@
 #include "tests/support/Banc.h"
+#include "tests/support/EcranTexte.h"
 
 namespace tirelune {
 
 namespace {
-
-class EcranDEssai final : public Ecran {
-public:
-    explicit EcranDEssai(Application& application) : Ecran(application, "EcranDEssai", u"Essai") {}
-
-    RichTextBox rtf{*this, "rtf"};
-
-private:
-    Arrangement Disposer() override { return Libre{rtf}; }
-};
 
 std::vector<RichTextBox::Edition> Editions(RichTextBox& boîte, const Texte& nouveaux)
 {
@@ -28,57 +19,57 @@ std::vector<RichTextBox::Edition> Editions(RichTextBox& boîte, const Texte& nou
 TEST(Transcrire, UneSeuleEditionDuPremierAuDernierChangement)
 {
     Banc banc;
-    auto& écran = banc.Ouvrir<EcranDEssai>();
-    écran.rtf.Text(u"0123456789");
+    auto& écran = banc.Ouvrir<EcranTexte>();
+    écran.rtfTexte.Text(u"0123456789");
 
-    const auto éditions = Editions(écran.rtf, u"01x345x789");
+    const auto éditions = Editions(écran.rtfTexte, u"01x345x789");
 
     ASSERT_EQ(éditions.size(), 1U);
     EXPECT_EQ(éditions[0].Début, 2U);
     EXPECT_EQ(éditions[0].Retirés, 5U);
     EXPECT_EQ(éditions[0].Ajoutés, 5U);
-    EXPECT_EQ(écran.rtf.Text(), u"01x345x789");
+    EXPECT_EQ(écran.rtfTexte.Text(), u"01x345x789");
 }
 
 TEST(Transcrire, GardeFormatsEtSélection)
 {
     Banc banc;
-    auto& écran = banc.Ouvrir<EcranDEssai>();
-    écran.rtf.Text(u"abcdef");
-    écran.rtf.Sélectionner(2, 2);
-    écran.rtf.SelBold = true;
+    auto& écran = banc.Ouvrir<EcranTexte>();
+    écran.rtfTexte.Text(u"abcdef");
+    écran.rtfTexte.Sélectionner(2, 2);
+    écran.rtfTexte.SelBold = true;
 
-    écran.rtf.Transcrire(u"ABCDEF");
+    écran.rtfTexte.Transcrire(u"ABCDEF");
 
-    EXPECT_EQ(écran.rtf.SelText(), u"CD");
-    EXPECT_EQ(écran.rtf.SelBold(), true);
-    EXPECT_FALSE(écran.rtf.TextRTF().FormatEn(1).Gras);
-    EXPECT_FALSE(écran.rtf.TextRTF().FormatEn(4).Gras);
+    EXPECT_EQ(écran.rtfTexte.SelText(), u"CD");
+    EXPECT_EQ(écran.rtfTexte.SelBold(), true);
+    EXPECT_FALSE(écran.rtfTexte.TextRTF().FormatEn(1).Gras);
+    EXPECT_FALSE(écran.rtfTexte.TextRTF().FormatEn(4).Gras);
 }
 
 TEST(Transcrire, MêmeTexteNeDitRien)
 {
     Banc banc;
-    auto& écran = banc.Ouvrir<EcranDEssai>();
-    écran.rtf.Text(u"abc");
-    EXPECT_TRUE(Editions(écran.rtf, u"abc").empty());
-    écran.rtf.Text(u"");
-    EXPECT_TRUE(Editions(écran.rtf, u"").empty());
+    auto& écran = banc.Ouvrir<EcranTexte>();
+    écran.rtfTexte.Text(u"abc");
+    EXPECT_TRUE(Editions(écran.rtfTexte, u"abc").empty());
+    écran.rtfTexte.Text(u"");
+    EXPECT_TRUE(Editions(écran.rtfTexte, u"").empty());
 }
 
 TEST(DoubleClic, LeSecondAppuiDéplaceLeCurseur)
 {
     Banc banc;
-    auto& écran = banc.Ouvrir<EcranDEssai>();
-    écran.rtf.Text(u"abc");
-    écran.rtf.Sélectionner(1, 1);
+    auto& écran = banc.Ouvrir<EcranTexte>();
+    écran.rtfTexte.Text(u"abc");
+    écran.rtfTexte.Sélectionner(1, 1);
     std::size_t longueur = 99;
-    écran.rtf.DblClick = [&] { longueur = écran.rtf.SelLength(); };
+    écran.rtfTexte.DblClick = [&] { longueur = écran.rtfTexte.SelLength(); };
 
-    écran.rtf.DoubleCliquer(1);
+    écran.rtfTexte.DoubleCliquer(1);
 
     EXPECT_EQ(longueur, 0U);
-    EXPECT_EQ(écran.rtf.SelText(), u"b");
+    EXPECT_EQ(écran.rtfTexte.SelText(), u"b");
 }
 
 } // namespace tirelune

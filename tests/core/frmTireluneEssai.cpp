@@ -19,7 +19,7 @@ private:
     Arrangement Disposer() override { return Colonne{lblRien}; }
 };
 
-frmTirelune& Ouvrir(Banc& banc)
+frmTirelune& OuvrirTirelune(Banc& banc)
 {
     banc.application.écrans["frmEnseignant"] = [](Ecran& ouvreur) {
         return std::make_unique<Bouchon>(ouvreur.ApplicationDe(), "frmEnseignant", u"");
@@ -39,7 +39,7 @@ TEST(Tirelune, PolicesTriéesPuisSeptLignesVides)
 {
     Banc banc;
     banc.plateforme.polices = {u"Verdana", u"Arial", u"Écolier"};
-    auto& écran = Ouvrir(banc);
+    auto& écran = OuvrirTirelune(banc);
     EXPECT_EQ(écran.cmbPassagePolices.Eléments(), (std::vector<Texte>{u"Arial", u"Écolier", u"Verdana"}));
     ASSERT_EQ(écran.cmbPolices.ListCount(), 10);
     EXPECT_EQ(écran.cmbPolices.List(2), u"Verdana");
@@ -50,7 +50,7 @@ TEST(Tirelune, PolicesTriéesPuisSeptLignesVides)
 TEST(Tirelune, LégendesAvecLeursBlancs)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc);
+    auto& écran = OuvrirTirelune(banc);
     EXPECT_EQ(écran.Caption, u"Tirelune");
     EXPECT_EQ(écran.mnuEnseignant.Caption, u"        E&nseignant        ");
     EXPECT_EQ(écran.mnuElève.Caption, u"        E&lève        ");
@@ -79,7 +79,7 @@ TEST(Tirelune, LégendesAvecLeursBlancs)
 TEST(Tirelune, DégradéDeDeuxCentCinquanteSixBandes)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc);
+    auto& écran = OuvrirTirelune(banc);
     const auto& dessin = écran.Fond();
     ASSERT_EQ(dessin.Formes.size(), 256U);
     EXPECT_EQ(dessin.Hauteur, 256);
@@ -96,7 +96,7 @@ TEST(Tirelune, SansFichierDeCheminRienNeChange)
     Banc banc;
     banc.état.CheminBilans.clear();
     banc.état.CheminAppli.clear();
-    Ouvrir(banc);
+    OuvrirTirelune(banc);
     EXPECT_EQ(banc.état.CheminAppli, DepuisChemin(banc.dossier));
     EXPECT_EQ(banc.état.CheminBilans, u"");
 }
@@ -107,7 +107,7 @@ TEST(Tirelune, FichierDeCheminVideOuAbsentGardeLesChemins)
     banc.Ecrire("Chemin.txt", "");
     banc.état.CheminRéseau = u"/réseau";
     banc.état.CheminBilans = u"/bilans";
-    Ouvrir(banc);
+    OuvrirTirelune(banc);
     EXPECT_EQ(banc.état.CheminRéseau, u"/réseau");
     EXPECT_EQ(banc.état.CheminBilans, u"/bilans");
 }
@@ -116,7 +116,7 @@ TEST(Tirelune, CheminLuVautPourLesBilans)
 {
     Banc banc;
     banc.EcrireChamps("Chemin.txt", {u"/réseau/élèves", u"autre"});
-    Ouvrir(banc);
+    OuvrirTirelune(banc);
     EXPECT_EQ(banc.état.CheminRéseau, u"/réseau/élèves");
     EXPECT_EQ(banc.état.CheminBilans, u"/réseau/élèves");
 }
@@ -126,7 +126,7 @@ TEST(Tirelune, CheminVideRevientAuProgramme)
     Banc banc;
     banc.EcrireChamps("Chemin.txt", {u""});
     banc.état.CheminBilans = u"/ailleurs";
-    Ouvrir(banc);
+    OuvrirTirelune(banc);
     EXPECT_EQ(banc.état.CheminRéseau, u"");
     EXPECT_EQ(banc.état.CheminBilans, DepuisChemin(banc.dossier));
 }
@@ -135,7 +135,7 @@ TEST(Tirelune, AprèsUnRôleLeCheminEstRelu)
 {
     Banc banc;
     banc.Ecrire("Léa.bil", "");
-    auto& écran = Ouvrir(banc);
+    auto& écran = OuvrirTirelune(banc);
     banc.QuandOuvert<frmExercices>(
         [&](frmExercices&) { banc.EcrireChamps("Chemin.txt", {DepuisChemin(banc.dossier / "réseau")}); });
     écran.Fond = Dessin{};
@@ -147,7 +147,7 @@ TEST(Tirelune, AprèsUnRôleLeCheminEstRelu)
 TEST(Tirelune, PremierCodeSeConfirmePuisOuvre)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc);
+    auto& écran = OuvrirTirelune(banc);
     écran.mnuEnseignant.Cliquer();
     EXPECT_TRUE(écran.frameCodeEnseignant.Visible);
     EXPECT_EQ(écran.Focus(), &écran.txtCodeEnseignant);
@@ -174,7 +174,7 @@ TEST(Tirelune, CodeJusteOuvreCodeFauxRevientAuMenu)
 {
     Banc banc;
     banc.EcrireChamps("CodeEnseignant.txt", {u"ancien", u"Secret"});
-    auto& écran = Ouvrir(banc);
+    auto& écran = OuvrirTirelune(banc);
     for (const auto* faux : {u"secret", u"ancien", u"", u"Secre"}) {
         écran.mnuEnseignant.Cliquer();
         EXPECT_EQ(écran.txtCodeEnseignant.Text, u"");
@@ -195,7 +195,7 @@ TEST(Tirelune, CodeVideOuvreAvecUneBoîteVide)
     for (const auto* octets : {"", "\"\"\r\n"}) {
         Banc banc;
         banc.Ecrire("CodeEnseignant.txt", octets);
-        auto& écran = Ouvrir(banc);
+        auto& écran = OuvrirTirelune(banc);
         écran.mnuEnseignant.Cliquer();
         banc.QuandOuvert<Bouchon>([](Bouchon&) {});
         écran.cmdCode.Cliquer();
@@ -205,7 +205,7 @@ TEST(Tirelune, CodeVideOuvreAvecUneBoîteVide)
 TEST(Tirelune, PremierCodeVideOuvreAuPremierClic)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc);
+    auto& écran = OuvrirTirelune(banc);
     écran.mnuEnseignant.Cliquer();
     banc.QuandOuvert<Bouchon>([](Bouchon&) {});
     écran.cmdCode.Cliquer();
@@ -215,7 +215,7 @@ TEST(Tirelune, PremierCodeVideOuvreAuPremierClic)
 TEST(Tirelune, CodeQuiNeSEcritPasEstDit)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc);
+    auto& écran = OuvrirTirelune(banc);
     écran.mnuEnseignant.Cliquer();
     Valider(écran.txtCodeEnseignant, u"abc");
     banc.plateforme.échecEcriture = [&](const Chemin&) {
@@ -237,7 +237,7 @@ TEST(Tirelune, CodeQuiNeSEcritPasEstDit)
 TEST(Tirelune, CeQuiTientLieuDeCodeSansEnÊtreUnNeSeRemplacePas)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc);
+    auto& écran = OuvrirTirelune(banc);
     écran.mnuEnseignant.Cliquer();
     const auto fichier = DepuisChemin(banc.dossier / "CodeEnseignant.txt");
     std::filesystem::create_directory(EnChemin(fichier));
@@ -250,7 +250,7 @@ TEST(Tirelune, UnNulDansCheminNEmpêchePasDeContinuer)
 {
     Banc banc;
     banc.Ecrire("Chemin.txt", std::string("\"/tmp\0\"\r\n", 9));
-    auto& écran = Ouvrir(banc);
+    auto& écran = OuvrirTirelune(banc);
     static_cast<void>(écran);
     std::error_code erreur;
     EXPECT_FALSE(std::filesystem::exists(EnChemin(banc.état.CheminBilans), erreur)); // "/tmp" is another folder
@@ -260,7 +260,7 @@ TEST(Tirelune, UnNulDansCheminNEmpêchePasDeContinuer)
 TEST(Tirelune, LeCodePrendSixCaractèresQueLeFichierPeutGarder)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc);
+    auto& écran = OuvrirTirelune(banc);
     for (auto* boîte : {&écran.txtCodeEnseignant, &écran.txtVérificationCode}) {
         EXPECT_FALSE(boîte->Saisir(u"1234567"));
         banc.AnnoncerBoîte(u"Le guillemet droit…");
@@ -276,7 +276,7 @@ TEST(Tirelune, LeCodePrendSixCaractèresQueLeFichierPeutGarder)
 TEST(Tirelune, AnnulerCacheEtVide)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc);
+    auto& écran = OuvrirTirelune(banc);
     écran.mnuEnseignant.Cliquer();
     Valider(écran.txtCodeEnseignant, u"abc");
     écran.txtVérificationCode.Saisir(u"ab");
@@ -290,14 +290,14 @@ TEST(Tirelune, AnnulerCacheEtVide)
 TEST(Tirelune, QuitterTermineLeProgramme)
 {
     Banc banc;
-    Ouvrir(banc).mnuQuitter.Cliquer();
+    OuvrirTirelune(banc).mnuQuitter.Cliquer();
     EXPECT_TRUE(banc.plateforme.terminé);
 }
 
 TEST(Tirelune, LaCroixTermineLeProgramme)
 {
     Banc banc;
-    Ouvrir(banc).FermerParCroix();
+    OuvrirTirelune(banc).FermerParCroix();
     EXPECT_TRUE(banc.plateforme.terminé);
 }
 

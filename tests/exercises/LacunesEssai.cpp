@@ -1,19 +1,10 @@
 #include "exercises/Lacunes.h"
 #include "tests/support/Banc.h"
+#include "tests/support/EcranTexte.h"
 
 namespace tirelune {
 
 namespace {
-
-class EcranDEssai final : public Ecran {
-public:
-    explicit EcranDEssai(Application& application) : Ecran(application, "EcranDEssai", u"Essai") {}
-
-    RichTextBox rtf{*this, "rtf"};
-
-private:
-    Arrangement Disposer() override { return Libre{rtf}; }
-};
 
 // The selection of a gap step by step, as it is told for a box that knows nothing but its selection. A count below
 // zero is none, and a gap that ends the text ends with it.
@@ -83,19 +74,19 @@ Format Marqué()
 TEST(SélectionnerTrait, DonneCeQueDonnentLesPas)
 {
     Banc banc;
-    auto& écran = banc.Ouvrir<EcranDEssai>();
+    auto& écran = banc.Ouvrir<EcranTexte>();
     for (std::size_t longueur = 0; longueur <= 6; ++longueur) {
         for (const auto& texte : TextesPossibles(longueur)) {
-            écran.rtf.TextRTF(TexteRiche{texte});
+            écran.rtfTexte.TextRTF(TexteRiche{texte});
             for (std::size_t place = 0; place <= longueur; ++place) {
-                écran.rtf.Sélectionner(place, 0);
-                SélectionnerPasÀPas(écran.rtf);
-                const auto début = écran.rtf.SelStart();
-                const auto attendue = écran.rtf.SelLength();
-                écran.rtf.Sélectionner(place, 0);
-                SélectionnerTrait(écran.rtf, Lacunes(écran.rtf.Text()));
-                ASSERT_EQ(écran.rtf.SelStart(), début) << EnUtf8(texte) << " en " << place;
-                ASSERT_EQ(écran.rtf.SelLength(), attendue) << EnUtf8(texte) << " en " << place;
+                écran.rtfTexte.Sélectionner(place, 0);
+                SélectionnerPasÀPas(écran.rtfTexte);
+                const auto début = écran.rtfTexte.SelStart();
+                const auto attendue = écran.rtfTexte.SelLength();
+                écran.rtfTexte.Sélectionner(place, 0);
+                SélectionnerTrait(écran.rtfTexte, Lacunes(écran.rtfTexte.Text()));
+                ASSERT_EQ(écran.rtfTexte.SelStart(), début) << EnUtf8(texte) << " en " << place;
+                ASSERT_EQ(écran.rtfTexte.SelLength(), attendue) << EnUtf8(texte) << " en " << place;
             }
         }
     }
@@ -104,36 +95,36 @@ TEST(SélectionnerTrait, DonneCeQueDonnentLesPas)
 TEST(SélectionnerTrait, UneSeuleSélectionPourUneLacuneDeMilleTraits)
 {
     Banc banc;
-    auto& écran = banc.Ouvrir<EcranDEssai>();
-    écran.rtf.Text(u"a" + Texte(1000, u'_') + u"b");
+    auto& écran = banc.Ouvrir<EcranTexte>();
+    écran.rtfTexte.Text(u"a" + Texte(1000, u'_') + u"b");
     int changements = 0;
-    écran.rtf.Sélectionner(900, 0);
-    écran.rtf.SelChange = [&] { ++changements; };
+    écran.rtfTexte.Sélectionner(900, 0);
+    écran.rtfTexte.SelChange = [&] { ++changements; };
 
-    SélectionnerTrait(écran.rtf, {{1, 1000}});
+    SélectionnerTrait(écran.rtfTexte, {{1, 1000}});
 
     EXPECT_EQ(changements, 1);
-    EXPECT_EQ(écran.rtf.SelStart(), 1U);
-    EXPECT_EQ(écran.rtf.SelLength(), 1000U);
+    EXPECT_EQ(écran.rtfTexte.SelStart(), 1U);
+    EXPECT_EQ(écran.rtfTexte.SelLength(), 1000U);
 }
 
 TEST(SélectionnerTrait, LesTraitsDuTexteNEnSontPas)
 {
     Banc banc;
-    auto& écran = banc.Ouvrir<EcranDEssai>();
-    écran.rtf.Text(u"__a____b_");
+    auto& écran = banc.Ouvrir<EcranTexte>();
+    écran.rtfTexte.Text(u"__a____b_");
     const std::vector<Lacune> ouvertes{{4, 2}}; // between two underscores of the text
     for (const std::size_t place : {0U, 1U, 3U, 6U, 8U}) {
-        écran.rtf.Sélectionner(place, 0);
-        SélectionnerTrait(écran.rtf, ouvertes);
-        EXPECT_EQ(écran.rtf.SelStart(), place);
-        EXPECT_EQ(écran.rtf.SelLength(), 0U);
+        écran.rtfTexte.Sélectionner(place, 0);
+        SélectionnerTrait(écran.rtfTexte, ouvertes);
+        EXPECT_EQ(écran.rtfTexte.SelStart(), place);
+        EXPECT_EQ(écran.rtfTexte.SelLength(), 0U);
     }
     for (const std::size_t place : {4U, 5U}) {
-        écran.rtf.Sélectionner(place, 0);
-        SélectionnerTrait(écran.rtf, ouvertes);
-        EXPECT_EQ(écran.rtf.SelStart(), 4U);
-        EXPECT_EQ(écran.rtf.SelLength(), 2U);
+        écran.rtfTexte.Sélectionner(place, 0);
+        SélectionnerTrait(écran.rtfTexte, ouvertes);
+        EXPECT_EQ(écran.rtfTexte.SelStart(), 4U);
+        EXPECT_EQ(écran.rtfTexte.SelLength(), 2U);
     }
 }
 

@@ -5,6 +5,7 @@
 #include "followup/GrilleRésultats.h"
 #include "followup/frmExercices.h"
 #include "tests/support/Banc.h"
+#include "tests/support/Notices.h"
 
 #include <array>
 #include <cstdlib>
@@ -15,9 +16,6 @@
 namespace tirelune {
 
 namespace {
-
-constexpr VueTexte DossierInaccessible = u"Le répertoire des fichiers \"Elèves\" n'est pas accessible.\n\n"
-                                         u"Veuillez vérifier votre connexion avant de continuer !\n";
 
 void Noter(Banc& banc, int exercice, float note)
 {

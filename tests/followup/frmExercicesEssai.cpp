@@ -6,6 +6,7 @@
 #include "followup/EnregistrerNotes.h"
 #include "followup/GrilleRésultats.h"
 #include "tests/support/Banc.h"
+#include "tests/support/Notices.h"
 
 #include <algorithm>
 
@@ -14,8 +15,6 @@ namespace tirelune {
 namespace {
 
 constexpr VueTexte AFaire = u" A faire ";
-constexpr VueTexte DossierInaccessible = u"Le répertoire des fichiers \"Elèves\" n'est pas accessible.\n\n"
-                                         u"Veuillez vérifier votre connexion avant de continuer !\n";
 constexpr int PetitsTitres = 5000;
 
 // A record of 30 fields with its marker.
@@ -41,7 +40,7 @@ public:
     explicit Connexion(Banc& banc, std::string_view octets = {}) : choix_(banc.application)
     {
         banc.Ecrire("Zoé.bil", octets);
-        Ouvrir();
+        OuvrirExercices();
     }
     Connexion(Banc& banc, const std::vector<Texte>& champs) : Connexion(banc, *ComposerChamps(champs)) {}
     Connexion(const Connexion&) = delete;
@@ -52,7 +51,7 @@ public:
     frmExercices& operator*() { return choix_; }
 
 private:
-    void Ouvrir()
+    void OuvrirExercices()
     {
         choix_.Charger();
         choix_.Dimensionner(12000, 9000);

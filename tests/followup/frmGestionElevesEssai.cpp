@@ -5,6 +5,7 @@
 #include "followup/EnregistrerNotes.h"
 #include "followup/frmExercices.h"
 #include "tests/support/Banc.h"
+#include "tests/support/Notices.h"
 
 namespace tirelune {
 
@@ -32,8 +33,6 @@ std::size_t NombreDeFichiers(const Chemin& dossier)
 }
 
 constexpr VueTexte QuestionDestruction = u"Destruction irréversible. Souhaitez-vous continuer ?";
-constexpr VueTexte DossierInaccessible = u"Le répertoire des fichiers \"Elèves\" n'est pas accessible.\n\n"
-                                         u"Veuillez vérifier votre connexion avant de continuer !\n";
 
 } // namespace
 

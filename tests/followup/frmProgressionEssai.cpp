@@ -22,7 +22,7 @@ void Notes(Banc& banc, int exercice, const std::vector<Texte>& notes)
         grille.TextMatrix(static_cast<int>(i) + 1, exercice + PremièreColonneNote, notes[i]);
 }
 
-frmProgression& Ouvrir(Banc& banc, int groupe)
+frmProgression& OuvrirProgression(Banc& banc, int groupe)
 {
     banc.état.GroupeCourbes = static_cast<std::uint8_t>(groupe);
     return banc.Ouvrir<frmProgression>();
@@ -71,7 +71,7 @@ TEST(Progression, SansRésultatLeDitEtResteOuvert)
     Banc banc;
     banc.plateforme.boîtes.push_back(
         {u"Il n'y a aucun résultat enregistré.", Réponse::Ok, u"Tracé de courbes impossible", {}});
-    auto& écran = Ouvrir(banc, 1);
+    auto& écran = OuvrirProgression(banc, 1);
     EXPECT_TRUE(écran.EstChargé());
     EXPECT_TRUE(écran.imgCourbes.Picture().Formes.empty());
     EXPECT_TRUE(écran.lblLégende(0).Visible);
@@ -84,7 +84,7 @@ TEST(Progression, LégendeDeChaqueGroupe)
     for (int groupe = 1; groupe <= 5; ++groupe) {
         Banc banc;
         Notes(banc, 0, {u"5"});
-        auto& écran = Ouvrir(banc, groupe);
+        auto& écran = OuvrirProgression(banc, groupe);
         EXPECT_EQ(écran.Caption, u"Progression / Léa");
         const auto& celui = Groupes.at(static_cast<std::size_t>(groupe) - 1);
         for (int i = 0; i < écran.lblLégende.Nombre(); ++i) {
@@ -102,7 +102,7 @@ TEST(Progression, CouleursDesCourbes)
 {
     Banc banc;
     Notes(banc, 0, {u"5"});
-    auto& écran = Ouvrir(banc, 1);
+    auto& écran = OuvrirProgression(banc, 1);
     const std::vector<Couleur> attendues{
         Couleur::Rvb(255, 255, 0),   Couleur::Rvb(255, 0, 0),     Couleur::Rvb(0, 255, 255), Couleur::Rvb(0, 255, 0),
         Couleur::Rvb(255, 255, 255), Couleur::Rvb(255, 128, 255), Couleur::Rvb(255, 128, 0)};
@@ -118,7 +118,7 @@ TEST(Progression, UnSeulTexteFaitUnPointSurLAxeSansSegment)
 {
     Banc banc;
     Notes(banc, 4, {u"7,5"});
-    auto& écran = Ouvrir(banc, Vocabulaire);
+    auto& écran = OuvrirProgression(banc, Vocabulaire);
     const double unité = (écran.lineOrd.Y2 - écran.lineOrd.Y1) / 10.0;
     ASSERT_EQ(écran.imgCourbes.Picture().Formes.size(), 1U);
     const auto& point = écran.imgCourbes.Picture().Formes.front();
@@ -131,7 +131,7 @@ TEST(Progression, ZéroAuPiedDixAuSommet)
 {
     Banc banc;
     Notes(banc, 4, {u"0", u"10"});
-    auto& écran = Ouvrir(banc, Vocabulaire);
+    auto& écran = OuvrirProgression(banc, Vocabulaire);
     const auto points = Points(écran);
     ASSERT_EQ(points.size(), 2U);
     EXPECT_DOUBLE_EQ(points[0].Y, écran.lineAbs.Y1);
@@ -142,7 +142,7 @@ TEST(Progression, LeDernierTexteEstUnPasAvantLaFinDeLAxe)
 {
     Banc banc;
     Notes(banc, 4, {u"1", u"2", u"3", u"4", u"5"});
-    auto& écran = Ouvrir(banc, Vocabulaire);
+    auto& écran = OuvrirProgression(banc, Vocabulaire);
     const double pas = (écran.lineAbs.X2 - écran.lineAbs.X1) / 5.0;
     const auto points = Points(écran);
     ASSERT_EQ(points.size(), 5U);
@@ -155,7 +155,7 @@ TEST(Progression, LaCourbeEnjambeLesTextesNonFaits)
 {
     Banc banc;
     Notes(banc, 4, {u"", u"4", u"", u"n'importe quoi", u"8", u""});
-    auto& écran = Ouvrir(banc, Vocabulaire);
+    auto& écran = OuvrirProgression(banc, Vocabulaire);
     const auto points = Points(écran);
     const auto segments = Segments(écran);
     ASSERT_EQ(points.size(), 2U);
@@ -171,7 +171,7 @@ TEST(Progression, ExerciceJamaisFaitGardeSaLégende)
 {
     Banc banc;
     Notes(banc, 5, {u"6"});
-    auto& écran = Ouvrir(banc, Vocabulaire);
+    auto& écran = OuvrirProgression(banc, Vocabulaire);
     EXPECT_TRUE(écran.lblLégende(0).Visible);
     ASSERT_EQ(écran.imgCourbes.Picture().Formes.size(), 1U);
     EXPECT_EQ(écran.imgCourbes.Picture().Formes[0].Fond, écran.lblLégende(1).ForeColor);
@@ -182,7 +182,7 @@ TEST(Progression, CourbesDansLOrdreEtLégendeCliquéeAuDessus)
     Banc banc;
     Notes(banc, 4, {u"5", u"6"});
     Notes(banc, 10, {u"5", u"6"});
-    auto& écran = Ouvrir(banc, Vocabulaire);
+    auto& écran = OuvrirProgression(banc, Vocabulaire);
     const auto avant = écran.imgCourbes.Picture().Formes;
     ASSERT_EQ(avant.size(), 6U);
     EXPECT_EQ(avant.front().Fond, écran.lblLégende(0).ForeColor);
@@ -203,7 +203,7 @@ TEST(Progression, RefaireUnExerciceChangeLaCourbeSansLAllonger)
     banc.Index(4);
     EnregistrerNote(banc.Choix(), 3);
     EnregistrerNote(banc.Choix(), 8);
-    auto& écran = Ouvrir(banc, Vocabulaire);
+    auto& écran = OuvrirProgression(banc, Vocabulaire);
     const auto points = Points(écran);
     ASSERT_EQ(points.size(), 1U);
     EXPECT_DOUBLE_EQ(points[0].Y, écran.lineAbs.Y1 - 8 * (écran.lineOrd.Y2 - écran.lineOrd.Y1) / 10.0);
@@ -213,7 +213,7 @@ TEST(Progression, NoteHorsDesBornesResteDansLeCadre)
 {
     Banc banc;
     Notes(banc, 4, {u"-3", u"1000000"});
-    auto& écran = Ouvrir(banc, Vocabulaire);
+    auto& écran = OuvrirProgression(banc, Vocabulaire);
     EXPECT_DOUBLE_EQ(Points(écran).at(0).Y, écran.lineAbs.Y1);
     EXPECT_DOUBLE_EQ(Points(écran).at(1).Y, écran.lineOrd.Y1);
 }
@@ -222,7 +222,7 @@ TEST(Progression, AxesEtMarques)
 {
     Banc banc;
     Notes(banc, 4, {u"5"});
-    auto& écran = Ouvrir(banc, Vocabulaire);
+    auto& écran = OuvrirProgression(banc, Vocabulaire);
     EXPECT_EQ(écran.lineAbs.X1, écran.lineOrd.X1);
     EXPECT_EQ(écran.lineAbs.Y1, écran.lineOrd.Y2);
     EXPECT_EQ(écran.Line2.Nombre(), 11);

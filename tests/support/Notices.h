@@ -4,6 +4,10 @@
 
 namespace tirelune {
 
+inline constexpr VueTexte DossierInaccessible = u"Le répertoire des fichiers \"Elèves\" n'est pas accessible.\n\n"
+                                                u"Veuillez vérifier votre connexion avant de continuer !\n";
+inline constexpr auto UneSeuleFois = u"Clique UNE SEULE FOIS sur les traits !";
+
 // Red counts and a blue separator, on yellow. `maximum` is what is told from the start in place of a count of tries.
 inline void VérifierPointsDeDépart(const Tableau<Label>& points, VueTexte maximum = u"0")
 {

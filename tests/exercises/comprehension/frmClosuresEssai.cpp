@@ -10,14 +10,12 @@ namespace {
 
 constexpr int IndexClosures = 3;
 constexpr auto TropCourt = u"Le texte est trop court pour cet exercice !";
-constexpr auto UneSeuleFois = u"Clique UNE SEULE FOIS sur les traits !";
-
 // Twenty-six words, "huit", "quinze" and "vingt-deux" being the eighth, the fifteenth and the twenty-second.
 constexpr auto Nombres =
     u"un deux trois quatre cinq six sept huit neuf dix onze douze treize quatorze quinze seize dix-sept dix-huit "
     u"dix-neuf vingt vingt-et-un vingt-deux vingt-trois vingt-quatre vingt-cinq vingt-six";
 
-frmClosures& Ouvrir(Banc& banc, const Texte& texte, std::size_t départ = 0)
+frmClosures& OuvrirClosures(Banc& banc, const Texte& texte, std::size_t départ = 0)
 {
     banc.ChargerTexte(texte);
     banc.Index(IndexClosures);
@@ -28,7 +26,7 @@ frmClosures& Ouvrir(Banc& banc, const Texte& texte, std::size_t départ = 0)
 frmClosures& OuvrirTropCourt(Banc& banc, const Texte& texte, std::size_t départ = 0)
 {
     banc.plateforme.boîtes.push_back({TropCourt, Réponse::Ok, u"Avertissement", {}});
-    return Ouvrir(banc, texte, départ);
+    return OuvrirClosures(banc, texte, départ);
 }
 
 void Placer(frmClosures& écran, VueTexte mot, VueTexte choisi)
@@ -201,7 +199,7 @@ TEST(FinDesLacunes, LesMoitiésVontAuNombrePair)
 TEST(Closures, OuvertureTroueLeTexteEtRemplitLaListe)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc, Nombres);
+    auto& écran = OuvrirClosures(banc, Nombres);
 
     EXPECT_EQ(écran.Caption, u"Closures / Léa");
     EXPECT_EQ(écran.cmbClosures.Eléments(), (std::vector<Texte>{u"huit", u"quinze", u"vingt-deux"}));
@@ -215,7 +213,7 @@ TEST(Closures, OuvertureTroueLeTexteEtRemplitLaListe)
 TEST(Closures, LesPointsOntLeursCouleursEtLesBoutonsLeurLégende)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc, Nombres);
+    auto& écran = OuvrirClosures(banc, Nombres);
     VérifierPointsDeDépart(écran.lblPoints);
     EXPECT_EQ(écran.cmdOk.Caption, u"&Ok");
     EXPECT_EQ(écran.fin.Bouton.Caption, u"&Quitter");
@@ -263,7 +261,7 @@ TEST(Closures, UnDépartAuDelàDUnTexteCourtEstTropCourt)
 {
     Banc banc;
     const Texte texte = u"a b c d e f g h i j k l";
-    EXPECT_TRUE(Ouvrir(banc, texte, 0).EstChargé());
+    EXPECT_TRUE(OuvrirClosures(banc, texte, 0).EstChargé());
     EXPECT_FALSE(OuvrirTropCourt(banc, texte, 79).EstChargé());
 }
 
@@ -271,7 +269,7 @@ TEST(Closures, HuitMotsJusteTropCourt)
 {
     Banc banc;
     EXPECT_FALSE(OuvrirTropCourt(banc, u"un deux trois quatre cinq six sept huit").EstChargé());
-    EXPECT_TRUE(Ouvrir(banc, u"un deux trois quatre cinq six sept huit neuf").EstChargé());
+    EXPECT_TRUE(OuvrirClosures(banc, u"un deux trois quatre cinq six sept huit neuf").EstChargé());
 }
 
 TEST(Closures, FerméPendantLeMessageDeTexteTropCourt)
@@ -289,7 +287,7 @@ TEST(Closures, FerméPendantLeMessageDeTexteTropCourt)
 TEST(Closures, LExamenDeLaListeRevientAChaqueActivation)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc, Nombres);
+    auto& écran = OuvrirClosures(banc, Nombres);
     écran.Activer();
     EXPECT_TRUE(écran.EstChargé());
     écran.cmbClosures.Clear();
@@ -302,7 +300,8 @@ TEST(Closures, LExamenDeLaListeRevientAChaqueActivation)
 TEST(Closures, DernierMotEnlevéEmpêcheLaFin)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc, u"un deux trois quatre cinq six sept huit neuf dix onze douze treize quatorze quinze");
+    auto& écran =
+        OuvrirClosures(banc, u"un deux trois quatre cinq six sept huit neuf dix onze douze treize quatorze quinze");
     EXPECT_EQ(écran.cmbClosures.Eléments(), (std::vector<Texte>{u"huit"}));
     EXPECT_TRUE(écran.rtfClosures.Text().ends_with(u"quatorze ______"));
 
@@ -324,7 +323,7 @@ TEST(Closures, DernierMotEnlevéEmpêcheLaFin)
 TEST(Closures, LacuneRougePuisVerteEtSoulignée)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc, Nombres);
+    auto& écran = OuvrirClosures(banc, Nombres);
     const auto place = Texte{Nombres}.find(u"quinze");
 
     Placer(écran, u"quinze", u"huit");
@@ -344,7 +343,7 @@ TEST(Closures, LacuneRougePuisVerteEtSoulignée)
 TEST(Closures, LacuneDUnMotAvecApostropheEstUneSeule)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc, u"un deux trois quatre cinq six sept l'arc-en-ciel est beau");
+    auto& écran = OuvrirClosures(banc, u"un deux trois quatre cinq six sept l'arc-en-ciel est beau");
     écran.rtfClosures.Cliquer(36); // the apostrophe
     EXPECT_EQ(écran.rtfClosures.SelStart(), 35U);
     EXPECT_EQ(écran.rtfClosures.SelLength(), 13U);
@@ -353,7 +352,7 @@ TEST(Closures, LacuneDUnMotAvecApostropheEstUneSeule)
 TEST(Closures, MotDeuxFoisDansLaListeVaDansSesDeuxLacunes)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc, u"a b c d e f g le i j k l m n le p q r s t u v w x y z");
+    auto& écran = OuvrirClosures(banc, u"a b c d e f g le i j k l m n le p q r s t u v w x y z");
     EXPECT_EQ(écran.cmbClosures.Eléments(), (std::vector<Texte>{u"le", u"le", u"v"}));
     for (const std::size_t place : {30U, 14U}) {
         écran.rtfClosures.Cliquer(place);
@@ -367,7 +366,7 @@ TEST(Closures, MotDeuxFoisDansLaListeVaDansSesDeuxLacunes)
 TEST(Closures, EntréeSélectionneLaLacuneCommeUnClic)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc, Nombres);
+    auto& écran = OuvrirClosures(banc, Nombres);
     const auto place = Texte{Nombres}.find(u"huit");
     écran.rtfClosures.Sélectionner(place + 2, 0);
     écran.rtfClosures.Taper({.Caractère = u'\r', .Code = Touche::Entrée});
@@ -384,7 +383,7 @@ TEST(Closures, EntréeSélectionneLaLacuneCommeUnClic)
 TEST(Closures, ClicHorsDesTraitsPuisOkNeCompteRien)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc, Nombres);
+    auto& écran = OuvrirClosures(banc, Nombres);
     écran.rtfClosures.Cliquer(Texte{Nombres}.find(u"huit"));
     écran.rtfClosures.Cliquer(0);
     EXPECT_EQ(écran.rtfClosures.SelLength(), 0U);
@@ -396,7 +395,7 @@ TEST(Closures, ClicHorsDesTraitsPuisOkNeCompteRien)
 TEST(Closures, DoubleClicEstRefusé)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc, Nombres);
+    auto& écran = OuvrirClosures(banc, Nombres);
     const auto place = Texte{Nombres}.find(u"huit");
     banc.plateforme.boîtes.push_back({UneSeuleFois, Réponse::Ok, u"Avertissement", {}});
     écran.rtfClosures.Cliquer(place);
@@ -411,7 +410,7 @@ TEST(Closures, OuvertureOublieUnDoubleClicPassé)
 {
     Banc banc;
     banc.état.CorrectionEnCours = true;
-    auto& écran = Ouvrir(banc, Nombres);
+    auto& écran = OuvrirClosures(banc, Nombres);
     EXPECT_FALSE(banc.état.CorrectionEnCours);
     écran.rtfClosures.Cliquer(Texte{Nombres}.find(u"huit"));
     EXPECT_EQ(écran.rtfClosures.SelLength(), 4U);
@@ -420,7 +419,7 @@ TEST(Closures, OuvertureOublieUnDoubleClicPassé)
 TEST(Closures, FerméPendantLeMessageDuDoubleClic)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc, Nombres);
+    auto& écran = OuvrirClosures(banc, Nombres);
     banc.plateforme.boîtes.push_back({UneSeuleFois, Réponse::Ok, u"Avertissement", [&] { écran.FermerParCroix(); }});
     écran.rtfClosures.DoubleCliquer(35);
     EXPECT_FALSE(écran.EstChargé());
@@ -431,7 +430,7 @@ TEST(Closures, FerméPendantLeMessageDuDoubleClic)
 TEST(Closures, LaListeNeSeTapePas)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc, Nombres);
+    auto& écran = OuvrirClosures(banc, Nombres);
     EXPECT_FALSE(écran.cmbClosures.Taper({.Caractère = u'q', .Code = 'Q'}));
     EXPECT_TRUE(écran.cmbClosures.Taper({.Code = Touche::Bas})) << "les flèches parcourent la liste";
     écran.cmbClosures.Saisir(u"quinze et demi");
@@ -441,7 +440,7 @@ TEST(Closures, LaListeNeSeTapePas)
 TEST(Closures, QuitterEnregistreLaNote)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc, Nombres);
+    auto& écran = OuvrirClosures(banc, Nombres);
     Placer(écran, u"quinze", u"huit");
     Placer(écran, u"huit", u"huit");
     Placer(écran, u"quinze", u"quinze");
@@ -462,7 +461,7 @@ TEST(Closures, FinitAvecSaDernièreLacuneMalgréLesTraitsDuTexte)
 {
     Banc banc;
     const Texte texte = u"Nom : ____ deux trois quatre cinq six sept huit neuf dix onze douze treize";
-    auto& écran = Ouvrir(banc, texte);
+    auto& écran = OuvrirClosures(banc, texte);
     ASSERT_EQ(écran.cmbClosures.Eléments(), (std::vector<Texte>{u"sept"}));
     écran.rtfClosures.Cliquer(texte.find(u"____"));
     EXPECT_EQ(écran.rtfClosures.SelLength(), 0U);
@@ -475,7 +474,7 @@ TEST(Closures, FinitAvecSaDernièreLacuneMalgréLesTraitsDuTexte)
 TEST(Closures, FermerNEnregistreRien)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc, Nombres);
+    auto& écran = OuvrirClosures(banc, Nombres);
     Placer(écran, u"huit", u"huit");
     écran.FermerParCroix();
     EXPECT_EQ(banc.Note(IndexClosures), u"");
@@ -484,7 +483,7 @@ TEST(Closures, FermerNEnregistreRien)
 TEST(Closures, LeTexteRemplitLEcranMoinsLaBarre)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc, Nombres);
+    auto& écran = OuvrirClosures(banc, Nombres);
     écran.Dimensionner(20000, 12000);
     EXPECT_EQ(écran.rtfClosures.Width, 19850);
     EXPECT_EQ(écran.rtfClosures.Height, 10900);

@@ -36,7 +36,7 @@ void Questionnaire(Banc& banc, int nombre)
     Questionnaire(banc, questions);
 }
 
-frmQuestionnaire1& Ouvrir(Banc& banc, int exercice, const Texte& texte = u"Un chat dort.")
+frmQuestionnaire1& OuvrirQuestionnaire1(Banc& banc, int exercice, const Texte& texte = u"Un chat dort.")
 {
     banc.ChargerTexte(texte);
     banc.Index(exercice);
@@ -46,7 +46,7 @@ frmQuestionnaire1& Ouvrir(Banc& banc, int exercice, const Texte& texte = u"Un ch
 // Questionnaire (1), read in a minute.
 frmQuestionnaire1& Lu(Banc& banc)
 {
-    auto& écran = Ouvrir(banc, 0);
+    auto& écran = OuvrirQuestionnaire1(banc, 0);
     écran.cmdCommencer.Cliquer();
     banc.Avancer(60s);
     écran.cmdOk.Cliquer();
@@ -73,7 +73,7 @@ TEST(Questionnaire, CommenceParLaConsigneTexteCaché)
 {
     Banc banc;
     Questionnaire(banc, 1);
-    auto& écran = Ouvrir(banc, 0);
+    auto& écran = OuvrirQuestionnaire1(banc, 0);
     EXPECT_EQ(écran.Caption, u"Questionnaire / Léa");
     EXPECT_EQ(écran.Text1.Text, u"Lis bien le texte qui va s'afficher : tu devras ensuite répondre à des questions "
                                 u"sans pouvoir le relire.\r\n");
@@ -113,7 +113,7 @@ TEST(Questionnaire, VitesseSansLesBlancsAvecLesFinsDeLigne)
 {
     Banc banc;
     Questionnaire(banc, 1);
-    auto& écran = Ouvrir(banc, 0, u"a b\nc  d"); // six signs: four letters, CR and LF
+    auto& écran = OuvrirQuestionnaire1(banc, 0, u"a b\nc  d"); // six signs: four letters, CR and LF
     écran.cmdCommencer.Cliquer();
     banc.Avancer(90s);
     écran.cmdOk.Cliquer();
@@ -134,7 +134,7 @@ TEST(Questionnaire, VitesseCoupéeALaPartieEntière)
 {
     Banc banc;
     Questionnaire(banc, 1);
-    auto& écran = Ouvrir(banc, 0, Texte(100, u'a'));
+    auto& écran = OuvrirQuestionnaire1(banc, 0, Texte(100, u'a'));
     écran.cmdCommencer.Cliquer();
     banc.Avancer(7s);
     écran.cmdOk.Cliquer();
@@ -146,7 +146,7 @@ TEST(Questionnaire, LectureAMinuitSeMesure)
     Banc banc;
     Questionnaire(banc, 1);
     banc.plateforme.Régler(86390);
-    auto& écran = Ouvrir(banc, 0, Texte(100, u'a'));
+    auto& écran = OuvrirQuestionnaire1(banc, 0, Texte(100, u'a'));
     écran.cmdCommencer.Cliquer();
     banc.Avancer(20s);
     écran.cmdOk.Cliquer();
@@ -157,7 +157,7 @@ TEST(Questionnaire, LectureSansDuréeSeRefait)
 {
     Banc banc;
     Questionnaire(banc, 1);
-    auto& écran = Ouvrir(banc, 0);
+    auto& écran = OuvrirQuestionnaire1(banc, 0);
     écran.cmdCommencer.Cliquer();
     banc.AnnoncerBoîte(u"La lecture n'a duré aucun instant…");
     écran.cmdOk.Cliquer();
@@ -173,7 +173,7 @@ TEST(Questionnaire, LectureSansDuréeSeRefait)
 TEST(Questionnaire, SansQuestionnaireLaVitesseEstGardée)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc, 0);
+    auto& écran = OuvrirQuestionnaire1(banc, 0);
     écran.cmdCommencer.Cliquer();
     banc.Avancer(60s);
     banc.AnnoncerBoîte(Texte{SansQuestionnaire});
@@ -188,7 +188,7 @@ TEST(Questionnaire, FermerPendantLaLectureNEnregistreRien)
 {
     Banc banc;
     Questionnaire(banc, 1);
-    auto& écran = Ouvrir(banc, 0);
+    auto& écran = OuvrirQuestionnaire1(banc, 0);
     banc.Choix().lblVitesse.Caption = u"";
     écran.cmdCommencer.Cliquer();
     banc.Avancer(60s);
@@ -224,7 +224,7 @@ TEST(Questionnaire, VitesseQuiNeSEcritPasEstDiteEtLesQuestionsViennent)
 {
     Banc banc;
     Questionnaire(banc, 1);
-    auto& écran = Ouvrir(banc, 0);
+    auto& écran = OuvrirQuestionnaire1(banc, 0);
     écran.cmdCommencer.Cliquer();
     banc.Avancer(60s);
     banc.plateforme.échecEcriture = [](const Chemin&) { return EchecFichier::Ecriture; };
@@ -435,7 +435,7 @@ TEST(Questionnaire, RedimensionnerRepeintLeBoutonDeDépartTantQuIlEstLà)
 {
     Banc banc;
     Questionnaire(banc, 1);
-    auto& écran = Ouvrir(banc, 0);
+    auto& écran = OuvrirQuestionnaire1(banc, 0);
     const int avant = banc.plateforme.repeints;
     écran.Dimensionner(15000, 10000);
     EXPECT_EQ(banc.plateforme.repeints, avant + 1);
@@ -464,7 +464,7 @@ TEST(Questionnaire2, MontreTexteEtQuestionsEnsemble)
 {
     Banc banc;
     Questionnaire(banc, 1);
-    auto& écran = Ouvrir(banc, 1);
+    auto& écran = OuvrirQuestionnaire1(banc, 1);
     EXPECT_EQ(écran.Caption, u"Questionnaire / Léa");
     EXPECT_TRUE(écran.rtfTexte.Visible && écran.frameQuestions.Visible && écran.lblConseil.Visible &&
                 écran.cmdInitialise.Visible);
@@ -483,7 +483,7 @@ TEST(Questionnaire2, SansQuestionnaireLeDitEtSeFerme)
 {
     Banc banc;
     banc.AnnoncerBoîte(Texte{SansQuestionnaire});
-    auto& écran = Ouvrir(banc, 1);
+    auto& écran = OuvrirQuestionnaire1(banc, 1);
     EXPECT_FALSE(écran.EstChargé());
     EXPECT_EQ(écran.Caption, u"Questionnaire");
 }
@@ -492,7 +492,7 @@ TEST(Questionnaire2, LeCadreSuitLaSouris)
 {
     Banc banc;
     Questionnaire(banc, 1);
-    auto& écran = Ouvrir(banc, 1);
+    auto& écran = OuvrirQuestionnaire1(banc, 1);
     auto& cadre = écran.frameQuestions;
     cadre.MouseMove(300, 200);
     cadre.MouseMove(900, 900); // the drag is under way: its start counts
@@ -517,7 +517,7 @@ TEST(Questionnaire2, QuestionsDisparuesReviennent)
 {
     Banc banc;
     Questionnaire(banc, 1);
-    auto& écran = Ouvrir(banc, 1);
+    auto& écran = OuvrirQuestionnaire1(banc, 1);
     écran.frameQuestions.MouseMove(10, 10);
     écran.frameQuestions.DragDrop(nullptr, 90000, 90000);
     écran.cmdInitialise.Cliquer();

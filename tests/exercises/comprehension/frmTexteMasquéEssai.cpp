@@ -10,7 +10,7 @@ namespace {
 constexpr int IndexTexteMasqué = 2;
 constexpr auto Aide = u"Tu dois d'abord sélectionner un des caractères dans le texte !";
 
-frmTexteMasqué& Ouvrir(Banc& banc, const Texte& texte)
+frmTexteMasqué& OuvrirTexteMasqué(Banc& banc, const Texte& texte)
 {
     banc.ChargerTexte(texte);
     banc.Index(IndexTexteMasqué);
@@ -56,7 +56,7 @@ Texte Points(const frmTexteMasqué& écran)
 TEST(TexteMasqué, OuvertureMasqueLesLettresEtRienDAutre)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc, u"L'été, 2 œufs\r\nà 10°C : ÇA va !");
+    auto& écran = OuvrirTexteMasqué(banc, u"L'été, 2 œufs\r\nà 10°C : ÇA va !");
 
     EXPECT_EQ(écran.Caption, u"Texte Masqué / Léa");
     EXPECT_EQ(Lisible(écran), u".'..., 2 œ...\r\n. 10°. : .. .. !");
@@ -70,7 +70,7 @@ TEST(TexteMasqué, OuvertureMasqueLesLettresEtRienDAutre)
 TEST(TexteMasqué, LesÉtiquettesVontDeAàZ)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc, u"abc");
+    auto& écran = OuvrirTexteMasqué(banc, u"abc");
     EXPECT_EQ(écran.lblLettre.Nombre(), 26);
     EXPECT_EQ(écran.lblLettre(0).Caption, u"A");
     EXPECT_EQ(écran.lblLettre(0).ToolTipText, u" a ");
@@ -84,7 +84,7 @@ TEST(TexteMasqué, LesÉtiquettesVontDeAàZ)
 TEST(TexteMasqué, LaConsigneEtLeBoutonDeFin)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc, u"abc");
+    auto& écran = OuvrirTexteMasqué(banc, u"abc");
     EXPECT_EQ(écran.Label1.Caption,
               u"Choisis le caractère à remplacer dans le texte, puis clique sur la lettre ou utilise le clavier.");
     EXPECT_EQ(écran.fin.Bouton.Caption, u"&Quitter");
@@ -116,7 +116,7 @@ TEST(TexteMasqué, LeMasqueGardeLesFormatsSaufLaBarre)
 TEST(TexteMasqué, LettreJusteDévoileToutesSesFormes)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc, u"eéèêëEÊËÈÉ et aàâäÂAÀ");
+    auto& écran = OuvrirTexteMasqué(banc, u"eéèêëEÊËÈÉ et aàâäÂAÀ");
 
     Proposer(écran, 2, u'E');
 
@@ -135,7 +135,7 @@ TEST(TexteMasqué, LettreJusteDévoileToutesSesFormes)
 TEST(TexteMasqué, UneLettreDévoiléeNAPlusDePlace)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc, u"été");
+    auto& écran = OuvrirTexteMasqué(banc, u"été");
     Proposer(écran, 0, u'E');
     écran.rtfMasqué.Cliquer(2);
     EXPECT_EQ(écran.rtfMasqué.SelLength(), 0U);
@@ -146,7 +146,7 @@ TEST(TexteMasqué, UneLettreDévoiléeNAPlusDePlace)
 TEST(TexteMasqué, LettreFausseRetireUnPointEtReste)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc, u"abc");
+    auto& écran = OuvrirTexteMasqué(banc, u"abc");
     Proposer(écran, 0, u'A');
     Proposer(écran, 1, u'X');
 
@@ -163,7 +163,7 @@ TEST(TexteMasqué, LettreFausseRetireUnPointEtReste)
 TEST(TexteMasqué, PremièreLettreFausseLaisseZéroEtCompteUnEssai)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc, u"abc");
+    auto& écran = OuvrirTexteMasqué(banc, u"abc");
     Proposer(écran, 0, u'B');
     EXPECT_EQ(Points(écran), u"0 / 1");
 }
@@ -171,7 +171,7 @@ TEST(TexteMasqué, PremièreLettreFausseLaisseZéroEtCompteUnEssai)
 TEST(TexteMasqué, LettreDUnAutreMotEstFausseIci)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc, u"ab");
+    auto& écran = OuvrirTexteMasqué(banc, u"ab");
     Proposer(écran, 0, u'B');
     EXPECT_EQ(Lisible(écran), u"..");
     EXPECT_TRUE(Lettre(écran, u'B').Visible);
@@ -180,7 +180,7 @@ TEST(TexteMasqué, LettreDUnAutreMotEstFausseIci)
 TEST(TexteMasqué, SansPlaceChoisieUneAideEtRienNeCompte)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc, u"a, b");
+    auto& écran = OuvrirTexteMasqué(banc, u"a, b");
     AnnoncerAide(banc);
     Lettre(écran, u'A').Cliquer();
     écran.rtfMasqué.Cliquer(0);
@@ -200,7 +200,7 @@ TEST(TexteMasqué, SansPlaceChoisieUneAideEtRienNeCompte)
 TEST(TexteMasqué, FerméPendantLAide)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc, u"abc");
+    auto& écran = OuvrirTexteMasqué(banc, u"abc");
     banc.plateforme.boîtes.push_back({Aide, Réponse::Ok, u"Aide", [&] { écran.FermerParCroix(); }});
     Frapper(écran, u'a');
     EXPECT_FALSE(écran.EstChargé());
@@ -210,7 +210,7 @@ TEST(TexteMasqué, FerméPendantLAide)
 TEST(TexteMasqué, LeClavierVautUneÉtiquette)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc, u"Le chat à côté");
+    auto& écran = OuvrirTexteMasqué(banc, u"Le chat à côté");
     écran.rtfMasqué.Cliquer(5);
     EXPECT_FALSE(Frapper(écran, u'a')) << "la frappe n'entre jamais dans le texte";
     EXPECT_EQ(Lisible(écran), u".. ..a. à ....");
@@ -228,7 +228,7 @@ TEST(TexteMasqué, FrappesAccentuéesSuiventLeurTable)
     for (const auto& [frappe, texte] : {Cas{u'à', u"a"}, Cas{u'A', u"â"}, Cas{u'ç', u"C"}, Cas{u'É', u"e"},
                                         Cas{u'Ï', u"i"}, Cas{u'ö', u"O"}, Cas{u'Û', u"ù"}, Cas{u'z', u"Z"}}) {
         Banc banc;
-        auto& écran = Ouvrir(banc, texte);
+        auto& écran = OuvrirTexteMasqué(banc, texte);
         écran.rtfMasqué.Cliquer(0);
         EXPECT_FALSE(Frapper(écran, frappe));
         EXPECT_EQ(écran.rtfMasqué.Text(), texte);
@@ -239,7 +239,7 @@ TEST(TexteMasqué, FrappesAccentuéesSuiventLeurTable)
 TEST(TexteMasqué, FrappesSansÉtiquetteNeFontQuEffacerLaSélection)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc, u"Âüù");
+    auto& écran = OuvrirTexteMasqué(banc, u"Âüù");
     for (const char16_t frappe : VueTexte{u"ÂüÙÄœ5;\x1B"}) {
         écran.rtfMasqué.Cliquer(0);
         EXPECT_EQ(écran.rtfMasqué.SelLength(), 1U);
@@ -253,7 +253,7 @@ TEST(TexteMasqué, FrappesSansÉtiquetteNeFontQuEffacerLaSélection)
 TEST(TexteMasqué, FrappeDUneLettreDévoiléeNeCompteRien)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc, u"ab");
+    auto& écran = OuvrirTexteMasqué(banc, u"ab");
     Proposer(écran, 0, u'A');
     écran.rtfMasqué.Cliquer(1);
     Frapper(écran, u'a');
@@ -264,7 +264,7 @@ TEST(TexteMasqué, FrappeDUneLettreDévoiléeNeCompteRien)
 TEST(TexteMasqué, FrappeSansPlaceChoisieDonneLAide)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc, u"ab");
+    auto& écran = OuvrirTexteMasqué(banc, u"ab");
     AnnoncerAide(banc);
     EXPECT_FALSE(Frapper(écran, u'a'));
     EXPECT_EQ(Points(écran), u"0 / 0");
@@ -273,7 +273,7 @@ TEST(TexteMasqué, FrappeSansPlaceChoisieDonneLAide)
 TEST(TexteMasqué, SeJoueAuClavierSeul)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc, u"ab");
+    auto& écran = OuvrirTexteMasqué(banc, u"ab");
     écran.rtfMasqué.Cliquer(0);
     EXPECT_TRUE(écran.rtfMasqué.Taper({.Code = Touche::Droite})) << "les flèches déplacent le curseur";
     EXPECT_EQ(écran.rtfMasqué.SelLength(), 1U) << "elles n'effacent rien d'elles-mêmes";
@@ -286,7 +286,7 @@ TEST(TexteMasqué, SeJoueAuClavierSeul)
 TEST(TexteMasqué, TexteCompletMontreLaFinEtLaNoteSEnregistre)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc, u"Été au lac");
+    auto& écran = OuvrirTexteMasqué(banc, u"Été au lac");
     Proposer(écran, 0, u'E');
     Proposer(écran, 1, u'T');
     Proposer(écran, 4, u'Z');
@@ -316,7 +316,7 @@ TEST(TexteMasqué, VingtLettresEtCinqErreursFontSix)
 {
     Banc banc;
     const Texte lettres = u"abcdefghijklmnopqrst";
-    auto& écran = Ouvrir(banc, lettres);
+    auto& écran = OuvrirTexteMasqué(banc, lettres);
     for (std::size_t i = 0; i + 1 < lettres.size(); ++i)
         Proposer(écran, i, Majuscule(lettres[i]));
     for (int i = 0; i < 5; ++i)
@@ -330,7 +330,7 @@ TEST(TexteMasqué, VingtLettresEtCinqErreursFontSix)
 TEST(TexteMasqué, LaFinNeSeVoitQuAprèsUneLettreJuste)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc, u"1, 2, 3...");
+    auto& écran = OuvrirTexteMasqué(banc, u"1, 2, 3...");
     EXPECT_FALSE(écran.fin.Cadre.Visible);
     écran.rtfMasqué.Sélectionner(0, 1); // a digit, in clear
     Lettre(écran, u'A').Cliquer();
@@ -346,8 +346,8 @@ TEST(TexteMasqué, LaFinNeSeVoitQuAprèsUneLettreJuste)
 TEST(TexteMasqué, TexteVideEtUnSeulMot)
 {
     Banc banc;
-    EXPECT_EQ(Ouvrir(banc, u"").rtfMasqué.Longueur(), 0U);
-    auto& écran = Ouvrir(banc, u"oh");
+    EXPECT_EQ(OuvrirTexteMasqué(banc, u"").rtfMasqué.Longueur(), 0U);
+    auto& écran = OuvrirTexteMasqué(banc, u"oh");
     Proposer(écran, 0, u'O');
     Proposer(écran, 1, u'H');
     EXPECT_TRUE(écran.fin.Cadre.Visible);
@@ -357,7 +357,7 @@ TEST(TexteMasqué, FermerNEnregistreRienEtVideLettresEtSignes)
 {
     Banc banc;
     banc.état.LettresEtSignes = u"abc";
-    auto& écran = Ouvrir(banc, u"abc");
+    auto& écran = OuvrirTexteMasqué(banc, u"abc");
     Proposer(écran, 0, u'A');
     EXPECT_EQ(banc.état.LettresEtSignes, u"abc");
     EXPECT_FALSE(banc.état.LettresSeules.empty());
@@ -369,7 +369,7 @@ TEST(TexteMasqué, FermerNEnregistreRienEtVideLettresEtSignes)
 TEST(TexteMasqué, LeTexteRemplitLEcranMoinsLaBarre)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc, u"abc");
+    auto& écran = OuvrirTexteMasqué(banc, u"abc");
     écran.Dimensionner(12000, 9000);
     EXPECT_EQ(écran.rtfMasqué.Width, 11850);
     EXPECT_EQ(écran.rtfMasqué.Height, 7900);

@@ -11,7 +11,7 @@ namespace {
 
 constexpr int IndexPhotographier = 11;
 
-frmPhotographier& Ouvrir(Banc& banc, std::vector<Texte> mots)
+frmPhotographier& OuvrirPhotographier(Banc& banc, std::vector<Texte> mots)
 {
     banc.Vocabulaire(std::move(mots));
     banc.Index(IndexPhotographier);
@@ -44,13 +44,13 @@ void Répondre(frmPhotographier& écran, bool juste)
 TEST(Photographier, LégendePorteLeNomDeLElève)
 {
     Banc banc;
-    EXPECT_EQ(Ouvrir(banc, Mots(5)).Caption, u"Photographier / Léa");
+    EXPECT_EQ(OuvrirPhotographier(banc, Mots(5)).Caption, u"Photographier / Léa");
 }
 
 TEST(Photographier, TextesEtCouleursDuDépart)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc, Mots(5));
+    auto& écran = OuvrirPhotographier(banc, Mots(5));
     EXPECT_EQ(écran.cmdAfficher.Caption, u"&Afficher le mot  dans le cadre blanc");
     EXPECT_EQ(écran.Image1.ToolTipText, u" Regarde bien l'endroit indiqué par la flèche. ");
     EXPECT_EQ(écran.Label3.Caption, u"Clique sur le mot que tu as vu.");
@@ -68,7 +68,7 @@ TEST(Photographier, TextesEtCouleursDuDépart)
 TEST(Photographier, QuatreMotsMontrentLeCadreDeSortie)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc, Mots(4));
+    auto& écran = OuvrirPhotographier(banc, Mots(4));
     VérifierNoticeDeVocabulaire(écran);
     EXPECT_FALSE(écran.cmdAfficher.EstAtteignable());
     écran.notice.Bouton.Cliquer();
@@ -79,19 +79,19 @@ TEST(Photographier, QuatreMotsMontrentLeCadreDeSortie)
 TEST(Photographier, SansVocabulaireLeCadreDeSortieParaît)
 {
     Banc banc;
-    EXPECT_TRUE(Ouvrir(banc, {}).notice.Cadre.Visible);
+    EXPECT_TRUE(OuvrirPhotographier(banc, {}).notice.Cadre.Visible);
 }
 
 TEST(Photographier, CinqMotsDontTroisDifférentsMontrentLeCadreDeSortie)
 {
     Banc banc;
-    EXPECT_TRUE(Ouvrir(banc, {u"âne", u"âne", u"bal", u"bal", u"cri"}).notice.Cadre.Visible);
+    EXPECT_TRUE(OuvrirPhotographier(banc, {u"âne", u"âne", u"bal", u"bal", u"cri"}).notice.Cadre.Visible);
 }
 
 TEST(Photographier, CinqMotsDonnentCinqPropositionsEtLaDernièreNEstJamaisMontrée)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc, Mots(5));
+    auto& écran = OuvrirPhotographier(banc, Mots(5));
     EXPECT_FALSE(écran.notice.Cadre.Visible);
     banc.Hasards({0.8, 0.6, 0.4, 0.2, 0.0, 0.9999});
     écran.cmdAfficher.Cliquer();
@@ -104,7 +104,7 @@ TEST(Photographier, CinqMotsDonnentCinqPropositionsEtLaDernièreNEstJamaisMontr�
 TEST(Photographier, DouzeMotsDonnentDixPropositionsDifférentes)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc, Mots(12));
+    auto& écran = OuvrirPhotographier(banc, Mots(12));
     TirerVarié(banc);
     écran.cmdAfficher.Cliquer();
     EXPECT_EQ(Propositions(écran), 10);
@@ -117,7 +117,7 @@ TEST(Photographier, DouzeMotsDonnentDixPropositionsDifférentes)
 TEST(Photographier, DixPropositionsLaissentLaDernièreHorsDuTirage)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc, Mots(10));
+    auto& écran = OuvrirPhotographier(banc, Mots(10));
     banc.Hasards({0.0, 0.1, 0.2, 0.3, 0.4, 0.5, 0.6, 0.7, 0.8, 0.9, 0.9999});
     écran.cmdAfficher.Cliquer();
     EXPECT_EQ(écran.lblMot.Caption, écran.lblRéponse(8).Caption);
@@ -126,7 +126,7 @@ TEST(Photographier, DixPropositionsLaissentLaDernièreHorsDuTirage)
 TEST(Photographier, DoublonsDonnentMoinsDePropositions)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc, {u"âne", u"âne", u"âne", u"bal", u"cri", u"dos", u"eau", u"eau"});
+    auto& écran = OuvrirPhotographier(banc, {u"âne", u"âne", u"âne", u"bal", u"cri", u"dos", u"eau", u"eau"});
     banc.Hasards({0.0, 0.2, 0.4, 0.5, 0.7, 0.8, 0.9999});
     écran.cmdAfficher.Cliquer();
     EXPECT_EQ(Propositions(écran), 5);
@@ -138,7 +138,7 @@ TEST(Photographier, DoublonsDonnentMoinsDePropositions)
 TEST(Photographier, MotEstPeintAvantQueLeTempsNeCoureEtDisparaîtALaFin)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc, Mots(6));
+    auto& écran = OuvrirPhotographier(banc, Mots(6));
     TirerVarié(banc);
     double paru = 0;
     double disparu = 0;
@@ -163,7 +163,7 @@ TEST(Photographier, MotEstPeintAvantQueLeTempsNeCoureEtDisparaîtALaFin)
 TEST(Photographier, NouveauMotEffaceLesPropositionsDAvant)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc, Mots(6));
+    auto& écran = OuvrirPhotographier(banc, Mots(6));
     TirerVarié(banc);
     Répondre(écran, false);
     bool vu = false;
@@ -182,7 +182,7 @@ TEST(Photographier, NouveauMotEffaceLesPropositionsDAvant)
 TEST(Photographier, QuatreRéponsesJustesMènentATrèsRapideEtLaCinquièmeYReste)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc, Mots(12));
+    auto& écran = OuvrirPhotographier(banc, Mots(12));
     TirerVarié(banc);
     EXPECT_EQ(écran.lblVitesse.Caption, u"Assez rapide");
     EXPECT_EQ(écran.Chrono.Interval, 100);
@@ -202,7 +202,7 @@ TEST(Photographier, QuatreRéponsesJustesMènentATrèsRapideEtLaCinquièmeYReste
 TEST(Photographier, DeuxRéponsesFaussesMènentALentEtLaTroisièmeYReste)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc, Mots(12));
+    auto& écran = OuvrirPhotographier(banc, Mots(12));
     TirerVarié(banc);
     Répondre(écran, false);
     EXPECT_EQ(écran.lblVitesse.Caption, u"Lent");
@@ -218,7 +218,7 @@ TEST(Photographier, DeuxRéponsesFaussesMènentALentEtLaTroisièmeYReste)
 TEST(Photographier, NiveauxSeRemontentEtSeRedescendentUnAUn)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc, Mots(12));
+    auto& écran = OuvrirPhotographier(banc, Mots(12));
     TirerVarié(banc);
     Répondre(écran, false);
     Répondre(écran, true);
@@ -237,7 +237,7 @@ TEST(Photographier, NiveauxSeRemontentEtSeRedescendentUnAUn)
 TEST(Photographier, RéponseFausseEstRougeEtLeMotVuJaune)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc, Mots(5));
+    auto& écran = OuvrirPhotographier(banc, Mots(5));
     banc.Hasards({0.0, 0.2, 0.4, 0.6, 0.8, 0.3}); // the second one is shown
     écran.cmdAfficher.Cliquer();
     écran.lblRéponse(4).Cliquer();
@@ -249,7 +249,7 @@ TEST(Photographier, RéponseFausseEstRougeEtLeMotVuJaune)
 TEST(Photographier, RéponseJusteEstVerte)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc, Mots(5));
+    auto& écran = OuvrirPhotographier(banc, Mots(5));
     banc.Hasards({0.0, 0.2, 0.4, 0.6, 0.8, 0.0});
     écran.cmdAfficher.Cliquer();
     écran.lblRéponse(0).Cliquer();
@@ -261,7 +261,7 @@ TEST(Photographier, RéponseJusteEstVerte)
 TEST(Photographier, SecondClicAprèsLaRéponseNeChangeRien)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc, Mots(5));
+    auto& écran = OuvrirPhotographier(banc, Mots(5));
     banc.Hasards({0.0, 0.2, 0.4, 0.6, 0.8, 0.0});
     écran.cmdAfficher.Cliquer();
     écran.lblRéponse(1).Cliquer();
@@ -276,7 +276,7 @@ TEST(Photographier, SecondClicAprèsLaRéponseNeChangeRien)
 TEST(Photographier, BoutonAttendLaRéponse)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc, Mots(5));
+    auto& écran = OuvrirPhotographier(banc, Mots(5));
     TirerVarié(banc);
     écran.cmdAfficher.Cliquer();
     const Texte mot = écran.lblMot.Caption;
@@ -290,7 +290,7 @@ TEST(Photographier, BoutonAttendLaRéponse)
 TEST(Photographier, ClavierPasseDuBoutonAuxPropositionsEtRetour)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc, Mots(5));
+    auto& écran = OuvrirPhotographier(banc, Mots(5));
     TirerVarié(banc);
     EXPECT_EQ(écran.Focus(), &écran.cmdAfficher);
     écran.cmdAfficher.Cliquer();
@@ -302,7 +302,7 @@ TEST(Photographier, ClavierPasseDuBoutonAuxPropositionsEtRetour)
 TEST(Photographier, ClicsSauvagesPendantLeFlashNeFontRien)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc, Mots(5));
+    auto& écran = OuvrirPhotographier(banc, Mots(5));
     TirerVarié(banc);
     banc.plateforme.Prévoir(50ms, [&] {
         écran.cmdAfficher.Cliquer();
@@ -320,7 +320,7 @@ TEST(Photographier, ClicsSauvagesPendantLeFlashNeFontRien)
 TEST(Photographier, FermetureDuFlashNEnregistreRien)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc, Mots(5));
+    auto& écran = OuvrirPhotographier(banc, Mots(5));
     TirerVarié(banc);
     banc.plateforme.Prévoir(50ms, [&] { écran.FermerParCroix(); });
     écran.cmdAfficher.Cliquer();
@@ -333,7 +333,7 @@ TEST(Photographier, FermetureDuFlashNEnregistreRien)
 TEST(Photographier, FermetureAprèsDesRéponsesNEnregistreRien)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc, Mots(5));
+    auto& écran = OuvrirPhotographier(banc, Mots(5));
     TirerVarié(banc);
     Répondre(écran, true);
     écran.FermerParCroix();
@@ -344,7 +344,7 @@ TEST(Photographier, FermetureAprèsDesRéponsesNEnregistreRien)
 TEST(Photographier, VingtRéponsesFaussesDonnentZéro)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc, Mots(12));
+    auto& écran = OuvrirPhotographier(banc, Mots(12));
     TirerVarié(banc);
     for (int i = 0; i < 19; ++i)
         Répondre(écran, false);
@@ -361,7 +361,7 @@ TEST(Photographier, VingtRéponsesFaussesDonnentZéro)
 TEST(Photographier, BoutonDeSortieEstPeintAussitôtEtALeClavier)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc, Mots(12));
+    auto& écran = OuvrirPhotographier(banc, Mots(12));
     TirerVarié(banc);
     bool peint = false;
     banc.plateforme.auRepeint = [&](Ecran&) { peint = écran.cmdQuitter.Visible; };
@@ -376,7 +376,7 @@ TEST(Photographier, BoutonDeSortieEstPeintAussitôtEtALeClavier)
 TEST(Photographier, VingtRéponsesJustesDonnentDixEtLeBilanEstEcrit)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc, Mots(12));
+    auto& écran = OuvrirPhotographier(banc, Mots(12));
     TirerVarié(banc);
     for (int i = 0; i < 20; ++i)
         Répondre(écran, true);

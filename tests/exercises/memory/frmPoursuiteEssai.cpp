@@ -22,7 +22,7 @@ Texte Phrase(const std::vector<Texte>& mots)
     return phrase;
 }
 
-frmPoursuite& Ouvrir(Banc& banc, Texte texte)
+frmPoursuite& OuvrirPoursuite(Banc& banc, Texte texte)
 {
     banc.ChargerTexte(std::move(texte));
     banc.Index(IndexPoursuite);
@@ -86,7 +86,7 @@ private:
 TEST(Poursuite, OuvertureMontreLaConsigne)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc, Phrase(Mots(50)));
+    auto& écran = OuvrirPoursuite(banc, Phrase(Mots(50)));
     EXPECT_EQ(écran.Caption, u"Poursuite / Léa");
     EXPECT_EQ(banc.état.VitessePoursuite, 100);
     EXPECT_TRUE(écran.frameConsigne.Visible);
@@ -99,7 +99,7 @@ TEST(Poursuite, OuvertureMontreLaConsigne)
 TEST(Poursuite, TextesCouleursEtIntervallesDuDépart)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc, Phrase(Mots(50)));
+    auto& écran = OuvrirPoursuite(banc, Phrase(Mots(50)));
     EXPECT_EQ(écran.lblConsigne.Caption, u"Le texte va apparaître progressivement. Essaie de me suivre !");
     EXPECT_EQ(écran.cmdCommencer.Caption, u"&Commencer");
     EXPECT_EQ(écran.Label1.Caption, u"Clique sur le dernier mot qui est apparu.");
@@ -121,7 +121,7 @@ TEST(Poursuite, TextesCouleursEtIntervallesDuDépart)
 TEST(Poursuite, BoîteSuitLaTailleDeLEcranAPartirDeMilleTwips)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc, Phrase(Mots(50)));
+    auto& écran = OuvrirPoursuite(banc, Phrase(Mots(50)));
     écran.Dimensionner(1000, 1000);
     EXPECT_EQ(écran.rtfPoursuite.Width, 850);
     EXPECT_EQ(écran.rtfPoursuite.Height, 500);
@@ -166,7 +166,7 @@ TEST(Poursuite, TexteEstBlancSurBlancEtSansMarquesAvantDeParaître)
 TEST(Poursuite, TexteNEstJamaisPeintDansSesCouleurs)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc, Phrase(Mots(50)));
+    auto& écran = OuvrirPoursuite(banc, Phrase(Mots(50)));
     banc.plateforme.auRepeint = [&](Ecran&) {
         if (écran.rtfPoursuite.Visible) {
             EXPECT_EQ(FormatEn(écran, 200).Teinte, Blanc);
@@ -181,7 +181,7 @@ TEST(Poursuite, TexteNEstJamaisPeintDansSesCouleurs)
 TEST(Poursuite, LettresParaissentJusquAuBlancDeLArrêtPuisLaDernièreReste)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc, Phrase(Mots(50)));
+    auto& écran = OuvrirPoursuite(banc, Phrase(Mots(50)));
     AnnoncerArrêtEnMot04(banc);
     const Relevé relevé{banc, écran};
     const double départ = banc.plateforme.Horloge();
@@ -204,7 +204,7 @@ TEST(Poursuite, LettresParaissentJusquAuBlancDeLArrêtPuisLaDernièreReste)
 TEST(Poursuite, ArrêtTombeEntreLeDixièmeEtQuaranteTroisCentièmes)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc, Phrase(Mots(50)));
+    auto& écran = OuvrirPoursuite(banc, Phrase(Mots(50)));
     banc.Hasards({0.9999, 0.5}); // 29 + 99: the blank at 132
     const Relevé relevé{banc, écran};
     écran.cmdCommencer.Cliquer();
@@ -215,7 +215,7 @@ TEST(Poursuite, ArrêtTombeEntreLeDixièmeEtQuaranteTroisCentièmes)
 TEST(Poursuite, DixPropositionsDifférentesSontDesMotsDuTexte)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc, Phrase(Mots(50)));
+    auto& écran = OuvrirPoursuite(banc, Phrase(Mots(50)));
     écran.cmdCommencer.Cliquer();
     std::set<Texte> vus;
     const auto mots = Mots(50);
@@ -231,7 +231,7 @@ TEST(Poursuite, DixPropositionsDifférentesSontDesMotsDuTexte)
 TEST(Poursuite, MotJusteNEstJamaisEnDernierePlace)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc, Phrase(Mots(50)));
+    auto& écran = OuvrirPoursuite(banc, Phrase(Mots(50)));
     banc.Hasards({0.0, 0.9999999});
     écran.cmdCommencer.Cliquer();
     EXPECT_EQ(écran.lblMot(8).Caption, écran.lblCorrigé.Caption);
@@ -241,7 +241,7 @@ TEST(Poursuite, MotJusteNEstJamaisEnDernierePlace)
 TEST(Poursuite, MotDéjàProposéEstTiréDeNouveau)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc, Phrase(Mots(50)));
+    auto& écran = OuvrirPoursuite(banc, Phrase(Mots(50)));
     // Places 25 and on, over 273: the blanks at 30 and 36. The right word is first, at lblMot(0).
     banc.Hasards({0.0, 0.0, 0.0, 0.01, 0.03, 0.03, 0.05});
     écran.cmdCommencer.Cliquer();
@@ -256,7 +256,7 @@ TEST(Poursuite, ArrêtDerrièreUneVirguleEstTiréDeNouveau)
     auto mots = Mots(50);
     for (std::size_t i = 1; i < mots.size(); i += 2)
         mots[i].back() = u',';
-    auto& écran = Ouvrir(banc, Phrase(mots));
+    auto& écran = OuvrirPoursuite(banc, Phrase(mots));
     banc.Hasards({0.03, 0.03, 0.0, 0.5}); // twice behind "mot0,"
     écran.cmdCommencer.Cliquer();
     EXPECT_EQ(écran.lblCorrigé.Caption, u"mot04");
@@ -269,7 +269,7 @@ TEST(Poursuite, MotATraitsDUnionEstUnSeulMot)
     Banc banc;
     auto mots = Mots(50);
     mots[4] = u"a-b-c";
-    auto& écran = Ouvrir(banc, Phrase(mots));
+    auto& écran = OuvrirPoursuite(banc, Phrase(mots));
     AnnoncerArrêtEnMot04(banc);
     écran.cmdCommencer.Cliquer();
     EXPECT_EQ(écran.lblCorrigé.Caption, u"a-b-c");
@@ -280,7 +280,7 @@ TEST(Poursuite, ApostropheFinitLeMot)
     Banc banc;
     auto mots = Mots(50);
     mots[4] = u"l'eau";
-    auto& écran = Ouvrir(banc, Phrase(mots));
+    auto& écran = OuvrirPoursuite(banc, Phrase(mots));
     AnnoncerArrêtEnMot04(banc);
     écran.cmdCommencer.Cliquer();
     EXPECT_EQ(écran.lblCorrigé.Caption, u"eau");
@@ -292,7 +292,7 @@ TEST(Poursuite, LigatureCoupeLeMotMaisNonLAccent)
     auto mots = Mots(50);
     mots[4] = u"sœurs";
     mots[5] = u"élève";
-    auto& écran = Ouvrir(banc, Phrase(mots));
+    auto& écran = OuvrirPoursuite(banc, Phrase(mots));
     banc.Hasards({0.0, 0.5});
     écran.cmdCommencer.Cliquer();
     EXPECT_EQ(écran.lblCorrigé.Caption, u"urs");
@@ -308,7 +308,7 @@ TEST(Poursuite, PauseDUnSigneSeSentUnCaractèrePlusLoin)
         Banc banc;
         auto mots = Mots(50);
         mots[0].back() = signe; // at place 4
-        auto& écran = Ouvrir(banc, Phrase(mots));
+        auto& écran = OuvrirPoursuite(banc, Phrase(mots));
         AnnoncerArrêtEnMot04(banc);
         const Relevé relevé{banc, écran};
         écran.cmdCommencer.Cliquer();
@@ -322,7 +322,7 @@ TEST(Poursuite, PauseDUnSigneSeSentUnCaractèrePlusLoin)
 TEST(Poursuite, CinqRéponsesJustesVontA100Puis1)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc, Phrase(Mots(50)));
+    auto& écran = OuvrirPoursuite(banc, Phrase(Mots(50)));
     const Relevé relevé{banc, écran};
     for (int i = 0; i < 5; ++i) {
         AnnoncerArrêtEnMot04(banc);
@@ -339,7 +339,7 @@ TEST(Poursuite, CinqRéponsesJustesVontA100Puis1)
 TEST(Poursuite, CinqRéponsesFaussesVontA100Puis200Puis400)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc, Phrase(Mots(50)));
+    auto& écran = OuvrirPoursuite(banc, Phrase(Mots(50)));
     const Relevé relevé{banc, écran};
     static constexpr std::array<long, 5> Délais{100, 200, 400, 400, 400};
     for (std::size_t i = 0; i < Délais.size(); ++i) {
@@ -355,7 +355,7 @@ TEST(Poursuite, CinqRéponsesFaussesVontA100Puis200Puis400)
 TEST(Poursuite, VitesseRemonteParDegrésEtRepartDeUnVersCent)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc, Phrase(Mots(50)));
+    auto& écran = OuvrirPoursuite(banc, Phrase(Mots(50)));
     écran.cmdCommencer.Cliquer();
     const auto répondre = [&](bool juste) {
         Proposition(écran, juste).Cliquer();
@@ -374,7 +374,7 @@ TEST(Poursuite, VitesseRemonteParDegrésEtRepartDeUnVersCent)
 TEST(Poursuite, RéponseFausseEstRougeEtLeMotJusteNEstPasMontré)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc, Phrase(Mots(50)));
+    auto& écran = OuvrirPoursuite(banc, Phrase(Mots(50)));
     écran.cmdCommencer.Cliquer();
     auto& fausse = Proposition(écran, false);
     fausse.Cliquer();
@@ -387,7 +387,7 @@ TEST(Poursuite, RéponseFausseEstRougeEtLeMotJusteNEstPasMontré)
 TEST(Poursuite, SecondClicAprèsLaRéponseNeChangeRien)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc, Phrase(Mots(50)));
+    auto& écran = OuvrirPoursuite(banc, Phrase(Mots(50)));
     écran.cmdCommencer.Cliquer();
     Proposition(écran, false).Cliquer();
     for (auto& mot : écran.lblMot)
@@ -400,7 +400,7 @@ TEST(Poursuite, SecondClicAprèsLaRéponseNeChangeRien)
 TEST(Poursuite, PoursuiteSuivanteEffaceLesPropositions)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc, Phrase(Mots(50)));
+    auto& écran = OuvrirPoursuite(banc, Phrase(Mots(50)));
     écran.cmdCommencer.Cliquer();
     Proposition(écran, true).Cliquer();
     banc.plateforme.Prévoir(10ms, [&] {
@@ -422,7 +422,7 @@ namespace {
 void VérifierRefus(Texte texte)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc, std::move(texte));
+    auto& écran = OuvrirPoursuite(banc, std::move(texte));
     banc.AnnoncerBoîte(u"Ce texte ne convient pas…");
     écran.cmdCommencer.Cliquer();
     EXPECT_FALSE(écran.EstChargé());
@@ -463,7 +463,7 @@ TEST(Poursuite, TexteDontLesArrêtsSontHorsDePortéeEstRefusé)
 TEST(Poursuite, ArrêtPeutTomberAprèsUnLongPassageSansBlanc)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc, Texte(200, u'x') + u" deux trois quatre");
+    auto& écran = OuvrirPoursuite(banc, Texte(200, u'x') + u" deux trois quatre");
     écran.cmdCommencer.Cliquer();
     EXPECT_EQ(écran.lblCorrigé.Caption, Texte(200, u'x'));
     EXPECT_EQ(Propositions(écran), 3); // "quatre" stands before no blank
@@ -475,7 +475,7 @@ TEST(Poursuite, QuatreMotsDifférentsDonnentQuatrePropositions)
     Texte texte;
     for (int i = 0; i < 20; ++i)
         texte += u"un deux trois quatre ";
-    auto& écran = Ouvrir(banc, texte);
+    auto& écran = OuvrirPoursuite(banc, texte);
     écran.cmdCommencer.Cliquer();
     EXPECT_EQ(Propositions(écran), 4);
     Proposition(écran, true).Cliquer();
@@ -488,7 +488,7 @@ TEST(Poursuite, MotsTousEgauxNeDonnentQueLeBon)
     Texte texte;
     for (int i = 0; i < 100; ++i)
         texte += u"mot ";
-    auto& écran = Ouvrir(banc, texte);
+    auto& écran = OuvrirPoursuite(banc, texte);
     écran.cmdCommencer.Cliquer();
     EXPECT_EQ(Propositions(écran), 1);
     EXPECT_EQ(Proposition(écran, true).Caption, u"mot");
@@ -501,7 +501,7 @@ TEST(Poursuite, MotRareFinitParSortir)
     Texte texte;
     for (int i = 0; i < 5000; ++i)
         texte += u"mot ";
-    auto& écran = Ouvrir(banc, texte + u"rare mot ");
+    auto& écran = OuvrirPoursuite(banc, texte + u"rare mot ");
     écran.cmdCommencer.Cliquer();
     EXPECT_EQ(Propositions(écran), 2);
     EXPECT_EQ(Proposition(écran, false).Caption, u"rare");
@@ -512,7 +512,7 @@ TEST(Poursuite, TextesPlusCourtsQueLaMargeDuTirageFinissentAussi)
     const Texte texte = u"un chat dort là, un rat le voit bien et va";
     for (std::size_t longueur = 3; longueur <= texte.size(); ++longueur) {
         Banc banc;
-        auto& écran = Ouvrir(banc, texte.substr(0, longueur));
+        auto& écran = OuvrirPoursuite(banc, texte.substr(0, longueur));
         écran.cmdCommencer.Cliquer();
         EXPECT_TRUE(écran.frameMot.Visible) << longueur;
         EXPECT_GE(Propositions(écran), 1) << longueur;
@@ -522,7 +522,7 @@ TEST(Poursuite, TextesPlusCourtsQueLaMargeDuTirageFinissentAussi)
 TEST(Poursuite, FinsDeLigneNeSontPasDesBlancs)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc, u"un\r\ndeux\r\ntrois quatre\r\ncinq six\r\n");
+    auto& écran = OuvrirPoursuite(banc, u"un\r\ndeux\r\ntrois quatre\r\ncinq six\r\n");
     écran.cmdCommencer.Cliquer();
     EXPECT_TRUE(écran.lblCorrigé.Caption == u"trois" || écran.lblCorrigé.Caption == u"cinq");
 }
@@ -534,7 +534,7 @@ TEST(Poursuite, ClicsPendantLaPoursuiteNeDérangentRien)
     Banc banc;
     auto mots = Mots(50);
     mots[0].back() = u'.';
-    auto& écran = Ouvrir(banc, Phrase(mots));
+    auto& écran = OuvrirPoursuite(banc, Phrase(mots));
     AnnoncerArrêtEnMot04(banc);
     const Relevé relevé{banc, écran};
     banc.plateforme.Prévoir(550ms, [&] {
@@ -557,7 +557,7 @@ TEST(Poursuite, FermeturePendantLaPoursuiteNEnregistreRien)
 {
     for (const auto délai : {0ms, 50ms, 1550ms, 2999ms, 3100ms, 3399ms}) { // letters until 3000, then the last pause
         Banc banc;
-        auto& écran = Ouvrir(banc, Phrase(Mots(50)));
+        auto& écran = OuvrirPoursuite(banc, Phrase(Mots(50)));
         AnnoncerArrêtEnMot04(banc);
         banc.plateforme.Prévoir(délai, [&] { écran.FermerParCroix(); });
         écran.cmdCommencer.Cliquer();
@@ -572,7 +572,7 @@ TEST(Poursuite, FermeturePendantLaPoursuiteNEnregistreRien)
 TEST(Poursuite, FermetureEntreDeuxPoursuitesNEnregistreRien)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc, Phrase(Mots(50)));
+    auto& écran = OuvrirPoursuite(banc, Phrase(Mots(50)));
     écran.cmdCommencer.Cliquer();
     Proposition(écran, true).Cliquer();
     écran.FermerParCroix();

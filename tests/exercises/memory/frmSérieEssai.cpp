@@ -9,7 +9,7 @@ namespace {
 
 constexpr int IndexSérie = 12;
 
-frmSérie& Ouvrir(Banc& banc, std::vector<Texte> mots)
+frmSérie& OuvrirSérie(Banc& banc, std::vector<Texte> mots)
 {
     banc.Vocabulaire(std::move(mots));
     banc.Index(IndexSérie);
@@ -59,14 +59,14 @@ TEST(Série, LégendePorteLeNomDeLElève)
 {
     Banc banc;
     TirerVarié(banc);
-    EXPECT_EQ(Ouvrir(banc, Mots(5)).Caption, u"Mémoriser une série / Léa");
+    EXPECT_EQ(OuvrirSérie(banc, Mots(5)).Caption, u"Mémoriser une série / Léa");
 }
 
 TEST(Série, TextesBullesEtCouleursDuDépart)
 {
     Banc banc;
     TirerVarié(banc);
-    auto& écran = Ouvrir(banc, Mots(5));
+    auto& écran = OuvrirSérie(banc, Mots(5));
     EXPECT_EQ(écran.frameChoix.Caption, u"Clique sur ces mots");
     EXPECT_EQ(écran.lblConsigne.Caption, u" Clique sur les mots dans l'ordre dans lequel ils sont apparus. ");
     EXPECT_FALSE(écran.lblConsigne.Visible);
@@ -82,7 +82,7 @@ TEST(Série, TextesBullesEtCouleursDuDépart)
 TEST(Série, QuatreMotsMontrentLeCadreDeSortie)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc, Mots(4)); // and nothing is drawn
+    auto& écran = OuvrirSérie(banc, Mots(4)); // and nothing is drawn
     VérifierNoticeDeVocabulaire(écran);
     EXPECT_FALSE(écran.cmdVoir.EstAtteignable());
     écran.notice.Bouton.Cliquer();
@@ -93,14 +93,14 @@ TEST(Série, QuatreMotsMontrentLeCadreDeSortie)
 TEST(Série, SixMotsDontQuatreDifférentsMontrentLeCadreDeSortie)
 {
     Banc banc;
-    EXPECT_TRUE(Ouvrir(banc, {u"âne", u"âne", u"bal", u"cri", u"cri", u"dos"}).notice.Cadre.Visible);
+    EXPECT_TRUE(OuvrirSérie(banc, {u"âne", u"âne", u"bal", u"cri", u"cri", u"dos"}).notice.Cadre.Visible);
 }
 
 TEST(Série, CinqMotsFontUneSérieDeCinq)
 {
     Banc banc;
     TirerVarié(banc);
-    auto& écran = Ouvrir(banc, Mots(5));
+    auto& écran = OuvrirSérie(banc, Mots(5));
     EXPECT_EQ(écran.lblPoints(1).Caption, u"5");
     EXPECT_EQ(banc.état.NoteSérie, 4);
     EXPECT_TRUE(écran.lblChoix(4).Visible);
@@ -112,7 +112,7 @@ TEST(Série, TrenteMotsFontUneSérieDeDix)
 {
     Banc banc;
     TirerVarié(banc);
-    auto& écran = Ouvrir(banc, Mots(30));
+    auto& écran = OuvrirSérie(banc, Mots(30));
     EXPECT_EQ(écran.lblPoints(1).Caption, u"10");
     EXPECT_TRUE(écran.lblChoix(9).Visible);
     for (int i = 0; i < 10; ++i) {
@@ -127,7 +127,7 @@ TEST(Série, DoublonsRaccourcissentLaSérie)
 {
     Banc banc;
     TirerVarié(banc);
-    auto& écran = Ouvrir(banc, {u"âne", u"âne", u"âne", u"bal", u"cri", u"dos", u"eau", u"eau"});
+    auto& écran = OuvrirSérie(banc, {u"âne", u"âne", u"âne", u"bal", u"cri", u"dos", u"eau", u"eau"});
     EXPECT_EQ(écran.lblPoints(1).Caption, u"5");
     JouerSérie(écran, 5);
     EXPECT_EQ(écran.cmdContinuer.Caption, u"&Quitter");
@@ -138,7 +138,7 @@ TEST(Série, MotsSontTirésPuisRangésDansUnOrdreSecret)
     Banc banc;
     banc.Hasards({0.0, 0.0, 0.2, 0.4, 0.6, 0.8});  // a repeat is drawn again
     banc.Hasards({0.8, 0.99, 0.6, 0.4, 0.2, 0.0}); // here too
-    auto& écran = Ouvrir(banc, Mots(5));
+    auto& écran = OuvrirSérie(banc, Mots(5));
     EXPECT_EQ(écran.lblChoix(0).Caption, u"mot00");
     EXPECT_EQ(écran.lblChoix(4).Caption, u"mot04");
     EXPECT_EQ(écran.lblRéponse(0).Caption, u"mot04");
@@ -149,7 +149,7 @@ TEST(Série, CasesSontToutesAussiLargesQueLeMotLePlusLong)
 {
     Banc banc;
     TirerVarié(banc);
-    auto& écran = Ouvrir(banc, {u"âne", u"bal", u"cri", u"dos", u"extraordinaire"});
+    auto& écran = OuvrirSérie(banc, {u"âne", u"bal", u"cri", u"dos", u"extraordinaire"});
     const auto largeur = banc.plateforme.LargeurTexte(u"extraordinaire", écran.lblMot(0).FontSize);
     for (int i = 0; i < 10; ++i) {
         EXPECT_GE(écran.lblMot(i).Width, largeur);
@@ -166,7 +166,7 @@ TEST(Série, LonguePhraseEtSaCaseTiennentDansLaMoitiéDeLEcran)
 {
     Banc banc;
     TirerVarié(banc);
-    auto& écran = Ouvrir(banc, {u"âne", u"bal", u"cri", u"dos", Texte(300, u'e')});
+    auto& écran = OuvrirSérie(banc, {u"âne", u"bal", u"cri", u"dos", Texte(300, u'e')});
     écran.Dimensionner(16000, 9000);
     écran.Dimensionner(12000, 9000);
     for (int i = 0; i < 5; ++i) {
@@ -184,7 +184,7 @@ TEST(Série, MotsParaissentUnParUnAprèsUneSecondeEtLesCasesSeVident)
 {
     Banc banc;
     TirerVarié(banc);
-    auto& écran = Ouvrir(banc, Mots(5));
+    auto& écran = OuvrirSérie(banc, Mots(5));
     Répéter(écran, 1);
     const double départ = banc.plateforme.Horloge();
     std::vector<std::pair<int, double>> vus; // words on the screen, and when
@@ -212,7 +212,7 @@ TEST(Série, ListeDesMotsEstCachéePendantLAffichage)
 {
     Banc banc;
     TirerVarié(banc);
-    auto& écran = Ouvrir(banc, Mots(5));
+    auto& écran = OuvrirSérie(banc, Mots(5));
     bool vérifié = false;
     banc.plateforme.Prévoir(1500ms, [&] {
         vérifié = true;
@@ -231,7 +231,7 @@ TEST(Série, ClicsAvantLePremierAffichageNeChangentRien)
 {
     Banc banc;
     TirerVarié(banc);
-    auto& écran = Ouvrir(banc, Mots(5));
+    auto& écran = OuvrirSérie(banc, Mots(5));
     for (auto& choix : écran.lblChoix)
         choix.Cliquer();
     EXPECT_EQ(écran.lblPoints(0).Caption, u"0");
@@ -243,7 +243,7 @@ TEST(Série, ClicsTantQueVoirEstVisibleNeChangentRien)
 {
     Banc banc;
     TirerVarié(banc);
-    auto& écran = Ouvrir(banc, Mots(5));
+    auto& écran = OuvrirSérie(banc, Mots(5));
     Répéter(écran, 1);
     EXPECT_TRUE(écran.cmdVoir.Visible);
     for (auto& choix : écran.lblChoix)
@@ -257,7 +257,7 @@ TEST(Série, MotJusteRemplitSaCaseEtLaSuivanteAttend)
 {
     Banc banc;
     TirerVarié(banc);
-    auto& écran = Ouvrir(banc, Mots(5));
+    auto& écran = OuvrirSérie(banc, Mots(5));
     Répéter(écran, 1);
     Répéter(écran, 1);
     EXPECT_EQ(écran.lblMot(0).Caption, écran.lblRéponse(0).Caption);
@@ -271,7 +271,7 @@ TEST(Série, ErreurMontreLeMotAttenduEtFinitLaSérie)
 {
     Banc banc;
     TirerVarié(banc);
-    auto& écran = Ouvrir(banc, Mots(5));
+    auto& écran = OuvrirSérie(banc, Mots(5));
     JouerSérie(écran, 0);
     EXPECT_TRUE(écran.lblRéponse(0).Visible);
     EXPECT_FALSE(écran.lblRéponse(1).Visible);
@@ -287,7 +287,7 @@ TEST(Série, CeQuiChangeSeVoitAussitôt)
 {
     Banc banc;
     TirerVarié(banc);
-    auto& écran = Ouvrir(banc, Mots(12));
+    auto& écran = OuvrirSérie(banc, Mots(12));
     bool voir = false;
     bool suite = false;
     bool effacée = false;
@@ -310,7 +310,7 @@ TEST(Série, CasesVidéesEtListeSontPeintesAprèsLAffichage)
 {
     Banc banc;
     TirerVarié(banc);
-    auto& écran = Ouvrir(banc, Mots(5));
+    auto& écran = OuvrirSérie(banc, Mots(5));
     Répéter(écran, 1);
     bool vidées = false;
     bool liste = false;
@@ -329,7 +329,7 @@ TEST(Série, ClicSansCaseARemplirRepartDuDébut)
 {
     Banc banc;
     TirerVarié(banc);
-    auto& écran = Ouvrir(banc, Mots(5));
+    auto& écran = OuvrirSérie(banc, Mots(5));
     Répéter(écran, 1);
     écran.cmdVoir.Visible = false; // neither told of nor reached by a click: no slot waits
     écran.lblChoix(3).Cliquer();
@@ -341,7 +341,7 @@ TEST(Série, SérieSuivanteRepartDeZéroSaufLeMeilleurScore)
 {
     Banc banc;
     TirerVarié(banc);
-    auto& écran = Ouvrir(banc, Mots(12));
+    auto& écran = OuvrirSérie(banc, Mots(12));
     JouerSérie(écran, 2);
     écran.cmdContinuer.Cliquer();
     EXPECT_FALSE(écran.cmdContinuer.Visible);
@@ -364,7 +364,7 @@ TEST(Série, PremièreSérieParfaiteFinitLExerciceAvecDix)
 {
     Banc banc;
     TirerVarié(banc);
-    auto& écran = Ouvrir(banc, Mots(30));
+    auto& écran = OuvrirSérie(banc, Mots(30));
     JouerSérie(écran, 10);
     EXPECT_EQ(écran.lblPoints(0).Caption, u"10");
     EXPECT_EQ(écran.cmdContinuer.Caption, u"&Quitter");
@@ -379,7 +379,7 @@ TEST(Série, TroisErreursSurLePremierMotDonnentZéro)
 {
     Banc banc;
     TirerVarié(banc);
-    auto& écran = Ouvrir(banc, Mots(5));
+    auto& écran = OuvrirSérie(banc, Mots(5));
     for (int série = 1; série <= 3; ++série) {
         JouerSérie(écran, 0);
         EXPECT_EQ(écran.cmdContinuer.Caption, série == 3 ? u"&Quitter" : u"Série suivante");
@@ -394,7 +394,7 @@ TEST(Série, AvecCinqMotsLeScoreMonteDeDeuxEnDeux)
     for (int longueur = 1; longueur <= 4; ++longueur) {
         Banc banc;
         TirerVarié(banc);
-        auto& écran = Ouvrir(banc, Mots(5));
+        auto& écran = OuvrirSérie(banc, Mots(5));
         for (int série = 0; série < 3; ++série) {
             JouerSérie(écran, longueur);
             écran.cmdContinuer.Cliquer();
@@ -407,7 +407,7 @@ TEST(Série, TroisièmeSérieMoinsBonneNeBaissePasLeScore)
 {
     Banc banc;
     TirerVarié(banc);
-    auto& écran = Ouvrir(banc, Mots(10));
+    auto& écran = OuvrirSérie(banc, Mots(10));
     for (const int longueur : {2, 4, 1}) {
         JouerSérie(écran, longueur);
         écran.cmdContinuer.Cliquer();
@@ -420,7 +420,7 @@ TEST(Série, FermetureDansNImporteQuelleAttenteNEnregistreRien)
     for (const auto délai : {0ms, 500ms, 1000ms, 1500ms, 2500ms, 3999ms}) {
         Banc banc;
         TirerVarié(banc);
-        auto& écran = Ouvrir(banc, Mots(5));
+        auto& écran = OuvrirSérie(banc, Mots(5));
         Répéter(écran, 1); // then two words: 1 s, 1 s, 2 s
         banc.plateforme.Prévoir(délai, [&] { écran.FermerParCroix(); });
         écran.cmdVoir.Cliquer();
@@ -434,7 +434,7 @@ TEST(Série, ClavierSuitLeCoursDuJeu)
 {
     Banc banc;
     TirerVarié(banc);
-    auto& écran = Ouvrir(banc, Mots(5));
+    auto& écran = OuvrirSérie(banc, Mots(5));
     EXPECT_EQ(écran.Focus(), &écran.cmdVoir);
     écran.cmdVoir.Cliquer();
     EXPECT_EQ(écran.Focus(), &écran.lblChoix(0));

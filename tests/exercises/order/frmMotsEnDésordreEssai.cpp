@@ -31,14 +31,14 @@ protected:
                   u"La lune brille au-dessus de la forêt. "
                   u"Fin.";
 
-    frmMotsEnDésordre& Ouvrir(std::initializer_list<double> tirages)
+    frmMotsEnDésordre& OuvrirMotsEnDésordre(std::initializer_list<double> tirages)
     {
         banc.ChargerTexte(texte);
         banc.Index(MotsEnDésordre);
         banc.Hasards(tirages);
         return banc.Ouvrir<frmMotsEnDésordre>();
     }
-    frmMotsEnDésordre& OuvrirLaPremière() { return Ouvrir({TirageDe(texte, 1)}); }
+    frmMotsEnDésordre& OuvrirLaPremière() { return OuvrirMotsEnDésordre({TirageDe(texte, 1)}); }
     frmMotsEnDésordre& OuvrirSur(VueTexte phrase)
     {
         texte = Texte{u"Début. "}.append(phrase);
@@ -137,14 +137,14 @@ TEST_F(MotsEnDésordreEssai, VingtMotsPrennentToutesLesEtiquettesEtOntDixEssais)
 TEST_F(MotsEnDésordreEssai, CinqEtVingtEtUnMotsSontRefusés)
 {
     texte = u"Début. " + Phrase(5) + u" " + Phrase(21) + u" " + Phrase(6);
-    auto& écran = Ouvrir({TirageDe(texte, 1), TirageDe(texte, 2), TirageDe(texte, 3)});
+    auto& écran = OuvrirMotsEnDésordre({TirageDe(texte, 1), TirageDe(texte, 2), TirageDe(texte, 3)});
     EXPECT_EQ(écran.cmbOrdre.ListCount(), 6);
 }
 
 TEST_F(MotsEnDésordreEssai, LaPremièrePhraseNEstTiréeQueSansPointAprèsLaPosition)
 {
     texte = u"Le premier chat du monde ronronne. Puis rien ne";
-    auto& écran = Ouvrir({0.0, 0.99});
+    auto& écran = OuvrirMotsEnDésordre({0.0, 0.99});
     EXPECT_EQ(écran.lblCorrigé.Caption, u"Le premier chat du monde ronronne.");
 }
 
@@ -209,7 +209,7 @@ TEST_F(MotsEnDésordreEssai, SansPhraseQuiConvienneQuatreVingtDixNeufTiragesMèn
         ++tirages;
         return 0.0;
     };
-    auto& écran = Ouvrir({});
+    auto& écran = OuvrirMotsEnDésordre({});
     EXPECT_EQ(tirages, 99);
     EXPECT_TRUE(écran.notice.Cadre.Visible);
     EXPECT_EQ(écran.notice.Cadre.Caption, u"Phrases trop courtes ou trop longues");
@@ -224,14 +224,14 @@ TEST_F(MotsEnDésordreEssai, UnTexteVideMèneALaSortie)
 {
     texte = u"";
     banc.plateforme.toujours = [] { return 0.5; };
-    EXPECT_TRUE(Ouvrir({}).notice.Cadre.Visible);
+    EXPECT_TRUE(OuvrirMotsEnDésordre({}).notice.Cadre.Visible);
 }
 
 TEST_F(MotsEnDésordreEssai, UnTexteSansBlancNiSigneMèneALaSortie)
 {
     texte = Texte(100000, u'a');
     banc.plateforme.toujours = [] { return 0.5; };
-    EXPECT_TRUE(Ouvrir({}).notice.Cadre.Visible);
+    EXPECT_TRUE(OuvrirMotsEnDésordre({}).notice.Cadre.Visible);
 }
 
 // ---- Its construction --------------------------------------------------------------------------------------------

@@ -11,7 +11,7 @@ namespace {
 
 constexpr int IndexPendu = 21;
 
-frmPendu& Ouvrir(Banc& banc, std::vector<Texte> mots)
+frmPendu& OuvrirPendu(Banc& banc, std::vector<Texte> mots)
 {
     banc.Vocabulaire(std::move(mots));
     banc.Index(IndexPendu);
@@ -50,7 +50,7 @@ Texte Masqués(std::size_t nombre)
 TEST(Pendu, OuverturePréparePremierMot)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc, {u"chat"});
+    auto& écran = OuvrirPendu(banc, {u"chat"});
     EXPECT_EQ(écran.Caption, u"Le Pendu / Léa");
     EXPECT_EQ(écran.lblRéf.Caption, u"chat");
     EXPECT_EQ(écran.lblMot.Caption, Masqués(4));
@@ -68,7 +68,7 @@ TEST(Pendu, OuverturePréparePremierMot)
 TEST(Pendu, TextesBulleEtCouleursDuDépart)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc, {u"chat"});
+    auto& écran = OuvrirPendu(banc, {u"chat"});
     EXPECT_EQ(écran.Label1.Caption, u"Choisis un caractère en cliquant sur la lettre ou en utilisant le clavier.");
     EXPECT_EQ(écran.cmdSuivant.Caption, u"&Suivant");
     EXPECT_EQ(écran.cmdSuivant.ToolTipText, u" Clique sur ce bouton si la phrase te semble correcte. ");
@@ -80,7 +80,7 @@ TEST(Pendu, TextesBulleEtCouleursDuDépart)
 TEST(Pendu, LettresOntLeurBulleEtLeurCouleur)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc, {u"chat"});
+    auto& écran = OuvrirPendu(banc, {u"chat"});
     EXPECT_EQ(écran.lblLettre(0).Caption, u"a");
     EXPECT_EQ(écran.lblLettre(0).ToolTipText, u" A ");
     EXPECT_EQ(écran.lblLettre(25).Caption, u"z");
@@ -96,7 +96,7 @@ TEST(Pendu, LettresOntLeurBulleEtLeurCouleur)
 TEST(Pendu, SansVocabulaireLeCadreDeSortieCouvreTout)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc, {});
+    auto& écran = OuvrirPendu(banc, {});
     EXPECT_TRUE(écran.notice.Cadre.Visible);
     EXPECT_EQ(écran.notice.Cadre.Caption, u"Pas de vocabulaire sélectionné");
     EXPECT_EQ(écran.notice.Phrase.Caption, u"L'exercice est terminé.");
@@ -118,7 +118,7 @@ TEST(Pendu, SansVocabulaireLeCadreDeSortieCouvreTout)
 TEST(Pendu, UnSeulMotTrouvéDonneDix)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc, {u"chat"});
+    auto& écran = OuvrirPendu(banc, {u"chat"});
     Cliquer(écran, u"chat");
     EXPECT_EQ(écran.lblPoints(0).Caption, u"1");
     EXPECT_EQ(écran.lblPoints(1).Caption, u"1");
@@ -132,7 +132,7 @@ TEST(Pendu, UnSeulMotTrouvéDonneDix)
 TEST(Pendu, UnSeulMotPerduDonneZéro)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc, {u"chat"});
+    auto& écran = OuvrirPendu(banc, {u"chat"});
     Cliquer(écran, u"zzzzzzzzzz");
     écran.cmdSuivant.Cliquer();
     EXPECT_EQ(banc.Note(IndexPendu), u"0");
@@ -141,7 +141,7 @@ TEST(Pendu, UnSeulMotPerduDonneZéro)
 TEST(Pendu, SeptMotsEnDonnentCinqDifférents)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc, {u"bal", u"bec", u"bol", u"bon", u"bus", u"car", u"col"});
+    auto& écran = OuvrirPendu(banc, {u"bal", u"bec", u"bol", u"bon", u"bus", u"car", u"col"});
     EXPECT_EQ(écran.cmbMots.ListCount(), 4);
     std::set<Texte> joués;
     for (int i = 0; i < 5; ++i) {
@@ -157,7 +157,7 @@ TEST(Pendu, SeptMotsEnDonnentCinqDifférents)
 TEST(Pendu, MotsRépétésNeSeJouentQuUneFois)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc, {u"bal", u"bal", u"bal", u"bec", u"bec"});
+    auto& écran = OuvrirPendu(banc, {u"bal", u"bal", u"bal", u"bec", u"bec"});
     EXPECT_EQ(écran.cmbMots.ListCount(), 1);
     Cliquer(écran, écran.lblRéf.Caption());
     écran.cmdSuivant.Cliquer();
@@ -170,7 +170,7 @@ TEST(Pendu, MotEnJeuEstTiréParmiCeuxQuiRestent)
 {
     Banc banc;
     banc.Hasards({0.0, 0.5, 0.99}); // bal, bec; then the second of the two
-    auto& écran = Ouvrir(banc, {u"bal", u"bec"});
+    auto& écran = OuvrirPendu(banc, {u"bal", u"bec"});
     EXPECT_EQ(écran.lblRéf.Caption, u"bec");
     EXPECT_EQ(écran.cmbMots.List(0), u"bal");
 }
@@ -178,7 +178,7 @@ TEST(Pendu, MotEnJeuEstTiréParmiCeuxQuiRestent)
 TEST(Pendu, LettreDécouvreToutesSesPlacesAccentuéesOuNon)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc, {u"Elève-été"});
+    auto& écran = OuvrirPendu(banc, {u"Elève-été"});
     Cliquer(écran, u"e");
     EXPECT_EQ(écran.lblMot.Caption, Texte{u"E"} + Masque + u"è" + Masque + u"e-é" + Masque + u"é");
     EXPECT_EQ(écran.lblMotMaj.Caption, Texte{u"E"} + Masque + u"E" + Masque + u"E-E" + Masque + u"E");
@@ -189,7 +189,7 @@ TEST(Pendu, ChaqueLettreALaListeDeSesAccents)
 {
     Banc banc;
     const Texte accents = u"àâäÂÀçÇéèêëÊËÈÉîïÎÏôöÔÖùûüÛÜÙ";
-    auto& écran = Ouvrir(banc, {accents});
+    auto& écran = OuvrirPendu(banc, {accents});
     Cliquer(écran, u"aceiou");
     EXPECT_EQ(écran.lblMot.Caption, accents);
     EXPECT_EQ(écran.lblMotMaj.Caption, u"AAAAACCEEEEEEEEIIIIOOOOUUUUUU");
@@ -199,7 +199,7 @@ TEST(Pendu, ChaqueLettreALaListeDeSesAccents)
 TEST(Pendu, TraitDUnionEstDonnéMaisNiLeBlancNiLApostrophe)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc, {u"l'arc-en ciel"});
+    auto& écran = OuvrirPendu(banc, {u"l'arc-en ciel"});
     EXPECT_EQ(écran.lblMot.Caption, Masqués(5) + u"-" + Masqués(7));
     EXPECT_EQ(écran.lblMotMaj.Caption, écran.lblMot.Caption());
 }
@@ -208,7 +208,7 @@ TEST(Pendu, MotDeSignesNePeutQueSePerdre)
 {
     for (const Texte mot : {u"l'eau", u"cœur", u"A4"}) {
         Banc banc;
-        auto& écran = Ouvrir(banc, {mot});
+        auto& écran = OuvrirPendu(banc, {mot});
         Cliquer(écran, u"abcdefghijklmnopqrstuvwxyz");
         EXPECT_TRUE(écran.cmdSuivant.Visible);
         EXPECT_EQ(écran.lblPoints(0).Caption, u"0");
@@ -221,7 +221,7 @@ TEST(Pendu, MotDeSignesNePeutQueSePerdre)
 TEST(Pendu, LettresFaussesDessinentLesTraitsEtChangentLeVisage)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc, {u"chat"});
+    auto& écran = OuvrirPendu(banc, {u"chat"});
     static constexpr std::array<int, 10> Visages{0, 1, 1, 2, 2, 2, 3, 3, 3, 4};
     for (int s = 0; s < 10; ++s) {
         Cliquer(écran, u"z");
@@ -233,7 +233,7 @@ TEST(Pendu, LettresFaussesDessinentLesTraitsEtChangentLeVisage)
 TEST(Pendu, NeuvièmeLettreFausseLaisseLeMotEnJeu)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc, {u"chat"});
+    auto& écran = OuvrirPendu(banc, {u"chat"});
     Cliquer(écran, u"zzzzzzzzz");
     EXPECT_TRUE(écran.Ligne(8).Visible);
     EXPECT_FALSE(écran.Ligne(9).Visible);
@@ -247,7 +247,7 @@ TEST(Pendu, NeuvièmeLettreFausseLaisseLeMotEnJeu)
 TEST(Pendu, DixièmeLettreFausseFaitPerdreLeMot)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc, {u"été"});
+    auto& écran = OuvrirPendu(banc, {u"été"});
     Cliquer(écran, u"zzzzzzzzzz");
     EXPECT_EQ(écran.lblMot.Caption, u"été");
     EXPECT_EQ(écran.lblMot.BackColor, Blanc);
@@ -261,7 +261,7 @@ TEST(Pendu, DixièmeLettreFausseFaitPerdreLeMot)
 TEST(Pendu, LettreJusteRépétéeNeCoûteRien)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc, {u"chat"});
+    auto& écran = OuvrirPendu(banc, {u"chat"});
     Cliquer(écran, u"ccc");
     EXPECT_EQ(Traits(écran), 0);
 }
@@ -269,7 +269,7 @@ TEST(Pendu, LettreJusteRépétéeNeCoûteRien)
 TEST(Pendu, MotSuivantEffaceLeDessin)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc, {u"bal", u"bec"});
+    auto& écran = OuvrirPendu(banc, {u"bal", u"bec"});
     Cliquer(écran, u"zzzzzzzzzz");
     écran.cmdSuivant.Cliquer();
     EXPECT_FALSE(écran.cmdSuivant.Visible);
@@ -283,7 +283,7 @@ TEST(Pendu, MotSuivantEffaceLeDessin)
 TEST(Pendu, ClicsEtTouchesQuandLeMotEstFiniNeChangentRien)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc, {u"bal", u"bec"});
+    auto& écran = OuvrirPendu(banc, {u"bal", u"bec"});
     Cliquer(écran, écran.lblRéf.Caption());
     Cliquer(écran, u"zzzzzzzzzzz");
     for (const char16_t lettre : Texte{u"zzzzzzzzzzz"})
@@ -305,7 +305,7 @@ TEST(Pendu, ToucheAccentuéeOuCapitaleVautSaLettre)
          }) {
         for (const auto touche : touches) {
             Banc banc;
-            auto& écran = Ouvrir(banc, {Texte{lettre, u'z'}});
+            auto& écran = OuvrirPendu(banc, {Texte{lettre, u'z'}});
             EXPECT_TRUE(Taper(écran, touche));
             EXPECT_EQ(écran.lblMot.Caption, (Texte{lettre, Masque})) << EnUtf8(Texte{touche});
         }
@@ -315,7 +315,7 @@ TEST(Pendu, ToucheAccentuéeOuCapitaleVautSaLettre)
 TEST(Pendu, ToucheSansLettreNeFaitRienEtNePassePas)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc, {u"Âgüaù"});
+    auto& écran = OuvrirPendu(banc, {u"Âgüaù"});
     for (const char16_t touche : Texte{u"ÂÄüœ1-'. \r"})
         EXPECT_TRUE(Taper(écran, touche));
     EXPECT_EQ(écran.lblMot.Caption, Masqués(5));
@@ -328,7 +328,7 @@ TEST(Pendu, ToucheSansLettreNeFaitRienEtNePassePas)
 TEST(Pendu, ToucheFausseDessineUnTrait)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc, {u"chat"});
+    auto& écran = OuvrirPendu(banc, {u"chat"});
     Taper(écran, u'Z');
     EXPECT_EQ(Traits(écran), 1);
 }
@@ -336,7 +336,7 @@ TEST(Pendu, ToucheFausseDessineUnTrait)
 TEST(Pendu, TouchesDeDéplacementRestentAuClavier)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc, {u"chat"});
+    auto& écran = OuvrirPendu(banc, {u"chat"});
     for (const int code : {Touche::Gauche, Touche::Droite, Touche::Haut, Touche::Bas})
         EXPECT_FALSE(écran.Taper({.Caractère = 0, .Code = code}));
     EXPECT_FALSE(Taper(écran, u'\t'));
@@ -346,7 +346,7 @@ TEST(Pendu, TouchesDeDéplacementRestentAuClavier)
 TEST(Pendu, EntréeEtBlancVontAuBoutonQuandIlAttend)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc, {u"chat"});
+    auto& écran = OuvrirPendu(banc, {u"chat"});
     Cliquer(écran, u"chat");
     EXPECT_FALSE(Taper(écran, u'\r'));
     EXPECT_FALSE(Taper(écran, u' '));
@@ -356,7 +356,7 @@ TEST(Pendu, EntréeEtBlancVontAuBoutonQuandIlAttend)
 TEST(Pendu, DessinMontreLHommeEnRougePuisLaPotenceEnNoirPuisLaCorde)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc, {u"chat"});
+    auto& écran = OuvrirPendu(banc, {u"chat"});
     for (int i = 0; i < 10; ++i)
         EXPECT_EQ(écran.Ligne(i).BorderColor, i < 5 ? Rouge : i < 9 ? Noir : Olive);
     const auto& corde = écran.Ligne(9);
@@ -372,7 +372,7 @@ TEST(Pendu, DessinMontreLHommeEnRougePuisLaPotenceEnNoirPuisLaCorde)
 TEST(Pendu, FermetureEnCoursDeMotNEnregistreRien)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc, {u"bal", u"bec"});
+    auto& écran = OuvrirPendu(banc, {u"bal", u"bec"});
     Cliquer(écran, écran.lblRéf.Caption());
     écran.cmdSuivant.Cliquer();
     écran.FermerParCroix();

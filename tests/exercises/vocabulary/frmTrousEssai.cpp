@@ -7,8 +7,6 @@ namespace tirelune {
 namespace {
 
 constexpr int IndexTrous = 4;
-constexpr auto UneSeuleFois = u"Clique UNE SEULE FOIS sur les traits !";
-
 // A text in which what stands between "[" and "]" is marked.
 TexteRiche Marquer(VueTexte texte)
 {
@@ -25,7 +23,7 @@ TexteRiche Marquer(VueTexte texte)
     return résultat;
 }
 
-frmTrous& Ouvrir(Banc& banc, VueTexte texte)
+frmTrous& OuvrirTrous(Banc& banc, VueTexte texte)
 {
     banc.ChargerTexte(Marquer(texte));
     banc.Index(IndexTrous);
@@ -44,7 +42,7 @@ void Placer(frmTrous& écran, std::size_t place, VueTexte mot)
 TEST(Trous, ChaqueMarqueDevientUneLacuneEtUnMotDeLaListe)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc, u"Le [chat] voit la [belle] souris.");
+    auto& écran = OuvrirTrous(banc, u"Le [chat] voit la [belle] souris.");
 
     EXPECT_EQ(écran.Caption, u"Texte à trous / Léa");
     EXPECT_EQ(écran.rtfTrous.Text(), u"Le ____ voit la _____ souris.");
@@ -60,7 +58,7 @@ TEST(Trous, ChaqueMarqueDevientUneLacuneEtUnMotDeLaListe)
 TEST(Trous, LesPointsOntLeursCouleursEtLesBoutonsLeurLégende)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc, u"Le [chat] dort.");
+    auto& écran = OuvrirTrous(banc, u"Le [chat] dort.");
     VérifierPointsDeDépart(écran.lblPoints);
     EXPECT_EQ(écran.cmdOk.Caption, u"&Ok");
     EXPECT_EQ(écran.fin.Bouton.Caption, u"&Quitter");
@@ -99,7 +97,7 @@ TEST(Trous, LaLacuneEstNoireSansBarreNiSoulignement)
 TEST(Trous, UneMarqueAvecUneEspaceEstUneSeuleLacune)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc, u"Il dort [tout le jour] ici.");
+    auto& écran = OuvrirTrous(banc, u"Il dort [tout le jour] ici.");
     EXPECT_EQ(écran.rtfTrous.Text(), u"Il dort ____________ ici.");
     EXPECT_EQ(écran.cmbTrous.Eléments(), (std::vector<Texte>{u"tout le jour"}));
 
@@ -114,7 +112,7 @@ TEST(Trous, UneMarqueAvecUneEspaceEstUneSeuleLacune)
 TEST(Trous, UneMarqueSurDeuxLignesRendSesLignes)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc, u"Un [mot\r\net] un autre.");
+    auto& écran = OuvrirTrous(banc, u"Un [mot\r\net] un autre.");
     EXPECT_EQ(écran.rtfTrous.Text(), u"Un _______ un autre.");
 
     Placer(écran, 6, u"mot\r\net");
@@ -143,7 +141,7 @@ TEST(Trous, MarquesQuiSeTouchentNeFontQuUne)
 TEST(Trous, MotJusteEnVertSoulignéQuitteLaListe)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc, u"Le [chat] voit la [souris] et l'[œuf].");
+    auto& écran = OuvrirTrous(banc, u"Le [chat] voit la [souris] et l'[œuf].");
 
     Placer(écran, 5, u"chat");
 
@@ -161,7 +159,7 @@ TEST(Trous, MotJusteEnVertSoulignéQuitteLaListe)
 TEST(Trous, MotFauxRougitEtPeutÊtreRefait)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc, u"Le [chat] voit la [souris].");
+    auto& écran = OuvrirTrous(banc, u"Le [chat] voit la [souris].");
 
     Placer(écran, 5, u"souris");
 
@@ -183,7 +181,7 @@ TEST(Trous, MotFauxRougitEtPeutÊtreRefait)
 TEST(Trous, AccentsEtCapitalesComptent)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc, u"Il a [Pêché] un [péché].");
+    auto& écran = OuvrirTrous(banc, u"Il a [Pêché] un [péché].");
     Placer(écran, 5, u"péché");
     EXPECT_EQ(écran.lblPoints(0).Caption, u"0");
     Placer(écran, 5, u"Pêché");
@@ -193,7 +191,7 @@ TEST(Trous, AccentsEtCapitalesComptent)
 TEST(Trous, MotMarquéDeuxFoisVaDansSesDeuxLacunes)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc, u"Un [chat] et un [chat] et un [chien].");
+    auto& écran = OuvrirTrous(banc, u"Un [chat] et un [chat] et un [chien].");
     EXPECT_EQ(écran.cmbTrous.Eléments(), (std::vector<Texte>{u"chat", u"chat", u"chien"}));
 
     écran.rtfTrous.Cliquer(15);
@@ -208,7 +206,7 @@ TEST(Trous, MotMarquéDeuxFoisVaDansSesDeuxLacunes)
 TEST(Trous, SansMarqueLaNoticeCouvreToutEtNEnregistreRien)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc, u"Le chat dort.");
+    auto& écran = OuvrirTrous(banc, u"Le chat dort.");
 
     EXPECT_TRUE(écran.notice.Cadre.Visible);
     EXPECT_EQ(écran.notice.Cadre.Caption, u"Pas de vocabulaire sélectionné");
@@ -229,14 +227,14 @@ TEST(Trous, SansMarqueLaNoticeCouvreToutEtNEnregistreRien)
 TEST(Trous, TexteVideDonneLaNotice)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc, u"");
+    auto& écran = OuvrirTrous(banc, u"");
     EXPECT_TRUE(écran.notice.Cadre.Visible);
 }
 
 TEST(Trous, MarqueAuPremierCaractèreNePeutÊtreRemplie)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc, u"[Chat] et [chien].");
+    auto& écran = OuvrirTrous(banc, u"[Chat] et [chien].");
     écran.rtfTrous.Cliquer(2);
     EXPECT_EQ(écran.rtfTrous.SelStart(), 1U);
     EXPECT_EQ(écran.rtfTrous.SelLength(), 3U);
@@ -256,7 +254,7 @@ TEST(Trous, MarqueAuPremierCaractèreNePeutÊtreRemplie)
 TEST(Trous, MarqueDUnSeulCaractèreEnTêteNeSeSélectionnePas)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc, u"[A] table !");
+    auto& écran = OuvrirTrous(banc, u"[A] table !");
     écran.rtfTrous.Cliquer(0);
     EXPECT_EQ(écran.rtfTrous.SelLength(), 0U);
     écran.cmdOk.Cliquer();
@@ -266,7 +264,7 @@ TEST(Trous, MarqueDUnSeulCaractèreEnTêteNeSeSélectionnePas)
 TEST(Trous, LacuneEnFinDeTexteVaJusquAuBout)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc, u"Voici la [fin]");
+    auto& écran = OuvrirTrous(banc, u"Voici la [fin]");
     EXPECT_EQ(écran.rtfTrous.Text(), u"Voici la ___");
     écran.rtfTrous.Cliquer(11);
     EXPECT_EQ(écran.rtfTrous.SelStart(), 9U);
@@ -279,7 +277,7 @@ TEST(Trous, LacuneEnFinDeTexteVaJusquAuBout)
 TEST(Trous, ToutMarqué)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc, u"[Tout est marqué.]");
+    auto& écran = OuvrirTrous(banc, u"[Tout est marqué.]");
     EXPECT_EQ(écran.rtfTrous.Text(), Texte(16, u'_'));
     EXPECT_EQ(écran.cmbTrous.Eléments(), (std::vector<Texte>{u"Tout est marqué."}));
 }
@@ -287,7 +285,7 @@ TEST(Trous, ToutMarqué)
 TEST(Trous, FinitAvecSaDernièreLacuneMalgréLesTraitsDuTexte)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc, u"Nom : ____ Le [chat] dort.");
+    auto& écran = OuvrirTrous(banc, u"Nom : ____ Le [chat] dort.");
     Placer(écran, 16, u"chat");
     EXPECT_EQ(écran.rtfTrous.Text(), u"Nom : ____ Le chat dort.");
     EXPECT_TRUE(écran.fin.Cadre.Visible);
@@ -297,7 +295,7 @@ TEST(Trous, FinitAvecSaDernièreLacuneMalgréLesTraitsDuTexte)
 TEST(Trous, TraitDuTexteContreUneLacuneNEnEstPas)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc, u"Le _[chat]_ dort.");
+    auto& écran = OuvrirTrous(banc, u"Le _[chat]_ dort.");
     EXPECT_EQ(écran.rtfTrous.Text(), u"Le ______ dort.");
     for (const std::size_t place : {3U, 8U}) {
         écran.rtfTrous.Cliquer(place);
@@ -311,7 +309,7 @@ TEST(Trous, TraitDuTexteContreUneLacuneNEnEstPas)
 TEST(Trous, TraitDuTexteSélectionnéNEstPasUnEssai)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc, u"Nom : ____ Le [chat] dort.");
+    auto& écran = OuvrirTrous(banc, u"Nom : ____ Le [chat] dort.");
     écran.rtfTrous.Sélectionner(6, 4);
     écran.cmdOk.Cliquer();
     EXPECT_EQ(écran.lblPoints(1).Caption, u"0");
@@ -321,7 +319,7 @@ TEST(Trous, TraitDuTexteSélectionnéNEstPasUnEssai)
 TEST(Trous, TraitsMarquésSontUneLacuneARemplir)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc, u"Un [a_b] et [__] ici.");
+    auto& écran = OuvrirTrous(banc, u"Un [a_b] et [__] ici.");
     Placer(écran, 4, u"a_b");
     EXPECT_FALSE(écran.fin.Cadre.Visible) << "l'autre reste à remplir";
     Placer(écran, 10, u"__");
@@ -334,7 +332,7 @@ TEST(Trous, TraitsMarquésSontUneLacuneARemplir)
 TEST(Trous, UnePartieDeLacuneRemplieLaLaisseOuverte)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc, u"Le [petit] a un [petit-fils].");
+    auto& écran = OuvrirTrous(banc, u"Le [petit] a un [petit-fils].");
     écran.rtfTrous.Sélectionner(14, 5); // a drag over the beginning of the gap
     écran.cmbTrous.Choisir(écran.cmbTrous.Chercher(u"petit"));
     écran.cmdOk.Cliquer();
@@ -350,7 +348,7 @@ TEST(Trous, UnePartieDeLacuneRemplieLaLaisseOuverte)
 TEST(Trous, ClicHorsDesTraitsEffaceLaSélection)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc, u"Le [chat] dort.");
+    auto& écran = OuvrirTrous(banc, u"Le [chat] dort.");
     écran.rtfTrous.Cliquer(4);
     EXPECT_EQ(écran.rtfTrous.SelLength(), 4U);
     écran.rtfTrous.Cliquer(1);
@@ -363,7 +361,7 @@ TEST(Trous, ClicHorsDesTraitsEffaceLaSélection)
 TEST(Trous, SélectionQuiDébordeEstSansEffet)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc, u"Le [chat] dort.");
+    auto& écran = OuvrirTrous(banc, u"Le [chat] dort.");
     Placer(écran, 4, u"chat");
     écran.fin.Cadre.Visible = false;
     écran.rtfTrous.Sélectionner(2, 5);
@@ -379,7 +377,7 @@ TEST(Trous, SélectionQuiDébordeEstSansEffet)
 TEST(Trous, DoubleClicEstRefusé)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc, u"Le [chat] [a] faim.");
+    auto& écran = OuvrirTrous(banc, u"Le [chat] [a] faim.");
     for (const std::size_t place : {4U, 8U}) {
         banc.AnnoncerBoîte(UneSeuleFois);
         écran.rtfTrous.Cliquer(place);
@@ -396,7 +394,7 @@ TEST(Trous, DoubleClicEstRefusé)
 TEST(Trous, FerméPendantLeMessageDuDoubleClic)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc, u"Le [chat] dort.");
+    auto& écran = OuvrirTrous(banc, u"Le [chat] dort.");
     banc.plateforme.boîtes.push_back({UneSeuleFois, Réponse::Ok, u"Avertissement", [&] { écran.FermerParCroix(); }});
     écran.rtfTrous.DoubleCliquer(4);
     EXPECT_FALSE(écran.EstChargé());
@@ -408,7 +406,7 @@ TEST(Trous, OuvertureOublieUnDoubleClicPassé)
 {
     Banc banc;
     banc.état.CorrectionEnCours = true;
-    auto& écran = Ouvrir(banc, u"Le [chat] dort.");
+    auto& écran = OuvrirTrous(banc, u"Le [chat] dort.");
     écran.rtfTrous.Cliquer(4);
     EXPECT_EQ(écran.rtfTrous.SelLength(), 4U);
 }
@@ -416,7 +414,7 @@ TEST(Trous, OuvertureOublieUnDoubleClicPassé)
 TEST(Trous, TouchesDeLaListeSontDésamorcées)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc, u"Le [chat] dort.");
+    auto& écran = OuvrirTrous(banc, u"Le [chat] dort.");
     EXPECT_FALSE(écran.cmbTrous.Taper({.Caractère = u'c', .Code = 'C'}));
     EXPECT_FALSE(écran.cmbTrous.Taper({.Code = Touche::Bas}));
     EXPECT_FALSE(écran.cmbTrous.Taper({.Caractère = u'\r', .Code = Touche::Entrée}));
@@ -427,7 +425,7 @@ TEST(Trous, TouchesDeLaListeSontDésamorcées)
 TEST(Trous, EntréeNAPasDEffetDansLeTexte)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc, u"Le [chat] dort.");
+    auto& écran = OuvrirTrous(banc, u"Le [chat] dort.");
     écran.rtfTrous.Sélectionner(4, 0);
     EXPECT_FALSE(écran.rtfTrous.Taper({.Caractère = u'\r', .Code = Touche::Entrée}));
     EXPECT_EQ(écran.rtfTrous.SelLength(), 0U);
@@ -437,7 +435,7 @@ TEST(Trous, EntréeNAPasDEffetDansLeTexte)
 TEST(Trous, QuitterEnregistreLaNote)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc, u"Le [chat] voit la [souris].");
+    auto& écran = OuvrirTrous(banc, u"Le [chat] voit la [souris].");
     EXPECT_FALSE(écran.fin.Bouton.EstAtteignable());
     Placer(écran, 3, u"souris");
     Placer(écran, 3, u"chat");
@@ -457,7 +455,7 @@ TEST(Trous, QuitterEnregistreLaNote)
 TEST(Trous, FermerNEnregistreRien)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc, u"Le [chat] dort.");
+    auto& écran = OuvrirTrous(banc, u"Le [chat] dort.");
     Placer(écran, 4, u"chat");
     écran.FermerParCroix();
     EXPECT_FALSE(écran.EstChargé());
@@ -467,7 +465,7 @@ TEST(Trous, FermerNEnregistreRien)
 TEST(Trous, LeTexteRemplitLEcranMoinsLaBarre)
 {
     Banc banc;
-    auto& écran = Ouvrir(banc, u"Le [chat] dort.");
+    auto& écran = OuvrirTrous(banc, u"Le [chat] dort.");
     écran.Dimensionner(12000, 9000);
     EXPECT_EQ(écran.rtfTrous.Width, 11850);
     EXPECT_EQ(écran.rtfTrous.Height, 7900);
