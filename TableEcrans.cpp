@@ -14,6 +14,7 @@
 #include "exercises/memory/frmPhotographier.h"
 #include "exercises/memory/frmPoursuite.h"
 #include "exercises/memory/frmSérie.h"
+#include "exercises/memory/frmTronqué.h"
 #include "exercises/memory/frmTrouveMoi.h"
 #include "exercises/order/frmLignesEnDésordre.h"
 #include "exercises/order/frmMotsEnDésordre.h"
@@ -109,6 +110,7 @@ void RemplirTable(Application& application)
     table["frmTexteMasqué"] = SurLeChoix<frmTexteMasqué>;
     table["frmThèmes"] = SurLeChoix<frmThèmes>;
     table["frmThèmes2"] = SurLeChoix<frmThèmes2>;
+    table["frmTronqué"] = SurLeChoix<frmTronqué>;
     table["frmTrous"] = SurLeChoix<frmTrous>;
     table["frmTrouveMoi"] = SurLeChoix<frmTrouveMoi>;
 }

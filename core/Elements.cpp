@@ -105,6 +105,7 @@ Label::Label(Ecran& écran, std::string_view nom, const EtatInitial& initial)
     : Légendé(écran, nom, initial),
       Bordure(*this, initial.Bordure),
       Centré(initial.Centré),
+      LettresCoupées(initial.LettresCoupées),
       SensDesCouleurs(initial.SensDesCouleurs)
 {
 }

@@ -37,8 +37,9 @@ struct EtatInitial {
     Couleur ForeColor = CouleurAuto;
     double FontSize = 0; // points; 0: the usual size
     bool Gras = false;
-    Texte Police{};      // empty: the program's own font
-    bool Centré = false; // caption in the middle
+    Texte Police{};              // empty: the program's own font
+    bool Centré = false;         // caption in the middle
+    bool LettresCoupées = false; // of a label: on one line, half the height of the letters at half its own
     bool Bordure = false;
     Sens SensDesCouleurs = Sens::Réponse;
     bool Sorted = false;      // of lists
@@ -79,6 +80,9 @@ struct Touche {
     void Avaler() { Avalée = true; }
 };
 
+// What an element covers that is PoséSur another one: all of it, half its height, or nothing: it stands beside it.
+enum class Part { Tout, MoitiéHaute, MoitiéBasse, ADroite };
+
 class Elément : public Observable {
 public:
     Elément(Ecran& écran, std::string_view nom, const EtatInitial& initial = {});
@@ -101,6 +105,7 @@ public:
     Propriété<bool> Gras;
     // In a Libre: stands over another element, in its place and size, wherever that one is.
     Propriété<const Elément*> PoséSur{*this, nullptr};
+    Propriété<Part> PartPosée{*this, Part::Tout};
     Texte Tag; // a mark of the screen's own; nobody draws it
     const Texte Libellé;
 
@@ -163,6 +168,7 @@ public:
     Propriété<bool> Verrouillé{*this, false};   // its turn hasn't come yet
     Propriété<Pointeur> MousePointer{*this, Pointeur::Normal};
     const bool Centré;
+    const bool LettresCoupées;
     const Sens SensDesCouleurs;
 };
 

@@ -2,6 +2,7 @@
 
 #include "desktop/Apparence.h"
 #include "desktop/Conversions.h"
+#include "desktop/Places.h"
 #include "desktop/Style.h"
 
 #include <QApplication>
@@ -175,12 +176,51 @@ bool Etiquette::MontreTout()
     if (text().isEmpty())
         return true;
     const auto place = Partager(PlaceDuContenu()).Texte.size();
+    if (lettresCoupées)
+        return true; // its letters get as small as they must
     return ajusté_.Mesurer(font(), Montré(), place, Drapeaux()).Entier;
 }
 
 QFont Etiquette::PoliceMontrée()
 {
-    return ajusté_.Mesurer(font(), Montré(), Partager(PlaceDuContenu()).Texte.size(), Drapeaux()).Police;
+    const auto place = Partager(PlaceDuContenu()).Texte.size();
+    return lettresCoupées ? PoliceCoupée(place.width()) : ajusté_.Mesurer(font(), Montré(), place, Drapeaux()).Police;
+}
+
+namespace {
+
+// Where letters may reach, above and below the baseline.
+QRect EtendueDesLettres(const QFont& police)
+{
+    static const auto HautesEtBasses = QStringLiteral("bdfhklgjpqy");
+    return QFontMetrics{police}.tightBoundingRect(HautesEtBasses);
+}
+
+} // namespace
+
+QFont Etiquette::PoliceCoupée(int largeur) const
+{
+    static constexpr int Bords = 6; // above and below the letters, in pixels
+    auto police = font();
+    const auto réduire = [&police](int voulue, int permise) {
+        if (voulue > permise)
+            police.setPixelSize(std::max(1, police.pixelSize() * permise / voulue));
+    };
+    réduire(QFontMetrics{police}.horizontalAdvance(text()), largeur);
+    réduire(EtendueDesLettres(police).height(), height() - Bords);
+    return police;
+}
+
+// The press of the mouse doesn't move them.
+void Etiquette::PeindreLettresCoupées(QPainter& peintre, const QRect& place) const
+{
+    const auto police = PoliceCoupée(place.width());
+    const auto lettres = EtendueDesLettres(police);
+    const int gauche = place.left() + (place.width() - QFontMetrics{police}.horizontalAdvance(text())) / 2;
+    const int base = MoitiéDe(*this) - (lettres.top() + lettres.bottom() + 1) / 2;
+    peintre.setFont(police);
+    peintre.setPen(encre.isValid() ? encre : EncreSur(fond.isValid() ? fond : Teinte::Panneau, Teinte::Encre));
+    peintre.drawText(gauche, base, text());
 }
 
 Etiquette::Parties Etiquette::Partager(QRect place) const
@@ -263,6 +303,10 @@ void Etiquette::PeindreContenu(QPainter& peintre, QRect place)
         PeindreSigne(peintre, signe, parties.Signe, encreDesAjouts);
     if (text().isEmpty())
         return;
+    if (lettresCoupées) {
+        PeindreLettresCoupées(peintre, parties.Texte);
+        return;
+    }
     const auto montré = Montré();
     place = parties.Texte;
     const auto& ajusté = ajusté_.Mesurer(font(), montré, place.size(), Drapeaux());

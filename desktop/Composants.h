@@ -36,7 +36,8 @@ public:
     QColor encre;
     bool bordure = false;
     bool centrée = false;
-    bool enLigne = false; // never broken into lines
+    bool lettresCoupées = false; // half their height stands at half the label's
+    bool enLigne = false;        // never broken into lines
     Signe signe = Signe::Aucun;
     bool verdict = false; // the sign stands before the text, and not at the right end
     Dessin pictogramme;   // before the text
@@ -86,6 +87,8 @@ private:
     [[nodiscard]] int LargeurPictogramme() const;
     [[nodiscard]] int LargeurPlaque() const;
     void PeindreFond(QPainter& peintre) const;
+    void PeindreLettresCoupées(QPainter& peintre, const QRect& place) const;
+    [[nodiscard]] QFont PoliceCoupée(int largeur) const;
     void PeindrePictogramme(QPainter& peintre, const QRect& place, const QColor& sol) const;
     void PeindrePlaqueSous(QPainter& peintre, const QRect& texte, const QColor& couleur) const;
 

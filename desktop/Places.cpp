@@ -1,5 +1,7 @@
 #include "desktop/Places.h"
 
+#include "desktop/Conversions.h"
+
 #include <algorithm>
 
 namespace tirelune {
@@ -135,10 +137,31 @@ void PlacementLibre::Placer(Vue& vue)
     vue.NoterTailleLibre();
 }
 
+int MoitiéDe(const QWidget& widget)
+{
+    return widget.height() / 2;
+}
+
 void PlacementLibre::PoserSur(Vue& vue, const QWidget& dessous)
 {
+    static constexpr int EcartADroite = 100; // twips
     auto& dessus = *vue.widget;
-    const QRect place{dessus.parentWidget()->mapFromGlobal(dessous.mapToGlobal(QPoint{0, 0})), dessous.size()};
+    QRect place{dessus.parentWidget()->mapFromGlobal(dessous.mapToGlobal(QPoint{0, 0})), dessous.size()};
+    const int moitié = MoitiéDe(dessous);
+    switch (vue.élément.PartPosée()) {
+    case Part::Tout:
+        break;
+    case Part::MoitiéHaute:
+        place.setHeight(moitié);
+        break;
+    case Part::MoitiéBasse:
+        place.setTop(place.top() + moitié);
+        break;
+    case Part::ADroite:
+        place.moveLeft(place.right() + 1 + EnPixels(EcartADroite, hôte_.Echelle()));
+        place.setWidth(dessus.sizeHint().width());
+        break;
+    }
     dessus.setGeometry(place);
     dessus.raise();
     vue.NoterPlace(place.translated(-Coin()));

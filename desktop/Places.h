@@ -9,6 +9,9 @@
 
 namespace tirelune {
 
+// Where a widget is cut into an upper half and a lower one: pixels from its top.
+[[nodiscard]] int MoitiéDe(const QWidget& widget);
+
 // Side by side, or one under the other. When all of it is hidden it takes no room in the row or column that it is in.
 class Alignés final : public QBoxLayout {
 public:

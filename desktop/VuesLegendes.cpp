@@ -25,6 +25,7 @@ public:
         : Vue(hôte, label, new Etiquette{parent}), label_(label), étiquette_(static_cast<Etiquette&>(*widget))
     {
         étiquette_.centrée = label.Centré;
+        étiquette_.lettresCoupées = label.LettresCoupées;
         étiquette_.clic = [this] {
             if (Agissante())
                 label_.Cliquer();

@@ -12,7 +12,7 @@ using namespace std::chrono_literals;
 
 namespace {
 
-constexpr auto PauseAprèsUnMot = 1500ms;
+constexpr auto PauseDeCorrection = 1500ms;
 constexpr std::size_t LettresMinimum = 6;
 constexpr std::size_t LettresDuDébut = 3;
 constexpr int MotsLongsMinimum = 5;
@@ -229,7 +229,7 @@ bool frmMotsCoupés::Corriger()
         lblMot(i).ForeColor = Bleu;
         lblMot(i).Visible = true;
         lblMot(i).Refresh();
-        if (!Attendre(PauseAprèsUnMot))
+        if (!Attendre(PauseDeCorrection))
             return false;
     }
     return true;
