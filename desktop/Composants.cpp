@@ -16,6 +16,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace tirelune {
 
@@ -543,7 +544,10 @@ void Papier::paintEvent(QPaintEvent* /*événement*/)
 
 void PiedDePage::paintEvent(QPaintEvent* /*événement*/)
 {
-    if (!MontreQuelqueChose(*this)) // the work may need the place meanwhile
+    const bool montre = MontreQuelqueChose(*this);
+    if (std::exchange(montrait_, montre) != montre)
+        update(); // as a whole: its last button has come or gone
+    if (!montre)  // the work may need the place meanwhile
         return;
     QPainter peintre{this};
     peintre.fillRect(rect(), Teinte::Panneau);

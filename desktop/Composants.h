@@ -156,6 +156,9 @@ public:
 
 protected:
     void paintEvent(QPaintEvent* événement) override;
+
+private:
+    bool montrait_ = false; // something, when it was last painted
 };
 
 // A titled group of elements.
