@@ -354,35 +354,29 @@ void frmEnseignant::btnLexique_Click()
 
 // ---- Other screens -----------------------------------------------------------------------------------------------
 
-void frmEnseignant::OuvrirOutil(std::string_view nom)
-{
-    if (!Ouvrir(nom))
-        Avertir(u"Cet outil n'est pas encore là.");
-}
-
 void frmEnseignant::OuvrirOutilDuTexte(std::string_view nom, Texte refus)
 {
     if (état.NomFichierTexte.empty())
         Avertir(std::move(refus));
     else
-        OuvrirOutil(nom);
+        Ouvrir(nom);
 }
 
 void frmEnseignant::mnuRechercher_Click()
 {
     état.ModeRechercher = true;
-    OuvrirOutil("frmRechercher");
+    Ouvrir("frmRechercher");
 }
 
 void frmEnseignant::mnuRemplacer_Click()
 {
     état.ModeRechercher = false;
-    OuvrirOutil("frmRechercher");
+    Ouvrir("frmRechercher");
 }
 
 void frmEnseignant::mnuGestion_Click()
 {
-    OuvrirOutil("frmGestionEleves");
+    Ouvrir("frmGestionEleves");
 }
 
 // ---- The text's file ---------------------------------------------------------------------------------------------

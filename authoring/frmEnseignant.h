@@ -148,7 +148,6 @@ private:
     void AccueillirTexte(const Texte& fichier, GenreDeTexte genre);
     void PrendreNoms(const Texte& fichier);
     void OublierNoms();
-    void OuvrirOutil(std::string_view nom);
     void OuvrirOutilDuTexte(std::string_view nom, Texte refus);
 
     frmTirelune& accueil_;

@@ -1,6 +1,7 @@
 #include "core/Ecran.h"
 
 #include <algorithm>
+#include <cassert>
 #include <utility>
 
 namespace tirelune {
@@ -130,13 +131,11 @@ void Ecran::Ouvrir(Ecran& autre)
     Activer();
 }
 
-bool Ecran::Ouvrir(std::string_view nom)
+void Ecran::Ouvrir(std::string_view nom)
 {
     const auto rangée = application_.écrans.find(nom);
-    if (rangée == application_.écrans.end())
-        return false;
+    assert(rangée != application_.écrans.end());
     Ouvrir(*rangée->second(*this));
-    return true;
 }
 
 void Ecran::AjouterNomElève()

@@ -101,8 +101,8 @@ protected:
     void Avertir(Texte message, Texte titre = u"Avertissement");
     // Shows a screen above this one, which is activated again afterwards.
     void Ouvrir(Ecran& autre);
-    // The same with the screen of that name. False: the table has none.
-    bool Ouvrir(std::string_view nom);
+    // The same with the screen of that name, which the table has.
+    void Ouvrir(std::string_view nom);
     // Caption, " / ", the pupil's name.
     void AjouterNomElève();
     // The rule by which a text fills its screen: 150 twips less in width, `marge` less in height; a screen of

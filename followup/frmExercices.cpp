@@ -453,9 +453,7 @@ void frmExercices::OuvrirExercice(int i)
     }
     if (i == IndexQuestionnaire2 && !TrouverQuestionnaire())
         return;
-    const auto& [libellé, écran] = Exercices.at(static_cast<std::size_t>(i));
-    if (!Ouvrir(écran))
-        Avertir(u"L'exercice « " + Texte{libellé} + u" » n'est pas encore là.");
+    Ouvrir(Exercices.at(static_cast<std::size_t>(i)).NomEcran);
 }
 
 void frmExercices::Présenter(Ecran& écran) const

@@ -432,20 +432,6 @@ TEST(Editeur, AvecUnNomLesOutilsDuTexteSOuvrent)
     banc.Bouton("btnLexique");
 }
 
-TEST(Editeur, UnOutilAbsentEstDitEtRienNeChange)
-{
-    BancEditeur banc;
-    banc.application.écrans.clear();
-    banc.Nommer("chat.rtf");
-    for (int i = 0; i < 3; ++i)
-        banc.AnnoncerBoîte(u"Cet outil n'est pas encore là.");
-    banc.Bouton("btnQuestion");
-    banc.Bouton("btnLexique");
-    banc.écran.mnuGestion.Cliquer();
-    EXPECT_EQ(banc.état.NomFichierTexte, banc.CheminDe("chat.rtf"));
-    EXPECT_FALSE(banc.état.TexteModifié);
-}
-
 // ---- New ---------------------------------------------------------------------------------------------------------
 
 TEST(Editeur, NouveauVideLeTexteEtLesNoms)
