@@ -17,6 +17,7 @@ constexpr int ChoixProposés = 3; // of a question that comes new, or comes back
 std::vector<EtatInitial> Choix()
 {
     std::vector<EtatInitial> états;
+    états.reserve(ChoixAuDépart.size());
     for (const auto choix : ChoixAuDépart)
         états.push_back({.Caption = Texte{choix},
                          .ToolTipText = états.empty() ? u" Vous pouvez modifier ou effacer ces libellés. "
@@ -54,6 +55,7 @@ frmQuestions::frmQuestions(Application& application)
 Arrangement frmQuestions::Disposer()
 {
     std::vector<Arrangement> choix;
+    choix.reserve(ChoixParQuestion + 1);
     for (int i = 0; i < ChoixParQuestion; ++i)
         choix.emplace_back(Ligne{chkRéponse(i), Extensible(txtChoix(i))});
     choix.emplace_back(Ressort{});

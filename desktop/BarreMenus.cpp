@@ -5,6 +5,7 @@
 #include "desktop/JeuDeVues.h"
 
 #include <QAction>
+#include <QEvent>
 #include <QFontMetrics>
 #include <QMenu>
 #include <QStyleOption>

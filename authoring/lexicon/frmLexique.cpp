@@ -210,6 +210,7 @@ void frmLexique::ChargerDicTexte()
     if (!Charger(dicTexte_, NomDicTexte(état.TitreFichierTexte), fgDic, Cellules::Toutes))
         return;
     std::vector<Texte> mots;
+    mots.reserve(static_cast<std::size_t>(fgDic.Rows()));
     for (int rangée = 0; rangée < fgDic.Rows(); ++rangée)
         mots.push_back(fgDic.TextMatrix(rangée, ColonneMot));
     cmbListe(SélecteurDicTexte).AddItems(std::move(mots));

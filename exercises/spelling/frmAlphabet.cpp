@@ -108,6 +108,7 @@ void frmAlphabet::Ranger(const std::optional<Déplacement>& déplacement)
 {
     if (déplacement) {
         std::vector<Texte> mots;
+        mots.reserve(static_cast<std::size_t>(cmbMots.ListCount()));
         for (int i = 0; i < cmbMots.ListCount(); ++i)
             mots.push_back(rtfMot(i).Text());
         Déplacer(mots, *déplacement);

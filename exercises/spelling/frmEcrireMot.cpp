@@ -62,9 +62,8 @@ Texte Raccourcir(Texte phrase, VueTexte mot)
         return phrase;
     const auto début = place <= LongueurMaximale / 2 ? 0 : phrase.find(u' ', place - LongueurMaximale / 2);
     const auto fin = phrase.find(u' ', place + mot.size() + LongueurMaximale / 2);
-    Texte autour = phrase.substr(début, fin - début);
-    if (début > 0)
-        autour.insert(0, u"…");
+    Texte autour = début > 0 ? u"…" : u"";
+    autour.append(phrase, début, fin - début);
     return fin == Texte::npos ? autour : autour + u" …";
 }
 
