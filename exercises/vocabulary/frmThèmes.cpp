@@ -37,7 +37,7 @@ void frmThèmes::TirerThèmes()
         const int ligne = TirerLigne(application_.plateforme, fgThèmes, cmbNuméro);
         const auto& thème = fgThèmes.TextMatrix(ligne, ColonneThème);
         const auto& sousThème = fgThèmes.TextMatrix(ligne, ColonneSousThème);
-        Cacher(jeu_, i, sousThème.empty() ? thème : thème + u" / " + sousThème);
+        Cacher(jeu_, i, sousThème.empty() ? thème : Texte{thème}.append(u" / ").append(sousThème));
         txtThèmes(i).Text = Enchaîner(fgThèmes, ligne, PremierMotDeFamille, fgThèmes.Cols() - 1);
     }
     MontrerRéponses(jeu_);
