@@ -17,6 +17,11 @@ QWidget& SurfaceDe(QWidget& widget)
     return zone != nullptr ? *zone->viewport() : widget;
 }
 
+bool EstDeSouris(const QEvent& événement)
+{
+    return événement.type() >= QEvent::MouseButtonPress && événement.type() <= QEvent::MouseMove;
+}
+
 } // namespace
 
 Glisse::Glisse(const Hôte& hôte, const Vue& vue)
@@ -27,7 +32,8 @@ Glisse::Glisse(const Hôte& hôte, const Vue& vue)
 
 bool Glisse::eventFilter(QObject* /*visé*/, QEvent* événement)
 {
-    if (hôte_.Fermée())
+    // Of a window that is being destroyed the widgets still tell their end, and the host is no more.
+    if (!EstDeSouris(*événement) || hôte_.Fermée())
         return false;
     switch (événement->type()) {
     case QEvent::MouseButtonPress:
